@@ -1,0 +1,43 @@
+# The flags that every target of the project is built with, and the two functions that make targets.
+
+add_library(zv_flags INTERFACE)
+target_include_directories(zv_flags INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_options(zv_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wcast-qual -Wformat=2
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wduplicated-cond -Wlogical-op)
+if(ZV_SANITIZE)
+  target_compile_options(zv_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(zv_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(ZV_COVERAGE)
+  target_compile_options(zv_flags INTERFACE --coverage)
+  target_link_options(zv_flags INTERFACE --coverage)
+endif()
+
+# zv_library(<folder> SOURCES <file>... [LINK <library>...] [LINK_PRIVATE <library>...])
+#
+# Makes the static library zv_<folder> of one folder. Without sources it is an interface library.
+function(zv_library folder)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+  if(ARG_SOURCES)
+    add_library(zv_${folder} STATIC ${ARG_SOURCES})
+    target_link_libraries(zv_${folder} PUBLIC zv_flags ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
+  else()
+    add_library(zv_${folder} INTERFACE)
+    target_link_libraries(zv_${folder} INTERFACE zv_flags ${ARG_LINK})
+  endif()
+endfunction()
+
+# zv_test(<name> SOURCES <file>... [LINK <library>...] [LABELS <label>...] [ENVIRONMENT <setting>...])
+#
+# Makes one GoogleTest program of a test folder and registers it with ctest as one test. Tests that
+# need a screen carry the label "screen".
+function(zv_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE zv_flags ${ARG_LINK} GTest::gtest GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ARG_LABELS}"
+    ENVIRONMENT "LP_NUM_THREADS=0;${ARG_ENVIRONMENT}")
+endfunction()
