@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// The records of a BMP file as they lie on disk: little-endian, without gaps.
+#pragma once
+
+#include <cstdint>
+
+namespace libutils {
+
+#pragma pack(push, 1)
+
+/// The first 14 bytes of the file.
+struct tagBITMAPFILEHEADER {
+    std::uint16_t bfType;  ///< "BM", 19778
+    std::uint32_t bfSize;  ///< data size + 54 when written, never read
+    std::uint16_t bfReserved1;
+    std::uint16_t bfReserved2;
+    std::uint32_t bfOffBits;  ///< file offset of the pixels
+};
+
+/// The 40 bytes from file offset 14.
+struct tagBITMAPINFOHEADER {
+    std::uint32_t biSize;
+    std::uint32_t biWidth;   ///< pixels
+    std::uint32_t biHeight;  ///< rows, running bottom to top; taken as positive
+    std::uint16_t biPlanes;
+    std::uint16_t biBitCount;     ///< bits of one pixel
+    std::uint32_t biCompression;  ///< 0 for plain pixels, the only kind that is read
+    std::uint32_t biSizeImage;
+    std::uint32_t biXPelsPerMeter;
+    std::uint32_t biYPelsPerMeter;
+    std::uint32_t biClrUsed;
+    std::uint32_t biClrImportant;
+};
+
+/// One palette entry.
+struct tagRGBQUAD {
+    std::uint8_t rgbBlue;
+    std::uint8_t rgbGreen;
+    std::uint8_t rgbRed;
+    std::uint8_t rgbReserved;
+};
+
+#pragma pack(pop)
+
+static_assert(sizeof(tagBITMAPFILEHEADER) == 14);
+static_assert(sizeof(tagBITMAPINFOHEADER) == 40);
+static_assert(sizeof(tagRGBQUAD) == 4);
+
+}  // namespace libutils
