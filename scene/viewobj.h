@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// One picture on its way from a file to the screen: decoded, cut into tiles, drawn as one rectangle.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "codecs/imageobject.h"
+#include "geometry/vector.h"
+#include "gl/grobject.h"
+#include "gl/texture.h"
+#include "image/image.h"
+#include "scene/squaretiles.h"
+#include "scene/tiletextures.h"
+#include "utils/ptr.h"
+
+namespace zanolib {
+
+/// One picture. It lies in the plane z = 0, centred on the origin, one unit to a pixel, and is never scaled
+/// or turned in memory: that is the business of the view matrix above it.
+class ViewObject : public libgr::grObject3D {
+  public:
+    ViewObject() = default;
+    /// Field by field. The filter record of a copy's textures stays that of the original until the next
+    /// `setImage`, so only empty objects are worth copying.
+    ViewObject(const ViewObject&) = default;
+    ViewObject& operator=(const ViewObject&) = delete;
+    ~ViewObject() override = default;
+
+    /// Loads and tiles the file at `path` with the codec that the extension names. `datapath` isn't used.
+    /// False, silently, for an extension without a codec, a codec's failure, a picture without pixels or
+    /// with a side beyond 2^31 - 1, and indices that can't be resolved. Asks the GL for its largest texture,
+    /// so it needs a current context, but makes no GL object.
+    bool setImage(const char* path, const char* datapath);
+
+    /// Creates the tile textures unless they are there. Needs a current context.
+    void load_texture();
+    /// Lets go of the tile textures. Needs a current context when they were loaded.
+    void free_texture();
+    /// Whether the GL holds all tile textures resident.
+    [[nodiscard]] bool is_resident() const { return m_texobject.isResident(); }
+
+    /// Chooses smooth or blocky magnification. A display list made before keeps what it recorded.
+    void setMagSmooth(bool on);
+    [[nodiscard]] bool getMagSmooth() const { return m_magsmooth; }
+
+    /// Width and height of the stored picture in pixels, before any turn.
+    [[nodiscard]] libgr::direction2l_t getImageSize() const;
+    /// Quarter turns to the right that the file asks for; 0 until a load succeeds.
+    [[nodiscard]] unsigned long rightrotatecount() const { return m_rightrotatecount; }
+
+    using grObject3D::Draw;
+    /// Draws the tiles; nothing before `load_texture`. Needs a current context.
+    void Draw() const override;
+
+  private:
+    /// The codec for the extension of `path`, made when there is none left over; null for no codec.
+    static libgr::image_object_t* find_codec(const std::string& path);
+    static void release_codecs();
+
+    std::string m_path;
+    std::vector<unsigned char> m_bytes;
+    unsigned long m_rightrotatecount = 0;
+    libgr::image2d_t m_image;
+    multi_square_image_t m_squareimage;
+    multi_texture_object_t m_texobject;
+    libgr::texparameter2d_t m_texparameter;
+    bool m_texture_loaded = false;
+    bool m_magsmooth = true;
+
+    // A codec lives here for one load; one left over from a failed load serves the next.
+    static libutils::ptr_t<libgr::image_object_t> m_jpeg1imgobj;
+    static libutils::ptr_t<libgr::image_object_t> m_bmpimgobj;
+    static libutils::ptr_t<libgr::image_object_t> m_pngimgobj;
+    static libutils::ptr_t<libgr::image_object_t> m_tgaimgobj;
+};
+
+}  // namespace zanolib
