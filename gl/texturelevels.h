@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+// What the texture images with mipmap levels have in common: the records and how they are to go up.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "geometry/color.h"
+#include "gl/texture.h"
+#include "image/image.h"
+#include "utils/bits.h"
+
+namespace libgr {
+
+/// The longest side of a record in pixels.
+inline unsigned int longest_side(const image1d_t& image) {
+    return image.m_width;
+}
+inline unsigned int longest_side(const image2d_t& image) {
+    return libutils::max2(image.m_width, image.m_height);
+}
+inline unsigned int longest_side(const image3d_t& image) {
+    return libutils::max2(libutils::max2(image.m_width, image.m_height), image.m_depth);
+}
+
+/// The internal format of an image that goes up with the argument `compressed`, GL_INVALID_VALUE if
+/// it can't.
+unsigned int internal_format_of(image_desc_t desc, bool compressed);
+/// GL_INVALID_VALUE: the internal format where there is no image.
+unsigned int no_internal_format();
+
+/// Image records and upload settings of a texture whose levels are of type `image_t`.
+///
+/// The records share their bytes with the caller's. Parameter record and border colour are not
+/// owned and must outlive the object; null leaves OpenGL's values alone.
+template <typename image_t, typename parameter_t>
+class grTexturableLevels : public grTexturableImageGL {
+  public:
+    /// Passes the alpha-only compression wish on to the format conversion.
+    void setInternalCompression(bool compress) { m_internalcompression = compress; }
+    /// Has the levels below level 0 generated.
+    void setBuildMipmap(bool build) { m_buildmipmap = build; }
+    /// Gives the texture a border of one pixel.
+    void setBorder(bool border) { m_border = border; }
+    void setTextureParameter(const parameter_t* parameter) { m_texparameter = parameter; }
+    void setBorderColor(const color3a_t* color) { m_bordercolor = color; }
+
+    /// Drops the image records; the other settings stay, and so does what is in the OpenGL texture.
+    void clear() { m_images.clear(); }
+
+    /// The internal format of the first image, its own `compressed` field asking for compression;
+    /// GL_INVALID_VALUE when it has none or there is no image.
+    unsigned int GetInternalFormat() const override {
+        return m_images.empty() ? no_internal_format()
+                                : internal_format_of(m_images[0].desc, m_images[0].compressed);
+    }
+
+  protected:
+    /// Makes the vector exactly `first + images.size()` long and puts the images at its end.
+    void replace_from(unsigned long first, std::span<const image_t> images, unsigned int size) {
+        m_images.resize(first + images.size());
+        assign_at(first, images, size);
+    }
+    /// Makes the vector at least `first + images.size()` long and puts the images at `first`.
+    void overwrite_from(unsigned long first, std::span<const image_t> images, unsigned int size) {
+        if (m_images.size() < first + images.size()) {
+            m_images.resize(first + images.size());
+        }
+        assign_at(first, images, size);
+    }
+
+    std::vector<image_t> m_images;
+    unsigned int m_size = 0;  ///< 0: textures of the image's size; else what the side comes from
+    bool m_internalcompression = false;
+    bool m_buildmipmap = false;
+    bool m_border = false;
+    const parameter_t* m_texparameter = nullptr;
+    const color3a_t* m_bordercolor = nullptr;
+
+  private:
+    void assign_at(unsigned long first, std::span<const image_t> images, unsigned int size) {
+        m_size = size;
+        for (const image_t& image : images) {
+            m_images[first++] = image;
+            if (size != 0) {
+                m_size = libutils::max2(m_size, longest_side(image));
+            }
+        }
+    }
+};
+
+}  // namespace libgr
