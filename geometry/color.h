@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// Colours in floats and bytes, and the conversions between them.
+#pragma once
+
+#include "geometry/matrix.h"
+#include "utils/bits.h"
+
+namespace libgr {
+
+/// Red, green, blue, each 0 to 1.
+struct color3_t {
+    float r, g, b;
+    bool operator==(color3_t const&) const = default;
+};
+
+/// The same with alpha; its four floats go to OpenGL as they stand.
+struct color3a_t {
+    float r, g, b, a;
+    bool operator==(color3a_t const&) const = default;
+};
+
+struct color3ub_t {
+    unsigned char r, g, b;
+    bool operator==(color3ub_t const&) const = default;
+};
+
+struct color3aub_t {
+    unsigned char r, g, b, a;
+    bool operator==(color3aub_t const&) const = default;
+};
+
+struct color1ub_t {
+    unsigned char gray;
+};
+
+struct color1aub_t {
+    unsigned char gray, a;
+};
+
+struct color3b_t {
+    signed char r, g, b;
+};
+
+/// Luma and chroma; a chroma byte holds a two's complement value with the top bit flipped.
+struct ycbcrub_t {
+    unsigned char y, cb, cr;
+};
+
+static_assert(sizeof(color3a_t) == 16 && sizeof(color3ub_t) == 3 && sizeof(color3aub_t) == 4);
+
+constexpr color3_t color3(float r, float g, float b) {
+    return {r, g, b};
+}
+constexpr color3a_t color3a(float r, float g, float b, float a) {
+    return {r, g, b, a};
+}
+constexpr color3a_t color3a(color3_t const& c, float a) {
+    return {c.r, c.g, c.b, a};
+}
+constexpr color3ub_t color3ub(unsigned char r, unsigned char g, unsigned char b) {
+    return {r, g, b};
+}
+constexpr color3aub_t color3aub(unsigned char r, unsigned char g, unsigned char b,
+                                unsigned char a) {
+    return {r, g, b, a};
+}
+constexpr color1ub_t color1ub(unsigned char gray) {
+    return {gray};
+}
+constexpr color1aub_t color1aub(unsigned char gray, unsigned char a) {
+    return {gray, a};
+}
+constexpr color3b_t color3b(signed char r, signed char g, signed char b) {
+    return {r, g, b};
+}
+constexpr ycbcrub_t ycbcrub(unsigned char y, unsigned char cb, unsigned char cr) {
+    return {y, cb, cr};
+}
+
+/// Bytes 0 to 255 to floats 0 to 1, all four channels.
+constexpr color3a_t color3a(color3aub_t c) {
+    return {libutils::uc2f(c.r), libutils::uc2f(c.g), libutils::uc2f(c.b), libutils::uc2f(c.a)};
+}
+
+/// Scales all four components, alpha too.
+constexpr color3a_t operator*(color3a_t const& c, float f) {
+    return {c.r * f, c.g * f, c.b * f, c.a * f};
+}
+
+/// By `matrix_rgb2ycbcr`; chroma 1.0 is 127 above the offset of 128, and the range is symmetric.
+ycbcrub_t ycbcrub(color3ub_t c);
+/// The way back by `matrix_ycbcr2rgb`, held within 0 to 255.
+color3ub_t color3ub(ycbcrub_t c);
+
+}  // namespace libgr

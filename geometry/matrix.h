@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// The 4x4 matrix in OpenGL memory order, and general matrices for cofactor work.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+
+#include "geometry/vector.h"
+
+namespace libgr {
+
+/// R rows of C floats.
+template <std::size_t R, std::size_t C>
+struct tmatrix_t {
+    float m[R][C];
+
+    constexpr float (&operator[](std::size_t r))[C] { return m[r]; }
+    constexpr float const (&operator[](std::size_t r) const)[C] { return m[r]; }
+};
+
+/// 4x4 matrix: m[r][c] is float number 4r + c. Vectors are row vectors, so the translation stands
+/// in m[3][0..2], and in A * B the transform A acts first. This is the memory order of OpenGL: the
+/// floats go to glMultMatrixf, glLoadMatrixf and glGetFloatv with no transposing.
+struct matrix3w_t {
+    vector3w_t rows[4];
+
+    constexpr vector3w_t& operator[](std::size_t r) { return rows[r]; }
+    constexpr vector3w_t const& operator[](std::size_t r) const { return rows[r]; }
+
+    /// The 16 floats from m[0][0] on, as OpenGL takes and gives them.
+    float* data() { return &rows[0].x; }
+    float const* data() const { return &rows[0].x; }
+
+    constexpr operator tmatrix_t<4, 4>() const { return std::bit_cast<tmatrix_t<4, 4>>(*this); }
+    bool operator==(matrix3w_t const&) const = default;
+};
+static_assert(sizeof(matrix3w_t) == 16 * sizeof(float));
+
+constexpr matrix3w_t matrix3w(vector3w_t const& row0, vector3w_t const& row1,
+                              vector3w_t const& row2, vector3w_t const& row3) {
+    return {{row0, row1, row2, row3}};
+}
+constexpr matrix3w_t matrix3w(tmatrix_t<4, 4> const& m) {
+    return std::bit_cast<matrix3w_t>(m);
+}
+
+/// The row vector `v` through `m`: element c is the sum over r of v[r] * m[r][c].
+vector3w_t operator*(vector3w_t const& v, matrix3w_t const& m);
+/// `v` as a column: element r is the sum over c of m[r][c] * v[c].
+vector3w_t operator*(matrix3w_t const& m, vector3w_t const& v);
+/// The transform that does `a` first and then `b`.
+matrix3w_t operator*(matrix3w_t const& a, matrix3w_t const& b);
+
+matrix3w_t Transpose(matrix3w_t const& m);
+
+/// `m` without row `row` and column `col`.
+template <std::size_t N>
+constexpr tmatrix_t<N - 1, N - 1> shrink(tmatrix_t<N, N> const& m, std::size_t row,
+                                         std::size_t col) {
+    tmatrix_t<N - 1, N - 1> minor{};
+    for (std::size_t r = 0; r + 1 < N; ++r)
+        for (std::size_t c = 0; c + 1 < N; ++c)
+            minor[r][c] = m[r + (r >= row)][c + (c >= col)];
+    return minor;
+}
+
+/// By cofactor expansion along the last row, in floats.
+template <std::size_t N>
+constexpr float Determinant(tmatrix_t<N, N> const& m) {
+    if constexpr (N == 1) {
+        return m[0][0];
+    } else {
+        float sum = 0.0f;
+        for (std::size_t c = 0; c < N; ++c) {
+            float const term = m[N - 1][c] * Determinant<N - 1>(shrink<N>(m, N - 1, c));
+            sum += (N - 1 + c) % 2 == 0 ? term : -term;
+        }
+        return sum;
+    }
+}
+
+/// By the adjugate (the transposed cofactors over the determinant). A singular matrix isn't
+/// detected: it gives infinities or NaNs.
+template <std::size_t N>
+constexpr tmatrix_t<N, N> Invert(tmatrix_t<N, N> const& m) {
+    float const factor = 1.0f / Determinant<N>(m);
+    tmatrix_t<N, N> inverse{};
+    for (std::size_t r = 0; r < N; ++r) {
+        for (std::size_t c = 0; c < N; ++c) {
+            float const cofactor = Determinant<N - 1>(shrink<N>(m, c, r)) * factor;
+            inverse[r][c] = (r + c) % 2 == 0 ? cofactor : -cofactor;
+        }
+    }
+    return inverse;
+}
+
+/// Of the whole 4x4 matrix; for turns, uniform scales and moves, the cube of the scale.
+float Determinant(matrix3w_t const& m);
+/// As `Invert` of `tmatrix_t`: a singular matrix gives infinities or NaNs.
+matrix3w_t Invert(matrix3w_t const& m);
+
+/// The move by `p`: the identity with `p` in row 3.
+constexpr matrix3w_t getTranslateMatrix(position3_t const& p) {
+    return {{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {p.x, p.y, p.z, 1}}};
+}
+constexpr matrix3w_t getTranslateMatrix(direction3_t const& d) {
+    return getTranslateMatrix(pos3(d));
+}
+/// The move in `m`: the first three values of row 3.
+constexpr position3_t getTranslateVector(matrix3w_t const& m) {
+    return {m[3].x, m[3].y, m[3].z};
+}
+/// The scale by `d`: the diagonal (d.x, d.y, d.z, 1).
+constexpr matrix3w_t getScaleMatrix(direction3_t const& d) {
+    return {{{d.x, 0, 0, 0}, {0, d.y, 0, 0}, {0, 0, d.z, 0}, {0, 0, 0, 1}}};
+}
+
+}  // namespace libgr

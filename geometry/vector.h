@@ -1,0 +1,347 @@
+// SPDX-License-Identifier: MIT
+// Points, directions, sizes and texture coordinates, with their arithmetic.
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+#include "utils/bits.h"
+
+namespace libgr {
+
+/// A point in the plane.
+struct position2_t {
+    float x, y;
+    bool operator==(position2_t const&) const = default;
+};
+
+/// A vector in the plane; sizes too.
+struct direction2_t {
+    float x, y;
+    bool operator==(direction2_t const&) const = default;
+};
+
+/// A point in pixels.
+struct position2l_t {
+    std::int32_t x, y;
+    bool operator==(position2l_t const&) const = default;
+};
+
+/// A size or an offset in pixels.
+struct direction2l_t {
+    std::int32_t x, y;
+    bool operator==(direction2l_t const&) const = default;
+};
+
+/// A size or an offset in 16 bits an axis.
+struct direction2s_t {
+    std::int16_t x, y;
+    bool operator==(direction2s_t const&) const = default;
+};
+
+/// A size without a sign.
+struct direction2ul_t {
+    std::uint32_t x, y;
+    bool operator==(direction2ul_t const&) const = default;
+};
+
+/// A point in space; right-handed axes, as in OpenGL.
+struct position3_t {
+    float x, y, z;
+    bool operator==(position3_t const&) const = default;
+};
+
+/// A vector in space, or one value for each axis, such as a scale.
+struct direction3_t {
+    float x, y, z;
+    bool operator==(direction3_t const&) const = default;
+};
+
+/// Homogeneous vector.
+struct vector3w_t {
+    float x, y, z, w;
+
+    /// Component `i`, 0 to 3 for x, y, z, w.
+    constexpr float& operator[](std::size_t i) { return i == 0 ? x : i == 1 ? y : i == 2 ? z : w; }
+    constexpr float const& operator[](std::size_t i) const {
+        return i == 0 ? x : i == 1 ? y : i == 2 ? z : w;
+    }
+    bool operator==(vector3w_t const&) const = default;
+};
+
+// Texture coordinates; `q` is the homogeneous coordinate.
+struct texcoord1_t {
+    float s;
+};
+struct texcoord2_t {
+    float s, t;
+};
+struct texcoord2q_t {
+    float s, t, q;
+};
+struct texcoord3_t {
+    float s, t, r;
+};
+struct texcoord3q_t {
+    float s, t, r, q;
+};
+
+// Arrays of these go to GL vertex arrays, so nothing may stand between the numbers.
+static_assert(sizeof(position2_t) == 8 && std::is_trivially_copyable_v<position2_t>);
+static_assert(sizeof(position3_t) == 12 && std::is_trivially_copyable_v<position3_t>);
+static_assert(sizeof(vector3w_t) == 16 && std::is_trivially_copyable_v<vector3w_t>);
+static_assert(sizeof(texcoord2_t) == 8 && std::is_trivially_copyable_v<texcoord2_t>);
+
+constexpr position2_t position2(float x, float y) {
+    return {x, y};
+}
+constexpr direction2_t direction2(float x, float y) {
+    return {x, y};
+}
+constexpr position2l_t position2l(std::int32_t x, std::int32_t y) {
+    return {x, y};
+}
+constexpr direction2l_t direction2l(std::int32_t x, std::int32_t y) {
+    return {x, y};
+}
+constexpr position3_t position3(float x, float y, float z) {
+    return {x, y, z};
+}
+constexpr direction3_t direction3(float x, float y, float z) {
+    return {x, y, z};
+}
+/// The same value on all three axes.
+constexpr direction3_t direction3(float v) {
+    return {v, v, v};
+}
+constexpr vector3w_t vector3w(float x, float y, float z, float w) {
+    return {x, y, z, w};
+}
+constexpr texcoord1_t texcoord1(float s) {
+    return {s};
+}
+constexpr texcoord2_t texcoord2(float s, float t) {
+    return {s, t};
+}
+constexpr texcoord2q_t texcoord2q(float s, float t, float q) {
+    return {s, t, q};
+}
+constexpr texcoord3_t texcoord3(float s, float t, float r) {
+    return {s, t, r};
+}
+constexpr texcoord3q_t texcoord3q(float s, float t, float r, float q) {
+    return {s, t, r, q};
+}
+
+// Casts between the families keep the numbers.
+constexpr position2_t pos2(direction2_t v) {
+    return {v.x, v.y};
+}
+constexpr direction2_t dir2(position2_t v) {
+    return {v.x, v.y};
+}
+constexpr position2l_t pos2l(direction2l_t v) {
+    return {v.x, v.y};
+}
+constexpr direction2l_t dir2l(position2l_t v) {
+    return {v.x, v.y};
+}
+constexpr position3_t pos3(direction3_t const& v) {
+    return {v.x, v.y, v.z};
+}
+constexpr direction3_t dir3(position3_t const& v) {
+    return {v.x, v.y, v.z};
+}
+
+constexpr direction2_t direction2(direction2l_t v) {
+    return {static_cast<float>(v.x), static_cast<float>(v.y)};
+}
+
+/// `v` cut towards zero. A value that no 32-bit integer holds gives the nearest one, NaN gives 0.
+constexpr std::int32_t truncate_to_int32(float v) {
+    constexpr float limit = 2147483648.0f;
+    if (v >= limit)
+        return std::numeric_limits<std::int32_t>::max();
+    if (v <= -limit)
+        return std::numeric_limits<std::int32_t>::min();
+    return v == v ? static_cast<std::int32_t>(v) : 0;
+}
+
+/// Both components by `truncate_to_int32`.
+constexpr direction2l_t direction2l(direction2_t v) {
+    return {truncate_to_int32(v.x), truncate_to_int32(v.y)};
+}
+
+/// The greatest difference between two floats that `compare` takes for equal.
+inline constexpr float COMPARE_THRESHOLD = 1e-05f;
+
+/// 0 when the two differ by no more than `COMPARE_THRESHOLD`, else the sign of a - b. A NaN equals
+/// nothing.
+inline int compare(float a, float b) {
+    float const difference = a - b;
+    if (std::fabs(difference) <= COMPARE_THRESHOLD)
+        return 0;
+    return difference < 0.0f ? -1 : 1;
+}
+
+constexpr direction2_t operator-(position2_t a, position2_t b) {
+    return {a.x - b.x, a.y - b.y};
+}
+constexpr direction2_t operator*(direction2_t a, direction2_t b) {
+    return {a.x * b.x, a.y * b.y};
+}
+constexpr direction2_t operator*(direction2_t v, float f) {
+    return {v.x * f, v.y * f};
+}
+constexpr direction2_t operator/(float f, direction2_t v) {
+    return {f / v.x, f / v.y};
+}
+
+/// Component by component, and exactly 1 where the two are equal, so that 0 over 0 is 1: an empty
+/// picture in an empty window keeps its scale.
+constexpr direction2_t operator/(direction2_t a, direction2_t b) {
+    return {a.x == b.x ? 1.0f : a.x / b.x, a.y == b.y ? 1.0f : a.y / b.y};
+}
+
+/// Equal to an integer when both components are, so `!=` is true when either differs.
+constexpr bool operator==(direction2l_t v, int n) {
+    return v.x == n && v.y == n;
+}
+
+/// The smaller component.
+constexpr float min1(direction2_t v) {
+    return libutils::min2(v.x, v.y);
+}
+/// The larger component.
+constexpr float max1(direction2_t v) {
+    return libutils::max2(v.x, v.y);
+}
+
+constexpr direction3_t operator-(position3_t const& a, position3_t const& b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+constexpr position3_t operator-(position3_t const& v) {
+    return {-v.x, -v.y, -v.z};
+}
+constexpr direction3_t operator-(direction3_t const& v) {
+    return {-v.x, -v.y, -v.z};
+}
+constexpr direction3_t operator*(direction3_t const& v, float f) {
+    return {v.x * f, v.y * f, v.z * f};
+}
+constexpr direction3_t& operator*=(direction3_t& v, float f) {
+    return v = v * f;
+}
+constexpr direction3_t& operator+=(direction3_t& a, direction3_t const& b) {
+    return a = {a.x + b.x, a.y + b.y, a.z + b.z};
+}
+
+/// Each component of `base` to the power of the same component of `exponent`.
+inline direction3_t pow(direction3_t const& base, direction3_t const& exponent) {
+    return {std::pow(base.x, exponent.x), std::pow(base.y, exponent.y),
+            std::pow(base.z, exponent.z)};
+}
+
+/// a . b
+constexpr float ScalarProduct(direction3_t const& a, direction3_t const& b) {
+    return a.x * b.x + a.y * b.y + a.z * b.z;
+}
+
+/// Euclidean length, in floats.
+inline float Length(direction3_t const& v) {
+    return std::sqrt(ScalarProduct(v, v));
+}
+
+/// The vector at length 1; a zero length gives (0, 0, 0).
+inline direction3_t Normalize(direction3_t const& v) {
+    float const length = Length(v);
+    return length == 0.0f ? direction3_t{} : v * (1.0f / length);
+}
+inline position3_t Normalize(position3_t const& v) {
+    return pos3(Normalize(dir3(v)));
+}
+/// `w` has no part in the length and comes out as 0.
+inline vector3w_t Normalize(vector3w_t const& v) {
+    direction3_t const n = Normalize(direction3(v.x, v.y, v.z));
+    return {n.x, n.y, n.z, 0.0f};
+}
+
+/// a x b
+constexpr direction3_t CrossProduct(direction3_t const& a, direction3_t const& b) {
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
+/// (p1 - p0) x (p2 - p1): the normal of a counter-clockwise triangle.
+constexpr direction3_t CrossProduct(position3_t const& p0, position3_t const& p1,
+                                    position3_t const& p2) {
+    return CrossProduct(p1 - p0, p2 - p1);
+}
+/// The same at length 1; a triangle without an area gives (0, 0, 0).
+inline direction3_t CrossProductWithNormalize(position3_t const& p0, position3_t const& p1,
+                                              position3_t const& p2) {
+    return Normalize(CrossProduct(p0, p1, p2));
+}
+
+/// a . (b x c), the signed volume of the parallelepiped.
+constexpr float ScalarTriProduct(direction3_t const& a, direction3_t const& b,
+                                 direction3_t const& c) {
+    return ScalarProduct(a, CrossProduct(b, c));
+}
+/// The same for the three edges that leave p0.
+constexpr float ScalarTriProduct(position3_t const& p0, position3_t const& p1,
+                                 position3_t const& p2, position3_t const& p3) {
+    return ScalarTriProduct(p1 - p0, p2 - p0, p3 - p0);
+}
+
+/// The point with w = 1.
+constexpr vector3w_t Generalize(position3_t const& p) {
+    return {p.x, p.y, p.z, 1.0f};
+}
+/// The point of a homogeneous vector: x, y, z over w, unchanged when w is 0.
+constexpr position3_t SpecializeToPos(vector3w_t const& v) {
+    return v.w == 0.0f ? position3(v.x, v.y, v.z) : position3(v.x / v.w, v.y / v.w, v.z / v.w);
+}
+/// The normalized (x, y, z); w has no part in it.
+inline direction3_t SpecializeToDir(vector3w_t const& v) {
+    return Normalize(direction3(v.x, v.y, v.z));
+}
+
+/// `c` cut towards zero to a multiple of `q`.
+inline float round_to_quotient(float c, float q) {
+    return std::trunc(c * (1.0f / q)) * q;
+}
+/// `c` brought up, towards positive infinity, to a multiple of `q` (`q` positive).
+inline float roundup_to_quotient(float c, float q) {
+    float const r = round_to_quotient(c, q);
+    return r < c ? r + q : r;
+}
+
+inline direction3_t round_to_quotient(direction3_t const& v, direction3_t const& q) {
+    return {round_to_quotient(v.x, q.x), round_to_quotient(v.y, q.y), round_to_quotient(v.z, q.z)};
+}
+inline direction3_t round_to_quotient(direction3_t const& v, float q) {
+    return round_to_quotient(v, direction3(q));
+}
+inline position3_t round_to_quotient(position3_t const& v, direction3_t const& q) {
+    return pos3(round_to_quotient(dir3(v), q));
+}
+inline position3_t round_to_quotient(position3_t const& v, float q) {
+    return round_to_quotient(v, direction3(q));
+}
+
+inline direction3_t roundup_to_quotient(direction3_t const& v, direction3_t const& q) {
+    return {roundup_to_quotient(v.x, q.x), roundup_to_quotient(v.y, q.y),
+            roundup_to_quotient(v.z, q.z)};
+}
+inline direction3_t roundup_to_quotient(direction3_t const& v, float q) {
+    return roundup_to_quotient(v, direction3(q));
+}
+inline position3_t roundup_to_quotient(position3_t const& v, direction3_t const& q) {
+    return pos3(roundup_to_quotient(dir3(v), q));
+}
+inline position3_t roundup_to_quotient(position3_t const& v, float q) {
+    return roundup_to_quotient(v, direction3(q));
+}
+
+}  // namespace libgr
