@@ -10,15 +10,15 @@ namespace libgr {
 class grPalette {
   public:
     grPalette() = default;
-    grPalette(const grPalette&) = delete;
-    grPalette& operator=(const grPalette&) = delete;
+    grPalette(grPalette const&) = delete;
+    grPalette& operator=(grPalette const&) = delete;
     /// Switches GL_MAP_COLOR off if a palette was loaded; the maps keep their values.
     ~grPalette();
 
     /// Sets the maps GL_PIXEL_MAP_I_TO_R, _G and _B to the planes of `palette` (`palette.size`
     /// entries of 0 to 65535 each) and GL_MAP_COLOR to 1. An empty palette does nothing, and so
     /// does one with planes shorter than its size.
-    void Load(const palette_t& palette);
+    void Load(palette_t const& palette);
 
   private:
     bool loaded = false;

@@ -21,10 +21,10 @@ class grTexture2D : public grTexturableLevels<image2d_t, texparameter2d_t> {
     /// With `size` 0 the texture gets the size of its image. Otherwise it is the smallest
     /// power-of-two square that holds `size` and the image's sides, in pixels; the image lies in
     /// its lower left corner and the rest is undefined.
-    void setImage(const image2d_t& image, unsigned int size, unsigned long level);
+    void setImage(image2d_t const& image, unsigned int size, unsigned long level);
     /// Makes `images` the pictures of the levels from `level` on; other levels stay. `size` is as
     /// for setImage, over all the images given.
-    void setImages(const std::vector<image2d_t>& images, unsigned int size, unsigned long level);
+    void setImages(std::vector<image2d_t> const& images, unsigned int size, unsigned long level);
 
     unsigned long Dimension() const override { return 2; }
     /// Creates storage and pixels in the texture bound to GL_TEXTURE_2D. Without images nothing is

@@ -13,13 +13,13 @@
 namespace libgr {
 
 /// The longest side of a record in pixels.
-inline unsigned int longest_side(const image1d_t& image) {
+inline unsigned int longest_side(image1d_t const& image) {
     return image.m_width;
 }
-inline unsigned int longest_side(const image2d_t& image) {
+inline unsigned int longest_side(image2d_t const& image) {
     return libutils::max2(image.m_width, image.m_height);
 }
-inline unsigned int longest_side(const image3d_t& image) {
+inline unsigned int longest_side(image3d_t const& image) {
     return libutils::max2(libutils::max2(image.m_width, image.m_height), image.m_depth);
 }
 
@@ -42,8 +42,8 @@ class grTexturableLevels : public grTexturableImageGL {
     void setBuildMipmap(bool build) { m_buildmipmap = build; }
     /// Gives the texture a border of one pixel.
     void setBorder(bool border) { m_border = border; }
-    void setTextureParameter(const parameter_t* parameter) { m_texparameter = parameter; }
-    void setBorderColor(const color3a_t* color) { m_bordercolor = color; }
+    void setTextureParameter(parameter_t const* parameter) { m_texparameter = parameter; }
+    void setBorderColor(color3a_t const* color) { m_bordercolor = color; }
 
     /// Drops the image records; the other settings stay, and so does what is in the OpenGL texture.
     void clear() { m_images.clear(); }
@@ -57,12 +57,12 @@ class grTexturableLevels : public grTexturableImageGL {
 
   protected:
     /// Makes the vector exactly `first + images.size()` long and puts the images at its end.
-    void replace_from(unsigned long first, std::span<const image_t> images, unsigned int size) {
+    void replace_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
         m_images.resize(first + images.size());
         assign_at(first, images, size);
     }
     /// Makes the vector at least `first + images.size()` long and puts the images at `first`.
-    void overwrite_from(unsigned long first, std::span<const image_t> images, unsigned int size) {
+    void overwrite_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
         if (m_images.size() < first + images.size()) {
             m_images.resize(first + images.size());
         }
@@ -74,13 +74,13 @@ class grTexturableLevels : public grTexturableImageGL {
     bool m_internalcompression = false;
     bool m_buildmipmap = false;
     bool m_border = false;
-    const parameter_t* m_texparameter = nullptr;
-    const color3a_t* m_bordercolor = nullptr;
+    parameter_t const* m_texparameter = nullptr;
+    color3a_t const* m_bordercolor = nullptr;
 
   private:
-    void assign_at(unsigned long first, std::span<const image_t> images, unsigned int size) {
+    void assign_at(unsigned long first, std::span<image_t const> images, unsigned int size) {
         m_size = size;
-        for (const image_t& image : images) {
+        for (image_t const& image : images) {
             m_images[first++] = image;
             if (size != 0) {
                 m_size = libutils::max2(m_size, longest_side(image));

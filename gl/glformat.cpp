@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// How an image description is spoken of to OpenGL: internal format, pixel format and pixel type.
+#include "gl/glformat.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include "gl/glformattables.h"
+#include "glext/glextloader.h"
+#include "utils/diagnostics.h"
+
+namespace libgr {
+namespace {
+
+// A bit for each format value; RG and DEPTH_STENCIL are left out.
+constexpr unsigned int s_accepted_formats = 0x3DF7F;
+
+bool is_accepted(e_image_format_t format) {
+    return format < IMAGE_FORMAT_MAX && ((s_accepted_formats >> format) & 1U) != 0;
+}
+
+bool convert(gl_loading_format_t* out, image_desc_t desc, bool compress) {
+    if (out == nullptr || !is_accepted(desc.format)) {
+        return false;
+    }
+    out->format = find_gl_pixelformat(desc.format)->glformat;
+    auto const rows = gl_typebits_rows(desc.format);
+    auto const row = std::ranges::find_if(rows, [desc](gl_typebits_row_t const& r) {
+        return r.imagetype == desc.type && r.imagebits == desc.bits;
+    });
+    if (row == rows.end() || row->internalformat == GL_INVALID_VALUE ||
+        row->type == GL_INVALID_VALUE) {
+        return false;
+    }
+    out->internalformat = row->internalformat;
+    out->type = row->type;
+    if (compress && is_GL_ARB_texture_compression_supported != 0 &&
+        out->internalformat == GL_ALPHA) {
+        out->internalformat = GL_COMPRESSED_ALPHA;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t desc,
+                                        bool compress) {
+    bool const converted = convert(out, desc, compress);
+    if (!converted) {
+        grReportUnsupportedImage(desc);
+    }
+    return converted;
+}
+
+void grReportUnsupportedImage(image_desc_t desc) {
+    libutils::error();
+    std::cerr << "Not supported image format!" << std::endl;
+    std::cerr << "imgformat: " << desc.format << std::endl;
+    std::cerr << "imgtype: " << desc.type << std::endl;
+    // Readers of the error stream see hexadecimal numbers from here on; that is how it has always
+    // been.
+    std::cerr << std::hex << "imgbits: " << desc.bits << std::endl;
+}
+
+}  // namespace libgr
