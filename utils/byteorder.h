@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// Conversions from a file's byte order to the host's, which is little-endian.
+#pragma once
+
+#include <bit>
+
+namespace libutils {
+
+static_assert(std::endian::native == std::endian::little,
+              "on a big-endian host the roles of the two byte orders must be swapped");
+
+/// The byte order of one file, for a reader that learns it from the file's own mark.
+class byteorder {
+  public:
+    virtual unsigned short tohs(unsigned short value) const = 0;
+    virtual unsigned int tohl(unsigned int value) const = 0;
+    virtual unsigned long long tohll(unsigned long long value) const = 0;
+    virtual ~byteorder() = default;
+};
+
+/// Least significant byte first ("II" in a TIFF header).
+class intel_byteorder final : public byteorder {
+  public:
+    unsigned short tohs(unsigned short value) const override { return value; }
+    unsigned int tohl(unsigned int value) const override { return value; }
+    unsigned long long tohll(unsigned long long value) const override { return value; }
+};
+
+/// Most significant byte first ("MM" in a TIFF header).
+class motorola_byteorder final : public byteorder {
+  public:
+    unsigned short tohs(unsigned short value) const override { return __builtin_bswap16(value); }
+    unsigned int tohl(unsigned int value) const override { return __builtin_bswap32(value); }
+    unsigned long long tohll(unsigned long long value) const override {
+        return __builtin_bswap64(value);
+    }
+};
+
+constexpr unsigned short itohs(unsigned short value) {
+    return value;
+}
+constexpr unsigned int itohl(unsigned int value) {
+    return value;
+}
+constexpr unsigned long long itohll(unsigned long long value) {
+    return value;
+}
+constexpr unsigned long long mtohll(unsigned long long value) {
+    return __builtin_bswap64(value);
+}
+
+}  // namespace libutils
