@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// The windowing library's calls in the application's types.
+#include "app/nativewindow.h"
+
+#define GLFW_INCLUDE_NONE
+#include <GLFW/glfw3.h>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+namespace zanoview2::native {
+
+namespace {
+
+constexpr int largest_window_side = 16384;
+
+int possible_side(int side) {
+    return std::clamp(side, 1, largest_window_side);
+}
+
+}  // namespace
+
+bool start() {
+    return glfwInit() == GLFW_TRUE;
+}
+
+void stop() {
+    glfwTerminate();
+}
+
+libgr::direction2l_t window_size(GLFWwindow* window) {
+    libgr::direction2l_t size{};
+    glfwGetWindowSize(window, &size.x, &size.y);
+    return size;
+}
+
+libgr::direction2l_t framebuffer_size(GLFWwindow* window) {
+    libgr::direction2l_t size{};
+    glfwGetFramebufferSize(window, &size.x, &size.y);
+    return size;
+}
+
+libgr::position2l_t window_position(GLFWwindow* window) {
+    libgr::position2l_t position{};
+    glfwGetWindowPos(window, &position.x, &position.y);
+    return position;
+}
+
+libgr::direction2l_t work_area(GLFWwindow*) {
+    int x = 0;
+    int y = 0;
+    libgr::direction2l_t size{};
+    if (GLFWmonitor* monitor = glfwGetPrimaryMonitor()) {
+        glfwGetMonitorWorkarea(monitor, &x, &y, &size.x, &size.y);
+    }
+    return size;
+}
+
+void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
+    glfwSetWindowSize(window, possible_side(size.x), possible_side(size.y));
+}
+
+void set_window_position(GLFWwindow* window, libgr::position2l_t const& position) {
+    glfwSetWindowPos(window, position.x, position.y);
+}
+
+void set_title(GLFWwindow* window, std::string const& title) {
+    glfwSetWindowTitle(window, title.c_str());
+}
+
+void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
+    using namespace std::chrono_literals;
+    libgr::direction2l_t const wanted =
+        libgr::direction2l(possible_side(size.x), possible_side(size.y));
+    auto const deadline = std::chrono::steady_clock::now() + 100ms;
+    while (window_size(window) != wanted && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::sleep_for(1ms);
+    }
+}
+
+void iconify(GLFWwindow* window) {
+    glfwIconifyWindow(window);
+}
+
+void restore(GLFWwindow* window) {
+    glfwRestoreWindow(window);
+}
+
+bool is_shift_down(GLFWwindow* window) {
+    return glfwGetKey(window, GLFW_KEY_LEFT_SHIFT) == GLFW_PRESS ||
+           glfwGetKey(window, GLFW_KEY_RIGHT_SHIFT) == GLFW_PRESS;
+}
+
+}  // namespace zanoview2::native

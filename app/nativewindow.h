@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// The calls that the application makes on the windowing library itself: sizes, places, titles.
+//
+// Every function but start and stop needs a window that is up, and runs on the main thread.
+#pragma once
+
+#include <string>
+
+#include "geometry/vector.h"
+
+struct GLFWwindow;
+
+namespace zanoview2::native {
+
+/// Starts the windowing library; false when there is no display to start on.
+bool start();
+/// Ends the windowing library; every window that still stands goes with it.
+void stop();
+
+/// The window's size in screen coordinates.
+libgr::direction2l_t window_size(GLFWwindow* window);
+/// The size of what OpenGL draws into, in pixels.
+libgr::direction2l_t framebuffer_size(GLFWwindow* window);
+/// The place of the window's upper left corner on the virtual screen.
+libgr::position2l_t window_position(GLFWwindow* window);
+/// The size of the primary monitor's area that no panel covers; 0, 0 without a monitor.
+libgr::direction2l_t work_area(GLFWwindow* window);
+
+/// Asks for a window size in screen coordinates. Sizes that no window can have are brought into
+/// the range from 1 to 16384 first. A window manager may grant the size later or not at all.
+void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
+void set_window_position(GLFWwindow* window, libgr::position2l_t const& position);
+void set_title(GLFWwindow* window, std::string const& title);
+
+/// Waits until the window has the size that was just asked for, at most a tenth of a second: a
+/// window manager answers late, and what is fitted into the window needs the size it will have.
+void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
+
+/// Takes the window down and brings it up again.
+void iconify(GLFWwindow* window);
+void restore(GLFWwindow* window);
+
+/// True while a Shift key is held down.
+bool is_shift_down(GLFWwindow* window);
+
+}  // namespace zanoview2::native

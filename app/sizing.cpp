@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// Window sizes and picture scales.
+#include "app/sizing.h"
+
+#include <cmath>
+#include <limits>
+
+#include "utils/bits.h"
+
+namespace zanoview2 {
+
+namespace {
+
+int limited_axis(int target, int current, int margin_limit, int size_limit,
+                 zanolib::option_t const& options) {
+    bool const changes =
+        (target > current && options.resize_magnify) || (target < current && options.resize_shrink);
+    if (!changes) {
+        return current;
+    }
+    switch (options.sizelimit) {
+        case 1:
+            return libutils::min2(margin_limit, target);
+        case 2:
+            return libutils::min2(size_limit, target);
+        default:
+            return target;
+    }
+}
+
+int truncated(float value) {
+    constexpr auto limit = static_cast<float>(std::numeric_limits<int>::max());
+    if (!(std::fabs(value) < limit)) {
+        return std::isnan(value) ? 0 : std::numeric_limits<int>::max();
+    }
+    return static_cast<int>(value);
+}
+
+}  // namespace
+
+libgr::direction2l_t limited_window_size(libgr::direction2l_t const& target,
+                                         libgr::direction2l_t const& current,
+                                         libgr::direction2l_t const& window,
+                                         zanolib::option_t const& options) {
+    return libgr::direction2l(limited_axis(target.x, current.x, window.x - options.maxmargin[0],
+                                           options.maxsize[0], options),
+                              limited_axis(target.y, current.y, window.y - options.maxmargin[1],
+                                           options.maxsize[1], options));
+}
+
+libgr::direction2l_t wanted_window_size(libgr::direction2l_t const& image, float ratio) {
+    libgr::direction2_t const wanted = libgr::direction2(image) * ratio;
+    return libgr::direction2l(truncated(wanted.x), truncated(wanted.y));
+}
+
+float fitting_scale(libgr::direction2l_t const& image, libgr::direction2l_t const& window,
+                    float ratio) {
+    float const tighter = libgr::max1(libgr::direction2(image) / libgr::direction2(window));
+    return tighter != 0.0f && std::isfinite(tighter) ? ratio / tighter : 0.0f;
+}
+
+float resuming_scale(libgr::direction2l_t const& saved, libgr::direction2l_t const& window) {
+    return libgr::min1(libgr::direction2(window) / libgr::direction2(saved));
+}
+
+float reshaping_scale(int height, int old_height) {
+    if (height == old_height || height <= 0 || old_height <= 0) {
+        return 1.0f;
+    }
+    return static_cast<float>(height) / static_cast<float>(old_height);
+}
+
+}  // namespace zanoview2

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// How the application comes up, and what all its commands share.
+#include "app/viewwindow.h"
+
+#include <cstring>
+
+#include "app/nativewindow.h"
+#include "app/zvwfile.h"
+#include "glext/glextloader.h"
+#include "options/option.h"
+#include "options/userdefault.h"
+#include "utils/path.h"
+#include "window/glfwymgr4.h"
+
+namespace zanoview2 {
+
+namespace {
+
+void cut_exe_suffix(char* name) {
+    std::size_t const length = std::strlen(name);
+    if (libutils::extcasecmp(name, length, ".exe") == 0) {
+        name[length - 4] = '\0';
+    }
+}
+
+}  // namespace
+
+char const* getmsg(e_message_local_t id) {
+    return zanolib::getmsg(static_cast<zanolib::e_message_t>(id));
+}
+
+ViewWindow::ViewWindow(int* argc, char** argv) {
+    char const* const self = *argc > 0 ? argv[0] : "";
+    libutils::basename(prog.data(), self, prog.size());
+    libutils::dirname(dir.data(), self, dir.size());
+    prog.back() = '\0';
+    cut_exe_suffix(prog.data());
+    dir.back() = '\0';
+
+    zanolib::init_message(dir.data(), prog.data());
+    zanolib::option_init();
+    zanolib::option_load_user_default(prog.data(), dir.data());
+    zanolib::option_enter_argument(argc, &argv);
+
+    if (*argc < 2) {
+        setImagePath(".");
+    }
+    for (int i = 1; i < *argc; ++i) {
+        setImagePath(argv[i]);
+    }
+}
+
+void ViewWindow::init() {
+    gl_extloader_init();
+    scene.Init(dir.data());
+
+    GLFWwindow* const win = window();
+    native::set_title(
+        win, zanolib::make_title(getmsg(MESSAGE_APPLICATION_NAME), getmsg(MESSAGE_NO_PICTURE)));
+    libgr::direction2l_t const created = native::window_size(win);
+    auto const& winsize = zanolib::g_option.winsize;
+    native::set_window_size(win, libgr::direction2l(winsize[0], winsize[1]));
+    native::await_window_size(win, libgr::direction2l(winsize[0], winsize[1]));
+    if (covers_work_area()) {
+        cover_work_area(win);
+        native::await_window_size(win, native::work_area(win));
+    }
+
+    if (initial_load()) {
+        residue(true);
+        update_title();
+        scene.make_graph(dir.data());
+    }
+    // The scene needs its projection before the first drawing. A window that has not changed its
+    // size since it was made gets no size event, so nobody else would record the size either.
+    if (native::window_size(win) == created) {
+        set_shape();
+    } else {
+        libgr::direction2l_t const size = get_window_size();
+        scene.Reshape(static_cast<unsigned long>(size.x), static_cast<unsigned long>(size.y));
+    }
+    wenk::glfwyMGR4::getSingleton()->KeyRepeat(true);
+}
+
+void ViewWindow::display() {
+    scene.Display();
+}
+
+void ViewWindow::clear() {
+    scene.setCurrent(0);
+    while (scene.delImage()) {
+    }
+    imagelist.clear();
+    current = imagelist.end();
+    current_index = 0;
+    request_redisplay();
+}
+
+GLFWwindow* ViewWindow::window() const {
+    return wenk::glfwyMGR4::getSingleton()->win(const_cast<ViewWindow*>(this));
+}
+
+libgr::direction2l_t ViewWindow::get_window_size() const {
+    return native::framebuffer_size(window());
+}
+
+libgr::matrix3w_t const& ViewWindow::getMatrix() const {
+    return scene.getMatrix();
+}
+
+void ViewWindow::request_redisplay() const {
+    wenk::glfwyMGR4::getSingleton()->PostRedisplay();
+}
+
+void ViewWindow::menu_edit_save_zvwfile() {
+    if (current != imagelist.end()) {
+        zvwfile_t{get_window_size(), getMatrix()}.save(current->c_str());
+    }
+}
+
+void ViewWindow::menu_edit_delete_zvwfile() {
+    if (current != imagelist.end()) {
+        zvwfile_t{}.del(current->c_str());
+    }
+}
+
+void ViewWindow::menu_file_savejpeg() {
+    if (current != imagelist.end()) {
+        scene.saveImage(current->c_str());
+    }
+}
+
+void ViewWindow::menu_edit_writedefault() {
+    zanolib::option_save_user_default(prog.data(), dir.data());
+}
+
+}  // namespace zanoview2

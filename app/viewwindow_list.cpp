@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+// The list of pictures as the window pages through it.
+#include <iostream>
+#include <sstream>
+
+#include "app/nativewindow.h"
+#include "app/viewwindow.h"
+#include "options/message.h"
+#include "options/option.h"
+#include "window/glfwymgr4.h"
+
+namespace zanoview2 {
+
+class ViewWindow::stage_t final : public picture_stage_t {
+  public:
+    explicit stage_t(ViewWindow& owner) : m_owner(owner) {}
+
+    bool add(std::string const& path) override {
+        return m_owner.scene.addImage(path.c_str(), m_owner.dir.data());
+    }
+    void remove() override { m_owner.scene.delImage(); }
+
+  private:
+    ViewWindow& m_owner;
+};
+
+bool ViewWindow::setImagePath(char const* path) {
+    if (!append_pictures(imagelist, path)) {
+        return false;
+    }
+    current = imagelist.begin();
+    return true;
+}
+
+void ViewWindow::announce(std::string const& path) const {
+    if (zanolib::g_option.verbose) {
+        std::cout << "\ndisplay image: " << path << std::endl;
+    }
+}
+
+bool ViewWindow::initial_load() {
+    stage_t stage(*this);
+    picture_place_t place{};
+    image_count = imagelist.size();
+    bool const loaded = walk_initial(imagelist, place, stage);
+    current = place.entry;
+    current_index = place.index;
+    if (loaded) {
+        announce(*current);
+    }
+    return loaded;
+}
+
+/// Ends a walk: where nothing loaded, the old picture comes back.
+bool ViewWindow::settle(walk_t walk) {
+    if (walk == walk_t::refused) {
+        return false;
+    }
+    if (current == imagelist.end()) {
+        return true;
+    }
+    announce(*current);
+    if (walk == walk_t::stranded) {
+        scene.addImage(current->c_str(), dir.data());
+    }
+    return true;
+}
+
+namespace {
+
+/// Walks with the window's place in the list, which follows only a walk that moved.
+template <typename Walk>
+walk_t walk_from(picture_list_t::iterator& current, unsigned long& index, Walk walk) {
+    picture_place_t place{current, index};
+    walk_t const result = walk(place);
+    current = place.entry;
+    index = place.index;
+    return result;
+}
+
+}  // namespace
+
+bool ViewWindow::next_image(unsigned long n) {
+    stage_t stage(*this);
+    return settle(walk_from(current, current_index, [&](picture_place_t& place) {
+        return walk_forward(imagelist, place, n, stage);
+    }));
+}
+
+bool ViewWindow::back_image(unsigned long n) {
+    stage_t stage(*this);
+    return settle(walk_from(current, current_index, [&](picture_place_t& place) {
+        return walk_backward(imagelist, place, n, stage);
+    }));
+}
+
+bool ViewWindow::first_image() {
+    stage_t stage(*this);
+    return settle(walk_from(current, current_index, [&](picture_place_t& place) {
+        return walk_first(imagelist, place, stage);
+    }));
+}
+
+bool ViewWindow::last_image() {
+    stage_t stage(*this);
+    return settle(walk_from(current, current_index, [&](picture_place_t& place) {
+        return walk_last(imagelist, place, stage);
+    }));
+}
+
+/// What a change of picture by paging entails; the picture is on the screen when it returns.
+void ViewWindow::show_new_picture() {
+    scene.free_graph();
+    residue(true);
+    update_title();
+    scene.make_graph(dir.data());
+    display();
+    wenk::glfwyMGR4::getSingleton()->SwapBuffers(this);
+}
+
+void ViewWindow::forward(unsigned long n) {
+    if (next_image(n)) {
+        show_new_picture();
+    }
+}
+
+void ViewWindow::backward(unsigned long n) {
+    if (back_image(n)) {
+        show_new_picture();
+    }
+}
+
+void ViewWindow::first() {
+    scene.free_graph();
+    first_image();
+    residue(true);
+    update_title();
+    scene.make_graph(dir.data());
+    request_redisplay();
+}
+
+void ViewWindow::last() {
+    scene.free_graph();
+    last_image();
+    residue(true);
+    update_title();
+    scene.make_graph(dir.data());
+    request_redisplay();
+}
+
+void ViewWindow::reload() {
+    scene.free_graph();
+    native::iconify(window());
+    set_shape();
+    native::restore(window());
+    scene.make_graph(dir.data());
+}
+
+std::string ViewWindow::getCurrentTitleName() const {
+    if (current == imagelist.end()) {
+        return {};
+    }
+    std::ostringstream name;
+    name << *current << " (" << current_index + 1 << "/" << image_count << ")";
+    return name.str();
+}
+
+void ViewWindow::update_title() {
+    std::string const name = getCurrentTitleName();
+    std::string title;
+    if (name.empty()) {
+        zanolib::make_title2(title, getmsg(MESSAGE_APPLICATION_NAME), getmsg(MESSAGE_NO_PICTURE));
+    } else {
+        zanolib::make_title2(title, name.c_str(), getmsg(MESSAGE_APPLICATION_NAME));
+    }
+    native::set_title(window(), title);
+}
+
+}  // namespace zanoview2

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// Reading, writing and removing view state files.
+#include "app/zvwfile.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <fstream>
+#include <iostream>
+
+#include "geometry/textstream.h"
+#include "options/option.h"
+#include "utils/path.h"
+
+namespace zanoview2 {
+
+std::string make_zvwpath(char const* picture) {
+    std::array<char, 1025> directory{};
+    std::array<char, 256> stem{};
+    libutils::dirname(directory.data(), picture, directory.size());
+    libutils::basename(stem.data(), picture, stem.size());
+    directory.back() = '\0';
+    stem.back() = '\0';
+    return std::string(directory.data()) + stem.data() + ".zvw";
+}
+
+bool zvwfile_t::load(char const* picture) {
+    std::string const path = make_zvwpath(picture);
+    std::ifstream file(path);
+    if (!file) {
+        return false;
+    }
+    file >> size >> matrix;
+    file.close();
+    if (zanolib::g_option.debug) {
+        std::cout << size << std::endl;
+    }
+    if (zanolib::g_option.verbose) {
+        std::cout << path << ": zvwfile loaded." << std::endl;
+    }
+    return true;
+}
+
+bool zvwfile_t::save(char const* picture) const {
+    std::string const path = make_zvwpath(picture);
+    std::ofstream file(path);
+    if (!file) {
+        return false;
+    }
+    file << size << std::endl << matrix << std::endl;
+    file.close();
+    if (zanolib::g_option.verbose) {
+        std::cout << path << ": zvwfile saved." << std::endl;
+    }
+    return true;
+}
+
+bool zvwfile_t::del(char const* picture) const {
+    return unlink(make_zvwpath(picture).c_str()) == 0;
+}
+
+}  // namespace zanoview2
