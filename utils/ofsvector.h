@@ -13,6 +13,9 @@
 
 namespace libutils {
 
+/// `position` bytes behind the start of a storage, and null without one.
+void* byte_address(void* storage, unsigned long position);
+
 /// One storage and the count of the handles on it. It doesn't know the element type, so that
 /// handles of different types can look into one mapped file.
 template <typename A>
@@ -124,11 +127,8 @@ class refvector2 {
     unsigned long storage_bytes() const { return m_block != nullptr ? m_block->size : 0; }
 
     T* at_byte(unsigned long position) const {
-        if (m_block == nullptr || m_block->data == nullptr) {
-            return nullptr;
-        }
-        void* const address = static_cast<unsigned char*>(m_block->data) + position;
-        return static_cast<T*>(address);
+        return static_cast<T*>(
+            byte_address(m_block != nullptr ? m_block->data : nullptr, position));
     }
 
     /// Lets go of the present block, unless it is `block`, and shares `block`.
@@ -287,5 +287,8 @@ bool ofsvector<T, A>::resize(unsigned long number, unsigned long long position) 
     show_all();
     return true;
 }
+
+extern template class refvector2<unsigned char, alloc_mmap_unix>;
+extern template class ofsvector<unsigned char, alloc_mmap_unix>;
 
 }  // namespace libutils
