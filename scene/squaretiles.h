@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The plan by which a picture of any size is cut into square tiles, and the tile images that come of it.
+// The plan by which a picture of any size is cut into square tiles, and the tile images that come
+// of it.
 #pragma once
 
 #include <cstdint>
@@ -11,8 +12,9 @@
 
 namespace zanolib {
 
-/// The greatest number of tiles that a picture is cut into: some seventeen thousand million pixels in
-/// tiles of 256. A header that claims more can't be met by a file, and no records are made for it.
+/// The greatest number of tiles that a picture is cut into: some seventeen thousand million pixels
+/// in tiles of 256. A header that claims more can't be met by a file, and no records are made for
+/// it.
 inline constexpr std::uint64_t max_tiles = std::uint64_t{1} << 18;
 
 /// How one axis of a picture is cut.
@@ -31,17 +33,18 @@ struct tile_window_t {
 struct tile_plan_t {
     std::uint32_t width = 0, height = 0;  ///< the picture, in pixels
     axis_plan_t columns, rows;
-    std::uint32_t tile = 0;  ///< the side of every tile, in pixels: the larger of the two axes' sides
+    std::uint32_t tile =
+        0;  ///< the side of every tile, in pixels: the larger of the two axes' sides
 
     [[nodiscard]] std::uint32_t cols() const { return columns.full + columns.partial; }
     [[nodiscard]] std::uint32_t lines() const { return rows.full + rows.partial; }
-    /// What tile (`row`, `col`) shows, row 0 lowest. A tile that counts as full may ask for more than
-    /// the picture has on that axis: whoever cuts it clips it to the picture.
+    /// What tile (`row`, `col`) shows, row 0 lowest. A tile that counts as full may ask for more
+    /// than the picture has on that axis: whoever cuts it clips it to the picture.
     [[nodiscard]] tile_window_t window(std::uint32_t row, std::uint32_t col) const;
 };
 
-/// Cuts an axis of `extent` pixels into tiles of at most `maxsize` pixels. An extent that is no more than
-/// that becomes one tile, whose side is the next power of two.
+/// Cuts an axis of `extent` pixels into tiles of at most `maxsize` pixels. An extent that is no
+/// more than that becomes one tile, whose side is the next power of two.
 axis_plan_t plan_axis(std::uint32_t extent, std::uint32_t maxsize);
 
 /// Plans the tiles of a picture. A size or a limit of 0 gives a plan without tiles.
@@ -49,7 +52,8 @@ tile_plan_t plan_tiles(std::uint32_t width, std::uint32_t height, std::uint32_t 
 
 /// The tiles of one picture.
 struct multi_square_image_t {
-    std::vector<libgr::image2d_t> m_squares;  ///< row by row from the bottom, left to right in a row
+    std::vector<libgr::image2d_t>
+        m_squares;  ///< row by row from the bottom, left to right in a row
     libgr::e_image_format_t m_format = libgr::IMAGE_FORMAT_GRAYSCALE;
     libgr::e_image_type_t m_type = libgr::IMAGE_TYPE_UINT;
     libgr::e_image_bits_t m_bits = libgr::IMAGE_BITS_8;
@@ -57,16 +61,16 @@ struct multi_square_image_t {
     std::uint32_t m_rows = 0;
     libgr::direction2_t m_size{0.0f, 0.0f};  ///< the picture measured in tile sides
 
-    /// Makes `m_cols` times `m_rows` default images in place of what was there. False when there are more
-    /// than `max_tiles` or no memory for them; there are no tiles then.
+    /// Makes `m_cols` times `m_rows` default images in place of what was there. False when there
+    /// are more than `max_tiles` or no memory for them; there are no tiles then.
     bool allocate();
     /// Drops the tiles and sets the columns and rows to 0. `m_size` and the pixel description stay.
     void clear();
 };
 
-/// Cuts `in` into the squares of `plan_tiles`. With `use_window` each tile is a window that shares the
-/// pixels of `in`, without it a copy of its own. A compressed image, a size or a limit of 0 and a failed
-/// allocation are told on the error stream and give false.
+/// Cuts `in` into the squares of `plan_tiles`. With `use_window` each tile is a window that shares
+/// the pixels of `in`, without it a copy of its own. A compressed image, a size or a limit of 0 and
+/// a failed allocation are told on the error stream and give false.
 bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsigned long maxsize,
                           bool use_window);
 

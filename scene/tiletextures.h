@@ -12,31 +12,31 @@
 
 namespace zanolib {
 
-/// One 2-D texture for each tile of a picture. Described by `squares_to_texobjs`; only `Preload` makes GL
-/// objects. Copies share the GL textures.
+/// One 2-D texture for each tile of a picture. Described by `squares_to_texobjs`; only `Preload`
+/// makes GL objects. Copies share the GL textures.
 struct multi_texture_object_t {
-    std::vector<libgr::grTexture2D> m_textures;      ///< the descriptions, in the order of the tiles
-    std::vector<libgr::grTextureObject> m_texobjs;   ///< the GL textures; empty until `Preload`
-    const libgr::texparameter2d_t* m_texparm = nullptr;  ///< filters and wrap; not owned
+    std::vector<libgr::grTexture2D> m_textures;     ///< the descriptions, in the order of the tiles
+    std::vector<libgr::grTextureObject> m_texobjs;  ///< the GL textures; empty until `Preload`
+    libgr::texparameter2d_t const* m_texparm = nullptr;  ///< filters and wrap; not owned
     std::uint32_t m_cols = 0;
     std::uint32_t m_rows = 0;
     libgr::direction2_t m_size{0.0f, 0.0f};  ///< the picture measured in tile sides
 
     /// Sets the record that `draw_image` applies to each tile; it has to outlive this object.
-    void setTexParm(const libgr::texparameter2d_t* parm) { m_texparm = parm; }
+    void setTexParm(libgr::texparameter2d_t const* parm) { m_texparm = parm; }
     /// Creates and fills the GL textures. Needs a current context.
     void Preload();
     /// Lets go of the GL textures; a later `Preload` makes new ones. Needs a current context.
     void Unload();
     /// Whether the GL holds all textures resident. Those that aren't loaded don't count against it.
     [[nodiscard]] bool isResident() const;
-    /// Draws the tiles so that together they cover the rectangle from `btm_lft` to `top_rit`, in the plane
-    /// z = 0, facing +z, texels unchanged by light or colour. Draws no tile before `Preload`. Needs a
-    /// current context and may be compiled into a display list.
-    void draw_image(const libgr::position2_t& btm_lft, const libgr::position2_t& top_rit) const;
+    /// Draws the tiles so that together they cover the rectangle from `btm_lft` to `top_rit`, in
+    /// the plane z = 0, facing +z, texels unchanged by light or colour. Draws no tile before
+    /// `Preload`. Needs a current context and may be compiled into a display list.
+    void draw_image(libgr::position2_t const& btm_lft, libgr::position2_t const& top_rit) const;
 };
 
 /// Describes a texture for each tile of `in`, all of one size. Makes no GL object. Always true.
-bool squares_to_texobjs(multi_texture_object_t& out, const multi_square_image_t& in);
+bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const& in);
 
 }  // namespace zanolib

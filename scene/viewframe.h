@@ -10,24 +10,24 @@ namespace zanolib {
 
 /// The looks of the photo frame, the values of the option `frametype`.
 enum e_frametype_t : unsigned int {
-    FRAMETYPE_NONE = 0,         ///< nothing is drawn
-    FRAMETYPE_FLAT = 1,         ///< a flat band in the option `framecolor`
-    FRAMETYPE_BUMP_BROWN = 2,   ///< a bump-mapped band in brown
-    FRAMETYPE_BUMP_COLOR = 3,   ///< a bump-mapped band in three quarters of the option `framecolor`
-    FRAMETYPE_FLOWER = 4,       ///< a blended band with the flower texture
+    FRAMETYPE_NONE = 0,        ///< nothing is drawn
+    FRAMETYPE_FLAT = 1,        ///< a flat band in the option `framecolor`
+    FRAMETYPE_BUMP_BROWN = 2,  ///< a bump-mapped band in brown
+    FRAMETYPE_BUMP_COLOR = 3,  ///< a bump-mapped band in three quarters of the option `framecolor`
+    FRAMETYPE_FLOWER = 4,      ///< a blended band with the flower texture
 };
 
 /// The frame of one picture.
 class ViewFrame : public libgr::grObject3D {
   public:
     ViewFrame() = default;
-    ViewFrame(const ViewFrame&) = default;
-    ViewFrame& operator=(const ViewFrame&) = delete;
+    ViewFrame(ViewFrame const&) = default;
+    ViewFrame& operator=(ViewFrame const&) = delete;
     /// Frees nothing: what the frames share outlives them all.
     ~ViewFrame() override = default;
 
     /// Loads what all frames share, once; a missing file doesn't stop it. Makes no GL object.
-    static void init(const char* datapath);
+    static void init(char const* datapath);
     /// Drops the shared images.
     static void destroy();
 
@@ -36,7 +36,7 @@ class ViewFrame : public libgr::grObject3D {
     void setSize(libgr::direction2_t size, unsigned int width);
 
     /// Creates the GL objects of this frame's look. Needs a current context.
-    void make_graph(const char* datapath);
+    void make_graph(char const* datapath);
     /// Lets go of them.
     void free_graph();
 

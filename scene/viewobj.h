@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One picture on its way from a file to the screen: decoded, cut into tiles, drawn as one rectangle.
+// One picture on its way from a file to the screen: decoded, cut into tiles, drawn as one
+// rectangle.
 #pragma once
 
 #include <string>
@@ -16,22 +17,28 @@
 
 namespace zanolib {
 
-/// One picture. It lies in the plane z = 0, centred on the origin, one unit to a pixel, and is never scaled
-/// or turned in memory: that is the business of the view matrix above it.
+/// One picture. It lies in the plane z = 0, centred on the origin, one unit to a pixel, and is
+/// never scaled or turned in memory: that is the business of the view matrix above it.
 class ViewObject : public libgr::grObject3D {
   public:
-    ViewObject() = default;
-    /// Field by field. The filter record of a copy's textures stays that of the original until the next
-    /// `setImage`, so only empty objects are worth copying.
-    ViewObject(const ViewObject&) = default;
-    ViewObject& operator=(const ViewObject&) = delete;
+    ViewObject();
+    /// Field by field. The filter record of a copy's textures stays that of the original until the
+    /// next `setImage`, so only empty objects are worth copying.
+    ViewObject(ViewObject const&) = default;
+    ViewObject& operator=(ViewObject const&) = delete;
     ~ViewObject() override = default;
 
-    /// Loads and tiles the file at `path` with the codec that the extension names. `datapath` isn't used.
-    /// False, silently, for an extension without a codec, a codec's failure, a picture without pixels or
-    /// with a side beyond 2^31 - 1, and indices that can't be resolved. Asks the GL for its largest texture,
-    /// so it needs a current context, but makes no GL object.
-    bool setImage(const char* path, const char* datapath);
+    /// Loads and tiles the file at `path` with the codec that the extension names. `datapath` isn't
+    /// used. False, silently, for an extension without a codec, a codec's failure, a picture
+    /// without pixels or with a side beyond 2^31 - 1, and indices that can't be resolved. Asks the
+    /// GL for its largest texture, so it needs a current context, but makes no GL object.
+    bool setImage(char const* path, char const* datapath);
+
+    /// Writes what the window shows now, frame and view included, as a JPEG beside the picture at
+    /// `path`: with
+    /// ".zvw.jpg" in place of the extension. False when the window can't be read or the file not be
+    /// written. Needs a current context.
+    bool saveImage(char const* path);
 
     /// Creates the tile textures unless they are there. Needs a current context.
     void load_texture();
@@ -55,7 +62,7 @@ class ViewObject : public libgr::grObject3D {
 
   private:
     /// The codec for the extension of `path`, made when there is none left over; null for no codec.
-    static libgr::image_object_t* find_codec(const std::string& path);
+    static libgr::image_object_t* find_codec(std::string const& path);
     static void release_codecs();
 
     std::string m_path;

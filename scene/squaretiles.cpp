@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// Plans the square tiles of a picture and cuts them out of it.
+#include "scene/squaretiles.h"
+
+#include <algorithm>
+#include <iostream>
+#include <new>
+
+#include "image/pixelconvert.h"
+#include "options/option.h"
+#include "utils/bits.h"
+#include "utils/diagnostics.h"
+
+namespace zanolib {
+
+namespace {
+
+bool refuse(char const* reason) {
+    libutils::error();
+    std::cerr << "rectangle_to_squares()" << reason << std::endl;
+    return false;
+}
+
+bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const& window,
+              bool use_window) {
+    libgr::image2d_t copied;
+    libgr::image2d_t& target = use_window ? tile : copied;
+    if (!libgr::makewindow(target, in, static_cast<int>(window.x), static_cast<int>(window.y),
+                           window.width, window.height)) {
+        return refuse(": makewindow() failed.");
+    }
+    if (!use_window && !libgr::copy(tile, copied)) {
+        return refuse(": copy() failed.");
+    }
+    return true;
+}
+
+}  // namespace
+
+tile_window_t tile_plan_t::window(std::uint32_t row, std::uint32_t col) const {
+    return {.x = col * tile,
+            .y = row * tile,
+            .width = col < columns.full ? tile : width % tile,
+            .height = row < rows.full ? tile : height % tile};
+}
+
+axis_plan_t plan_axis(std::uint32_t extent, std::uint32_t maxsize) {
+    if (extent > maxsize) {
+        return {
+            .full = extent / maxsize, .partial = extent % maxsize != 0 ? 1U : 0U, .side = maxsize};
+    }
+    if (libutils::Is_2nSize(extent)) {
+        return {.full = 1, .partial = 0, .side = extent};
+    }
+    return {.full = 0,
+            .partial = 1,
+            .side = libutils::UpAlignBits(extent, libutils::Get_TopBitPos(extent))};
+}
+
+tile_plan_t plan_tiles(std::uint32_t width, std::uint32_t height, std::uint32_t maxsize) {
+    if (width == 0 || height == 0 || maxsize == 0) {
+        return {};
+    }
+    const axis_plan_t columns = plan_axis(width, maxsize);
+    const axis_plan_t rows = plan_axis(height, maxsize);
+    return {.width = width,
+            .height = height,
+            .columns = columns,
+            .rows = rows,
+            .tile = std::max(columns.side, rows.side)};
+}
+
+bool multi_square_image_t::allocate() {
+    m_squares.clear();
+    const std::uint64_t count = std::uint64_t{m_cols} * m_rows;
+    if (count > max_tiles) {
+        return false;
+    }
+    try {
+        m_squares.resize(count);
+    } catch (std::bad_alloc const&) {
+        return false;
+    }
+    return m_squares.size() == count;
+}
+
+void multi_square_image_t::clear() {
+    m_squares.clear();
+    m_cols = 0;
+    m_rows = 0;
+}
+
+bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsigned long maxsize,
+                          bool use_window) {
+    if (g_option.debug) {
+        std::cerr << "rectangle_to_squares()" << std::endl;
+        std::cerr << "inimg: " << in.m_width << ", " << in.m_height << std::endl;
+        std::cerr << "maxsize: " << maxsize << std::endl;
+    }
+    if (in.compressed) {
+        return refuse(": compressed format not supported.");
+    }
+    auto const limit = static_cast<std::uint32_t>(std::min<unsigned long>(maxsize, UINT32_MAX));
+    const tile_plan_t plan = plan_tiles(in.m_width, in.m_height, limit);
+    out.m_format = in.desc.format;
+    out.m_type = in.desc.type;
+    out.m_bits = in.desc.bits;
+    out.m_cols = plan.cols();
+    out.m_rows = plan.lines();
+    if (plan.tile == 0 || !out.allocate()) {
+        out.clear();
+        return refuse(": outimg allocate failed.");
+    }
+    float const scale = 1.0f / static_cast<float>(plan.tile);
+    out.m_size = libgr::direction2(static_cast<float>(in.m_width) * scale,
+                                   static_cast<float>(in.m_height) * scale);
+    for (std::uint32_t row = 0; row < out.m_rows; ++row) {
+        for (std::uint32_t col = 0; col < out.m_cols; ++col) {
+            libgr::image2d_t& tile = out.m_squares[std::size_t{row} * out.m_cols + col];
+            if (!cut_tile(tile, in, plan.window(row, col), use_window)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+}  // namespace zanolib

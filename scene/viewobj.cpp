@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+// The choice of the codec, the way from a file to tile textures, and the drawing of a picture.
+#include "scene/viewobj.h"
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <iostream>
+
+#include "codecs/bmpimage2.h"
+#include "codecs/png.h"
+#include "codecs/tga.h"
+#include "gl/grerror.h"
+#include "gl/readpixels.h"
+#include "glext/glextloader.h"
+#include "image/pixelconvert.h"
+#include "options/option.h"
+#include "utils/path.h"
+
+namespace zanolib {
+
+namespace {
+
+// Larger tiles are never made, however much the GL allows.
+constexpr GLint max_tile_side = 256;
+
+using codec_ptr_t = libutils::ptr_t<libgr::image_object_t>;
+
+struct codec_row_t {
+    char const* extension;  // with its dot; told apart without regard to case
+    codec_ptr_t* codec;
+    libgr::image_object_t* (*make)();
+};
+
+template <class T>
+libgr::image_object_t* make_codec() {
+    return new T;
+}
+
+void debug_line(std::string const& line) {
+    if (g_option.debug) {
+        std::cerr << line << std::endl;
+    }
+}
+
+GLint tile_limit() {
+    GLint most = 0;
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &most);
+    if (g_option.debug) {
+        std::cerr << "max_tex_size: " << most << std::endl;
+    }
+    return std::clamp(most, 1, max_tile_side);
+}
+
+bool has_pixels(libgr::image2d_t const& image) {
+    return !image.empty() && image.m_width > 0 && image.m_width <= INT_MAX && image.m_height > 0 &&
+           image.m_height <= INT_MAX;
+}
+
+std::string snapshot_path(char const* picture) {
+    std::array<char, 1025> directory{};
+    std::array<char, 256> stem{};
+    libutils::dirname(directory.data(), picture, directory.size());
+    libutils::basename(stem.data(), picture, stem.size());
+    directory.back() = '\0';
+    stem.back() = '\0';
+    return std::string(directory.data()) + stem.data() + ".zvw.jpg";
+}
+
+bool resolve_indices(libgr::image2d_t& image) {
+    if (image.desc.format != libgr::IMAGE_FORMAT_INDEX) {
+        return true;
+    }
+    libgr::image2d_t rgb;
+    if (!libgr::index2rgb(rgb, image)) {
+        return false;
+    }
+    image = rgb;
+    return true;
+}
+
+}  // namespace
+
+codec_ptr_t ViewObject::m_jpeg1imgobj;
+codec_ptr_t ViewObject::m_bmpimgobj;
+codec_ptr_t ViewObject::m_pngimgobj;
+codec_ptr_t ViewObject::m_tgaimgobj;
+
+ViewObject::ViewObject()
+    : m_texparameter(libgr::texparameter2d(GL_LINEAR_MIPMAP_LINEAR, GL_LINEAR, GL_CLAMP_TO_EDGE,
+                                           GL_CLAMP_TO_EDGE, 1.0f)) {}
+
+libgr::image_object_t* ViewObject::find_codec(std::string const& path) {
+    static constexpr codec_row_t codecs[] = {
+        {".bmp", &m_bmpimgobj, make_codec<libgr::image_bmp2_t>},
+        {".png", &m_pngimgobj, make_codec<libgr::image_png_t>},
+        {".tga", &m_tgaimgobj, make_codec<libgr::image_tga_t>},
+    };
+    for (codec_row_t const& row : codecs) {
+        if (libutils::extcasecmp(path, row.extension) == 0) {
+            if (!*row.codec) {
+                *row.codec = row.make();
+            }
+            return *row.codec;
+        }
+    }
+    return nullptr;
+}
+
+void ViewObject::release_codecs() {
+    for (codec_ptr_t* codec : {&m_jpeg1imgobj, &m_tgaimgobj, &m_bmpimgobj, &m_pngimgobj}) {
+        codec->free();
+    }
+}
+
+bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
+    m_path = path;
+    libgr::image_object_t* const codec = find_codec(m_path);
+    if (codec == nullptr) {
+        return false;
+    }
+    m_image.store = nullptr;
+    if (!codec->load(m_image, path) || !has_pixels(m_image)) {
+        return false;
+    }
+    m_rightrotatecount = codec->rightrotatecount();
+    const GLint limit = tile_limit();
+    if (!resolve_indices(m_image)) {
+        return false;
+    }
+    libgr::grPrintError("before rectangle_to_squares");
+    // A picture that can't be cut is shown as far as its tiles go.
+    rectangle_to_squares(m_squareimage, m_image, static_cast<unsigned long>(limit), true);
+    libgr::grPrintError("rectangle-to-squares");
+    debug_line("rectangle_to_square() complete.");
+    squares_to_texobjs(m_texobject, m_squareimage);
+    libgr::grPrintError("squares_to_texobjs");
+    m_texobject.setTexParm(&m_texparameter);
+    debug_line("ViewObject::setImage() end");
+    release_codecs();
+    return true;
+}
+
+bool ViewObject::saveImage(char const* path) {
+    const std::string name = snapshot_path(path);
+    libgr::image2d_t image;
+    if (!libgr::grReadPixelsRGB(image)) {
+        debug_line(name + ": read pixels fail.");
+        return false;
+    }
+    debug_line(name + ": jpeg1 save fail.");
+    return false;
+}
+
+void ViewObject::load_texture() {
+    if (!m_texture_loaded) {
+        m_texobject.Preload();
+        m_texture_loaded = true;
+    }
+}
+
+void ViewObject::free_texture() {
+    if (m_texture_loaded) {
+        m_texobject.Unload();
+        m_texture_loaded = false;
+    }
+}
+
+void ViewObject::setMagSmooth(bool on) {
+    m_magsmooth = on;
+    m_texparameter.magfilter = on ? GL_LINEAR : GL_NEAREST;
+}
+
+libgr::direction2l_t ViewObject::getImageSize() const {
+    return libgr::direction2l_t{static_cast<int>(m_image.m_width),
+                                static_cast<int>(m_image.m_height)};
+}
+
+void ViewObject::Draw() const {
+    if (!m_texture_loaded) {
+        return;
+    }
+    libgr::grPrintError("before-ViewObject::Draw()");
+    debug_line("ViewObject::Draw()");
+    auto const width = static_cast<float>(m_image.m_width);
+    auto const height = static_cast<float>(m_image.m_height);
+    m_texobject.draw_image(libgr::position2(width * -0.5f, height * -0.5f),
+                           libgr::position2(width * 0.5f, height * 0.5f));
+    libgr::grPrintError("after-ViewObject::Draw()");
+}
+
+}  // namespace zanolib
