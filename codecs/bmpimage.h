@@ -5,7 +5,6 @@
 #include "codecs/bmprecords.h"
 #include "codecs/imageobject.h"
 #include "utils/allocator.h"
-#include "utils/ofsvector.h"
 
 namespace libgr {
 
@@ -13,7 +12,7 @@ namespace libgr {
 struct bmpimage_t {
     libutils::tagBITMAPFILEHEADER fileheader{};
     libutils::tagBITMAPINFOHEADER infoheader{};
-    libutils::ofsvector<unsigned char, libutils::alloc_mmap_unix> pixels;
+    image_bytes_t pixels;
 
     /// Reads the file; a palette is skipped unread. False, without a message, for a file that can't
     /// be opened, isn't BMP, is cut within its headers, has its pixel offset past its end, or

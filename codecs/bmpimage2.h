@@ -18,7 +18,7 @@ struct bmpimage2_t {
     view_t<libutils::tagBITMAPINFOHEADER> infoheader;
     /// The count holds the palette area's size in bytes, not its entries.
     view_t<libutils::tagRGBQUAD> palette;
-    view_t<unsigned char> pixels;
+    image_bytes_t pixels;
 
     /// Maps the file read-only and points the views at its parts; no field is checked. False when
     /// the file can't be mapped or ends before its pixel offset can be read.

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+// The BMP reader for pictures whose pixel format the caller knows.
+#include "codecs/bmpload.h"
+
+#include <cstdint>
+#include <fstream>
+#include <optional>
+#include <utility>
+
+#include "codecs/bmpstream.h"
+#include "codecs/claims.h"
+#include "codecs/streambytes.h"
+
+namespace libgr {
+
+namespace {
+
+/// Swaps the first and third byte of each 3-byte pixel, stepping by rows padded to 4 bytes, as far
+/// as the block goes.
+void swap_red_and_blue(image_bytes_t& pixels, std::uint64_t width, std::uint64_t height) {
+    std::uint64_t const row_size = (3 * width + 3) / 4 * 4;
+    std::uint64_t const size = pixels.size();
+    unsigned char* const data = pixels.begin();
+    for (std::uint64_t y = 0; y < height && y * row_size < size; ++y) {
+        std::uint64_t p = y * row_size;
+        for (std::uint64_t x = 0; x < width && p + 3 <= size; ++x, p += 3) {
+            std::swap(data[p], data[p + 2]);
+        }
+    }
+}
+
+}  // namespace
+
+bool BmpLoad(image2d_t& image, char const* path, e_image_format_t format) {
+    std::ifstream stream(path, std::ios_base::binary);
+    libutils::tagBITMAPFILEHEADER fileheader{};
+    libutils::tagBITMAPINFOHEADER infoheader{};
+    if (!stream || !read_bmp_headers(stream, fileheader, infoheader) ||
+        infoheader.biCompression != 0 || infoheader.biBitCount == 16) {
+        return false;
+    }
+    image.m_width = infoheader.biWidth;
+    image.m_height = infoheader.biHeight;
+    std::optional<std::uint64_t> const row =
+        checked_product(infoheader.biBitCount >> 3, image.m_width);
+    std::optional<std::uint64_t> const size =
+        row ? checked_product(*row, image.m_height) : std::nullopt;
+    if (!size || !is_bearable_claim(*size, bytes_left(stream)) ||
+        !read_pixels(image, stream, *size)) {
+        return false;
+    }
+    image.desc.format = format;
+    image.desc.type = IMAGE_TYPE_UINT;
+    switch (infoheader.biBitCount) {
+        case 1:
+            image.desc.bits = IMAGE_BITS_1;
+            break;
+        case 4:
+            image.desc.bits = IMAGE_BITS_4;
+            break;
+        case 24:
+            swap_red_and_blue(image, image.m_width, image.m_height);
+            [[fallthrough]];
+        case 8:
+            image.desc.bits = IMAGE_BITS_8;
+            break;
+        default:
+            break;
+    }
+    image.compressed = false;
+    return true;
+}
+
+}  // namespace libgr

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Pixel bytes between streams and shared blocks.
+#include "codecs/streambytes.h"
+
+namespace libgr {
+
+std::uint64_t bytes_left(std::istream& stream) {
+    std::streamoff const position = stream.tellg();
+    stream.seekg(0, std::ios_base::end);
+    std::streamoff const end = stream.tellg();
+    stream.seekg(position);
+    return stream && end > position ? static_cast<std::uint64_t>(end - position) : 0;
+}
+
+bool read_pixels(image_bytes_t& pixels, std::istream& stream, std::uint64_t size) {
+    image_bytes_t block;
+    if (size != 0) {
+        if (!block.resize(size, 0)) {
+            return false;
+        }
+        stream.read(reinterpret_cast<char*>(block.begin()), static_cast<std::streamsize>(size));
+    }
+    pixels = block;
+    return true;
+}
+
+void write_pixels(std::ostream& stream, image_bytes_t const& pixels) {
+    if (!pixels.empty()) {
+        stream.write(reinterpret_cast<char const*>(pixels.begin()),
+                     static_cast<std::streamsize>(pixels.size()));
+    }
+}
+
+}  // namespace libgr
