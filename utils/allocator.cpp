@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// The two ways to get the storage of a shared array: the free store and memory mappings.
+#include "utils/allocator.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstring>
+#include <fstream>
+#include <new>
+
+#include "utils/bits.h"
+
+namespace libutils {
+
+char const* const memory_error = "can't alloc memory.\n";
+
+namespace {
+
+unsigned char* new_bytes(unsigned long bytes) {
+    return bytes <= PTRDIFF_MAX ? new (std::nothrow) unsigned char[bytes] : nullptr;
+}
+
+void copy_bytes(void* to, void const* from, unsigned long bytes) {
+    if (bytes != 0) {
+        std::memcpy(to, from, bytes);
+    }
+}
+
+/// Whether the file holds `bytes` bytes from `offset` on; 0 becomes all that it has there.
+bool file_holds(int fd, unsigned long& bytes, unsigned long long offset) {
+    struct stat info {};
+    if (::fstat(fd, &info) != 0) {
+        return false;
+    }
+    auto const size = static_cast<unsigned long long>(info.st_size);
+    if (offset > size || bytes > size - offset) {
+        return false;
+    }
+    if (bytes == 0) {
+        bytes = size - offset;
+    }
+    return true;
+}
+
+}  // namespace
+
+void* alloc_new::allocate(unsigned long& bytes, char const* path, e_prot_t /*protection*/,
+                          unsigned long long /*offset*/, android_app* /*app*/) {
+    if (path != nullptr && bytes == 0) {
+        struct stat info {};
+        if (::stat(path, &info) != 0) {
+            return nullptr;
+        }
+        bytes = static_cast<unsigned long>(info.st_size);
+    }
+    unsigned char* const storage = new_bytes(bytes);
+    if (storage == nullptr) {
+        return nullptr;
+    }
+    if (path != nullptr && bytes != 0) {
+        // A file that can't be opened leaves the storage as it is and isn't reported.
+        std::ifstream in(path, std::ios::binary);
+        in.read(static_cast<char*>(static_cast<void*>(storage)),
+                static_cast<std::streamsize>(bytes));
+    }
+    size = bytes;
+    return storage;
+}
+
+void* alloc_new::reallocate(void* p, unsigned long newsize, unsigned long long /*offset*/) {
+    unsigned char* const storage = new_bytes(newsize);
+    if (storage == nullptr) {
+        return nullptr;
+    }
+    copy_bytes(storage, p, p != nullptr ? min2(size, newsize) : 0);
+    deallocate(p);
+    size = newsize;
+    return storage;
+}
+
+void alloc_new::deallocate(void* p) {
+    delete[] static_cast<unsigned char*>(p);
+}
+
+void* alloc_mmap_unix::allocate(unsigned long& bytes, char const* path, e_prot_t protection,
+                                unsigned long long offset, android_app* /*app*/) {
+    if (protection != PROTECTION_READ && protection != PROTECTION_READWRITE) {
+        return nullptr;
+    }
+    bool const write = protection == PROTECTION_READWRITE;
+    openmode = write ? O_RDWR : O_RDONLY;
+    prot = write ? PROT_READ | PROT_WRITE : PROT_READ;
+    fd = -1;
+    if (path != nullptr) {
+        flags = MAP_SHARED;
+        // Without O_NONBLOCK a named pipe would hold the program until someone writes to it.
+        fd = ::open(path, openmode | O_CLOEXEC | O_NONBLOCK);
+        if (fd == -1) {
+            return nullptr;
+        }
+        if (!file_holds(fd, bytes, offset)) {
+            ::close(fd);
+            fd = -1;
+            return nullptr;
+        }
+    } else {
+        prot = PROT_READ | PROT_WRITE;
+        flags = MAP_ANON | MAP_PRIVATE;
+    }
+    size = bytes;
+    return ::mmap(nullptr, size, prot, flags, fd, static_cast<off_t>(offset));
+}
+
+void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long long offset) {
+    alloc_mmap_unix next = *this;
+    if (!writable()) {
+        next.fd = -1;
+        next.prot = PROT_READ | PROT_WRITE;
+        next.flags = MAP_ANON | MAP_PRIVATE;
+    }
+    unsigned long wanted = newsize;
+    if (next.fd != -1 && !file_holds(next.fd, wanted, offset)) {
+        return MAP_FAILED;
+    }
+    void* const storage =
+        ::mmap(p, newsize, next.prot, next.flags, next.fd, static_cast<off_t>(offset));
+    if (failed(storage) && newsize != 0) {
+        return MAP_FAILED;
+    }
+    if (!failed(p)) {
+        copy_bytes(storage, p, min2(size, newsize));
+    }
+    if (next.fd != -1) {
+        fd = -1;  // the file stays open for the new mapping
+    }
+    deallocate(p);
+    *this = next;
+    size = newsize;
+    return storage;
+}
+
+void alloc_mmap_unix::deallocate(void* p) {
+    if (!failed(p)) {
+        ::munmap(p, size);
+    }
+    if (fd != -1) {
+        ::close(fd);
+        fd = -1;
+    }
+}
+
+bool alloc_mmap_unix::failed(void const* p) {
+    return p == nullptr || p == MAP_FAILED;
+}
+
+bool alloc_mmap_unix::writable() const {
+    return (prot & PROT_WRITE) != 0;
+}
+
+}  // namespace libutils
