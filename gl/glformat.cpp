@@ -52,6 +52,12 @@ bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t d
     return converted;
 }
 
+unsigned int internal_format_of(image_desc_t desc, bool compress) {
+    gl_loading_format_t terms{};
+    return grConvertImageFormatToGlFormatFULL(&terms, desc, compress) ? terms.internalformat
+                                                                      : GL_INVALID_VALUE;
+}
+
 void grReportUnsupportedImage(image_desc_t desc) {
     libutils::error();
     std::cerr << "Not supported image format!" << std::endl;

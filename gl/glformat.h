@@ -21,6 +21,9 @@ struct gl_loading_format_t {
 /// false. No GL call is made, but the extension flags must be set.
 bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t desc, bool compress);
 
+/// The internal format that the conversion gives, or GL_INVALID_VALUE where it refuses.
+unsigned int internal_format_of(image_desc_t desc, bool compress);
+
 /// Reports an image that no texture can be made of: four lines on the error stream, which stays in
 /// hexadecimal mode afterwards.
 void grReportUnsupportedImage(image_desc_t desc);

@@ -36,12 +36,9 @@ class grTexture2D : public grTexturableLevels<image2d_t, texparameter2d_t> {
     void Reload() const override;
 
   private:
-    void load_given_levels() const;
-    void load_base_level() const;
-    void load_upper_levels() const;
-    void reload_base_level() const;
-    void reload_levels(unsigned long first) const;
-    void finish() const;
+    /// Level 0 and the levels generated from it; on `reload` into the storage that is there.
+    void send_base_level(bool reload) const;
+    void apply_parameters() const;
 };
 
 }  // namespace libgr

@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "geometry/color.h"
+#include "gl/glformat.h"
 #include "gl/texture.h"
+#include "glext/glextloader.h"
 #include "image/image.h"
 #include "utils/bits.h"
 
@@ -22,12 +24,6 @@ inline unsigned int longest_side(image2d_t const& image) {
 inline unsigned int longest_side(image3d_t const& image) {
     return libutils::max2(libutils::max2(image.m_width, image.m_height), image.m_depth);
 }
-
-/// The internal format of an image that goes up with the argument `compressed`, GL_INVALID_VALUE if
-/// it can't.
-unsigned int internal_format_of(image_desc_t desc, bool compressed);
-/// GL_INVALID_VALUE: the internal format where there is no image.
-unsigned int no_internal_format();
 
 /// Image records and upload settings of a texture whose levels are of type `image_t`.
 ///
@@ -51,7 +47,7 @@ class grTexturableLevels : public grTexturableImageGL {
     /// The internal format of the first image, its own `compressed` field asking for compression;
     /// GL_INVALID_VALUE when it has none or there is no image.
     unsigned int GetInternalFormat() const override {
-        return m_images.empty() ? no_internal_format()
+        return m_images.empty() ? GL_INVALID_VALUE
                                 : internal_format_of(m_images[0].desc, m_images[0].compressed);
     }
 

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// The guard that keeps an image's palette in OpenGL's pixel maps while the image goes up.
+#include "gl/palette.h"
+
+#include <limits>
+
+#include "glext/glextloader.h"
+
+namespace libgr {
+namespace {
+
+struct plane_row_t {
+    GLenum map;
+    palette_t::plane_t palette_t::*plane;
+};
+
+constexpr plane_row_t s_planes[] = {
+    {GL_PIXEL_MAP_I_TO_R, &palette_t::red},
+    {GL_PIXEL_MAP_I_TO_G, &palette_t::green},
+    {GL_PIXEL_MAP_I_TO_B, &palette_t::blue},
+};
+
+/// A plane that had no memory in a resize holds fewer entries than the palette counts.
+bool planes_hold(palette_t const& palette) {
+    for (plane_row_t const& row : s_planes) {
+        if ((palette.*row.plane).count() < palette.size) {
+            return false;
+        }
+    }
+    return palette.size <= static_cast<unsigned long>(std::numeric_limits<GLsizei>::max());
+}
+
+}  // namespace
+
+grPalette::~grPalette() {
+    if (loaded) {
+        glPixelTransferi(GL_MAP_COLOR, 0);
+    }
+}
+
+void grPalette::Load(palette_t const& palette) {
+    if (palette.size == 0 || !planes_hold(palette)) {
+        return;
+    }
+    glPixelTransferi(GL_MAP_COLOR, 1);
+    for (plane_row_t const& row : s_planes) {
+        glPixelMapusv(row.map, static_cast<GLsizei>(palette.size), (palette.*row.plane).begin());
+    }
+    loaded = true;
+}
+
+}  // namespace libgr

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// The images of a 3-D texture and the ways of getting them into it.
+#include "gl/texture3d.h"
+
+#include <iostream>
+
+#include "gl/textureupload.h"
+#include "utils/diagnostics.h"
+
+namespace libgr {
+namespace {
+
+constexpr GLenum s_target = GL_TEXTURE_3D;
+
+void report_fallback() {
+    if (is_GL_SGIS_generate_mipmap_supported != 0) {
+        report_no_compressed_mipmaps();
+        return;
+    }
+    libutils::error();
+    std::cerr << "Compressed image are can't build mipmaps in this environment." << std::endl;
+}
+
+}  // namespace
+
+void grTexture3D::setImage(image3d_t const& image, unsigned int size, unsigned long level) {
+    replace_from(level, {&image, 1}, size);
+}
+
+void grTexture3D::setImages(std::vector<image3d_t> const& images, unsigned int size,
+                            unsigned long level) {
+    overwrite_from(level, images, size);
+}
+
+void grTexture3D::Load() const {
+    if (m_images.empty()) {
+        return;
+    }
+    grPalette palette;
+    load_palette(palette, m_images[0]);
+    if (m_buildmipmap) {
+        load_base_level();
+        upload_upper_levels<image3d_t>(s_target, m_images, m_internalcompression, m_border,
+                                       {m_size != 0, bordered_side(m_size, m_border), 0});
+    } else {
+        for (unsigned long i = 0; i < m_images.size(); ++i) {
+            load_given_level(i);
+        }
+    }
+    grTexParameter(m_texparameter);
+    grTexParameter(GL_TEXTURE_CUBE_MAP, m_bordercolor);
+}
+
+void grTexture3D::load_given_level(unsigned long i) const {
+    image3d_t const& image = m_images[i];
+    auto const terms = resolve(image, m_internalcompression);
+    if (!terms) {
+        return;
+    }
+    auto const level = static_cast<GLint>(i);
+    unpack(image);
+    if (image.compressed) {
+        upload_compressed(s_target, level, *terms, image, m_border);
+        return;
+    }
+    // No storage but a border's: whoever wants a volume has its mipmaps built.
+    unsigned int const inner = power_of_two_side(m_size - (m_border ? 2 : 0));
+    unsigned int const side = m_border && inner + i == 0 ? 2 : 0;
+    upload_into(square_extent(image, side), s_target, level, *terms, image,
+                i == 0 && m_border ? 1 : 0);
+}
+
+void grTexture3D::load_base_level() const {
+    image3d_t const& image = m_images[0];
+    auto const terms = resolve(image, m_internalcompression);
+    if (!terms) {
+        return;
+    }
+    unpack(image);
+    auto const send = [&] { full_upload(s_target, *terms, image, m_size, m_border); };
+    if (mipmap_route(terms->internalformat, false) == mipmap_route_t::sgis) {
+        generate_by_sgis(s_target, send);
+    } else if (image.compressed) {
+        report_fallback();
+        send();
+    } else {
+        upload_by_glu(s_target, *terms, image);
+    }
+}
+
+}  // namespace libgr

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// The images of a cube map and the ways of getting them into it.
+#include "gl/texturecubemap.h"
+
+#include <algorithm>
+
+#include "gl/grerror.h"
+#include "gl/textureupload.h"
+
+namespace libgr {
+namespace {
+
+constexpr unsigned long s_faces = 6;
+
+GLenum face_target(unsigned long face) {
+    static constexpr GLenum s_gl_cube_map_targets[s_faces] = {
+        GL_TEXTURE_CUBE_MAP_POSITIVE_X, GL_TEXTURE_CUBE_MAP_NEGATIVE_X,
+        GL_TEXTURE_CUBE_MAP_POSITIVE_Y, GL_TEXTURE_CUBE_MAP_NEGATIVE_Y,
+        GL_TEXTURE_CUBE_MAP_POSITIVE_Z, GL_TEXTURE_CUBE_MAP_NEGATIVE_Z,
+    };
+    return s_gl_cube_map_targets[face];
+}
+
+/// Storage of the level's side and pixels that go to level 0, whatever the level.
+void upload_given_face(GLenum target, gl_loading_format_t const& terms, image2d_t const& image,
+                       unsigned long i, unsigned int size, bool border) {
+    auto const level = static_cast<GLint>(i);
+    bool const bordered = i == 0 && border;
+    if (image.compressed) {
+        upload_compressed(target, level, terms, image, 0);
+        return;
+    }
+    tex_image(target, level, terms, square_extent(image, bordered_side(size, bordered)),
+              bordered ? 1 : 0, nullptr);
+    tex_sub_image(target, 0, terms, extent_of(image), image.begin());
+}
+
+/// A face of level 0 for the routes that have the driver generate the rest.
+void upload_face(GLenum target, gl_loading_format_t const& terms, image2d_t const& image,
+                 unsigned int size) {
+    if (image.compressed) {
+        upload_compressed(target, 0, terms, image, 0);
+    } else if (size == 0) {
+        tex_image(target, 0, terms, extent_of(image), 0, image.begin());
+    } else {
+        upload_into(square_extent(image, power_of_two_side(size)), target, 0, terms, image, 0);
+    }
+}
+
+void build_face(GLenum target, gl_loading_format_t const& terms, image2d_t const& image) {
+    grPrintError("after-unpack_window_subset");
+    if (image.compressed) {
+        report_no_compressed_mipmaps();
+        upload_compressed(target, 0, terms, image, 0);
+    } else {
+        upload_by_glu(target, terms, image);
+        grPrintError("after-gluBuild2DMipmaps");
+    }
+}
+
+}  // namespace
+
+void grTextureCubeMap::setImage(image2d_t const (&images)[6], unsigned int size,
+                                unsigned long level) {
+    replace_from(s_faces * level, images, size);
+}
+
+void grTextureCubeMap::setImages(std::vector<image2d_t[6]> const& images, unsigned int size,
+                                 unsigned long level) {
+    std::vector<image2d_t> flat;
+    flat.reserve(images.size() * s_faces);
+    for (auto const& faces : images) {
+        flat.insert(flat.end(), std::begin(faces), std::end(faces));
+    }
+    overwrite_from(s_faces * level, flat, size);
+}
+
+void grTextureCubeMap::Load() const {
+    if (m_images.empty()) {
+        return;
+    }
+    grPalette palette;
+    load_palette(palette, m_images[0]);
+    if (!m_buildmipmap) {
+        load_given_levels();
+    } else if (!load_base_level()) {
+        return;
+    }
+    grTexParameter(m_texparameter);
+}
+
+void grTextureCubeMap::load_given_levels() const {
+    for (unsigned long i = 0; i < m_images.size() / s_faces * s_faces; ++i) {
+        if (auto const terms = resolve(m_images[i], m_internalcompression)) {
+            unpack(m_images[i]);
+            upload_given_face(face_target(i % s_faces), *terms, m_images[i], i / s_faces, m_size,
+                              m_border);
+        }
+    }
+}
+
+bool grTextureCubeMap::load_base_level() const {
+    auto const first = resolve(m_images[0], m_internalcompression);
+    if (!first) {
+        return false;
+    }
+    auto const each_face = [this](auto const& upload) {
+        for (unsigned long face = 0; face < std::min(s_faces, m_images.size()); ++face) {
+            if (auto const terms = resolve(m_images[face], m_internalcompression)) {
+                unpack(m_images[face]);
+                upload(face_target(face), *terms, m_images[face]);
+            }
+        }
+    };
+    auto const upload = [this](GLenum target, gl_loading_format_t const& terms,
+                               image2d_t const& image) {
+        upload_face(target, terms, image, m_size);
+    };
+    switch (mipmap_route(first->internalformat, is_GL_VERSION_3_0_supported != 0)) {
+        case mipmap_route_t::gl3:
+            each_face(upload);
+            grPrintError("before-generate_mipmap");
+            glGenerateMipmap(GL_TEXTURE_CUBE_MAP);
+            grPrintError("after-generate_mipmap");
+            break;
+        case mipmap_route_t::sgis:
+            glTexParameteri(GL_TEXTURE_CUBE_MAP, GL_GENERATE_MIPMAP_SGIS, 1);
+            grPrintError("after-texparameter_cubemap-sgis-true");
+            each_face(upload);
+            grPrintError("before-texparameter_cubemap-sgis-false");
+            glTexParameteri(GL_TEXTURE_CUBE_MAP, GL_GENERATE_MIPMAP_SGIS, 0);
+            grPrintError("after-texparameter_cubemap-sgis-false");
+            break;
+        case mipmap_route_t::glu:
+            each_face(build_face);
+            break;
+    }
+    return true;
+}
+
+}  // namespace libgr
