@@ -86,10 +86,13 @@ unsigned long long row_end(unsigned int skip, unsigned int width, unsigned long 
     return bytes_for(pixelbits * (0ULL + skip + width));
 }
 
-/// Whether `steps` strides and `tail` bytes behind them lie in `room` bytes.
-bool fits(unsigned long long stride, unsigned long long steps, unsigned long long tail,
-          unsigned long long room) {
-    return tail <= room && (stride == 0 || steps <= (room - tail) / stride);
+/// Bytes from the start of the vector to row `y` of the record.
+unsigned long long row_position(image2d_t const& image, unsigned int y) {
+    return image.rowsize() * (0ULL + image.window.skiprows + y);
+}
+
+unsigned long long skip_bytes(image2d_t const& image) {
+    return image.getPixelBits() * image.window.skippixels / 8;
 }
 
 }  // namespace
@@ -166,6 +169,12 @@ void image2d_t::clear() {
     m_height = 0;
 }
 
+bool rows_fit(unsigned long long stride, unsigned long long rows, unsigned long long rowbytes,
+              unsigned long long room) {
+    return rows == 0 ||
+           (rowbytes <= room && (stride == 0 || rows - 1 <= (room - rowbytes) / stride));
+}
+
 bool pixels_within(image1d_t const& image, unsigned long long pixelbits) {
     if (image.compressed || pixelbits > max_pixelbits) {
         return false;
@@ -178,12 +187,10 @@ bool pixels_within(image2d_t const& image, unsigned long long pixelbits) {
     if (image.compressed || pixelbits > max_pixelbits) {
         return false;
     }
-    if (image.m_width == 0 || image.m_height == 0) {
-        return true;
-    }
-    unsigned long long const last_row = 0ULL + image.window.skiprows + image.m_height - 1;
-    return fits(row_stride(image.rowlength(), pixelbits, image.store), last_row,
-                row_end(image.window.skippixels, image.m_width, pixelbits), image.size());
+    return image.m_width == 0 || image.m_height == 0 ||
+           rows_fit(row_stride(image.rowlength(), pixelbits, image.store),
+                    0ULL + image.window.skiprows + image.m_height,
+                    row_end(image.window.skippixels, image.m_width, pixelbits), image.size());
 }
 
 bool pixels_within(image3d_t const& image, unsigned long long pixelbits) {
@@ -197,30 +204,40 @@ bool pixels_within(image3d_t const& image, unsigned long long pixelbits) {
     unsigned long long const room = image.size();
     unsigned long long const stride = row_stride(
         window.rowlength != 0 ? window.rowlength : image.m_width, pixelbits, image.store);
-    unsigned long long const last_row = 0ULL + window.skiprows + image.m_height - 1;
-    unsigned long long const tail = row_end(window.skippixels, image.m_width, pixelbits);
-    if (!fits(stride, last_row, tail, room)) {
+    unsigned long long const rows = 0ULL + window.skiprows + image.m_height;
+    unsigned long long const rowbytes = row_end(window.skippixels, image.m_width, pixelbits);
+    if (!rows_fit(stride, rows, rowbytes, room)) {
         return false;
     }
-    unsigned long long const last_image = 0ULL + window.skipimages + image.m_depth - 1;
-    unsigned long long const rows = window.imageheight != 0 ? window.imageheight : image.m_height;
-    return last_image == 0 || stride == 0 ||
-           (rows <= room / stride &&
-            fits(stride * rows, last_image, stride * last_row + tail, room));
+    unsigned long long const images = 0ULL + window.skipimages + image.m_depth;
+    unsigned long long const height = window.imageheight != 0 ? window.imageheight : image.m_height;
+    return images == 1 || stride == 0 ||
+           (height <= room / stride &&
+            rows_fit(stride * height, images, stride * (rows - 1) + rowbytes, room));
 }
 
 bool pixels_within(image2d_t const& image) {
-    return image.getPixelBits() != 0 && pixels_within(image, image.getPixelBits());
+    return pixels_within(image, image.getPixelBits());
 }
 
 unsigned char* pixel_row(image2d_t& image, unsigned int y) {
-    return image.begin() + image.rowsize() * (0ULL + image.window.skiprows + y) +
-           image.getPixelBits() * image.window.skippixels / 8;
+    unsigned char* const bytes = image.begin();
+    return bytes != nullptr ? bytes + row_position(image, y) + skip_bytes(image) : nullptr;
 }
 
 unsigned char const* pixel_row(image2d_t const& image, unsigned int y) {
-    return image.begin() + image.rowsize() * (0ULL + image.window.skiprows + y) +
-           image.getPixelBits() * image.window.skippixels / 8;
+    unsigned char const* const bytes = image.begin();
+    return bytes != nullptr ? bytes + row_position(image, y) + skip_bytes(image) : nullptr;
+}
+
+unsigned char* whole_row(image2d_t& image, unsigned int y) {
+    unsigned char* const bytes = image.begin();
+    return bytes != nullptr ? bytes + row_position(image, y) : nullptr;
+}
+
+unsigned char const* whole_row(image2d_t const& image, unsigned int y) {
+    unsigned char const* const bytes = image.begin();
+    return bytes != nullptr ? bytes + row_position(image, y) : nullptr;
 }
 
 }  // namespace libgr

@@ -245,12 +245,22 @@ bool pixels_within(image1d_t const& image, unsigned long long pixelbits);
 bool pixels_within(image2d_t const& image, unsigned long long pixelbits);
 bool pixels_within(image3d_t const& image, unsigned long long pixelbits);
 
-/// The same by the description's size of a pixel. False where that size is 0, as nothing could be
-/// read.
+/// The same by the description's size of a pixel.
 bool pixels_within(image2d_t const& image);
 
-/// Where row `y` of the record begins, for a record whose pixels are within.
+/// Whether `rows` rows lie in `room` bytes, each `stride` bytes behind the last and `rowbytes`
+/// long.
+bool rows_fit(unsigned long long stride, unsigned long long rows, unsigned long long rowbytes,
+              unsigned long long room);
+
+/// Where row `y` of the record begins in its bytes, at its window's first pixel, for a record whose
+/// pixels are within. Null where it has no bytes.
 unsigned char* pixel_row(image2d_t& image, unsigned int y);
 unsigned char const* pixel_row(image2d_t const& image, unsigned int y);
+
+/// The same at the first pixel of the picture that the window looks into, for pixels that may begin
+/// within a byte.
+unsigned char* whole_row(image2d_t& image, unsigned int y);
+unsigned char const* whole_row(image2d_t const& image, unsigned int y);
 
 }  // namespace libgr

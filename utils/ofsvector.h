@@ -82,8 +82,8 @@ class refvector2 {
     /// Fills the handle with `number` elements of a file from byte `offset` on, or of new storage
     /// where `path` is null. A `number` of 0 with a path means the whole file; an empty file loads
     /// as an empty array. With `keep`, the old contents go on top of the new block's, as far as
-    /// they fit, and stay as they are on failure; without it they are let go first. False on
-    /// failure.
+    /// they fit, which a read-only mapping refuses, and stay as they are on failure; without it
+    /// they are let go first. False on failure.
     virtual bool load(unsigned long number, char const* path, e_prot_t prot,
                       unsigned long long offset, bool keep, android_app* app);
 
@@ -104,8 +104,7 @@ class refvector2 {
     /// Takes a new block of `number` elements in place of the present one.
     bool allocate(unsigned long number, char const* path, e_prot_t prot,
                   unsigned long long offset) {
-        deallocate();
-        return install_new(number, path, prot, offset, nullptr);
+        return refvector2::load(number, path, prot, offset, false, nullptr);
     }
 
     /// Gives up this handle's share. The handle is empty afterwards.
@@ -149,18 +148,6 @@ class refvector2 {
     void install(std::unique_ptr<block_t> block) {
         deallocate();
         m_block = block.release();
-    }
-
-    bool install_new(unsigned long number, char const* path, e_prot_t prot,
-                     unsigned long long offset, android_app* app) {
-        unsigned long bytes = 0;
-        auto block =
-            bytes_of(number, bytes) ? block_t::make(bytes, path, prot, offset, app) : nullptr;
-        if (block == nullptr) {
-            return false;
-        }
-        install(std::move(block));
-        return true;
     }
 
     block_t* m_block = nullptr;
@@ -226,14 +213,19 @@ bool refvector2<T, A>::load(unsigned long number, char const* path, e_prot_t pro
     if (!keep) {
         deallocate();
     }
-    refvector2 const old(*this);
-    if (!install_new(number, path, prot, offset, app)) {
+    unsigned long bytes = 0;
+    auto block = bytes_of(number, bytes) ? block_t::make(bytes, path, prot, offset, app) : nullptr;
+    if (block == nullptr) {
         return false;
     }
-    unsigned long const kept = min2(old.storage_bytes(), storage_bytes());
-    if (kept != 0 && is_writable()) {
-        std::memcpy(m_block->data, old.m_block->data, kept);
+    unsigned long const kept = min2(storage_bytes(), block->size);
+    if (kept != 0) {
+        if (!block->allocator.writable()) {
+            return false;
+        }
+        std::memcpy(block->data, m_block->data, kept);
     }
+    install(std::move(block));
     return true;
 }
 
@@ -258,11 +250,11 @@ bool refvector2<T, A>::resize(unsigned long number, unsigned long long offset) {
 template <typename T, typename A>
 bool ofsvector<T, A>::load(unsigned long number, char const* path, e_prot_t prot,
                            unsigned long long position, bool keep, android_app* app) {
-    if (!base::load(number, path, prot, position, keep, app)) {
-        return false;
+    bool const loaded = base::load(number, path, prot, position, keep, app);
+    if (loaded || !this->is_allocated()) {
+        show_all();
     }
-    show_all();
-    return true;
+    return loaded;
 }
 
 template <typename T, typename A>
