@@ -7,7 +7,6 @@
 
 #include "codecs/imageobject.h"
 #include "utils/allocator.h"
-#include "utils/ofsvector.h"
 
 namespace libgr {
 
@@ -29,7 +28,7 @@ struct tgaimage_t {
 
     std::vector<unsigned char> image_id;
     std::vector<unsigned char> colormap;
-    libutils::ofsvector<unsigned char, libutils::alloc_mmap_unix> pixels;
+    image_bytes_t pixels;
 
     /// Reads the file. False, without a message, for a file that can't be opened or holds fewer
     /// bytes than its header claims; nothing is allocated for bytes that aren't there.

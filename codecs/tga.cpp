@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+// The TGA reader and writer.
+#include "codecs/tga.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <fstream>
+#include <limits>
+
+#include "codecs/claims.h"
+#include "codecs/streambytes.h"
+#include "image/pixelconvert.h"
+
+namespace libgr {
+
+namespace {
+
+constexpr std::streamoff k_header_size = 18;
+constexpr std::uint8_t k_top_down = 0x20;  // of the descriptor
+constexpr unsigned int k_side_max = std::numeric_limits<std::uint16_t>::max();
+
+struct depth_row_t {
+    std::uint8_t depth;
+    e_image_format_t format;
+    e_image_format_t swapped_format;  ///< the red-first format that is saved with this depth
+    e_image_bits_t bits;
+};
+constexpr depth_row_t k_depths[] = {
+    {8, IMAGE_FORMAT_GRAYSCALE, IMAGE_FORMAT_MAX, IMAGE_BITS_8},
+    {16, IMAGE_FORMAT_BGRA, IMAGE_FORMAT_RGBA, IMAGE_BITS_R5G5B5A1},
+    {24, IMAGE_FORMAT_BGR, IMAGE_FORMAT_RGB, IMAGE_BITS_8},
+    {32, IMAGE_FORMAT_BGRA, IMAGE_FORMAT_RGBA, IMAGE_BITS_8},
+};
+
+std::uint64_t pixels_size(tgaimage_t const& tga) {
+    std::uint64_t const row = (std::uint64_t{tga.depth} * tga.width) >> 3;
+    return (row + 3) / 4 * 4 * tga.height;
+}
+
+void read_header(std::istream& stream, tgaimage_t& tga) {
+    tga.id_length = read_field<std::uint8_t>(stream);
+    tga.colormap_type = read_field<std::uint8_t>(stream);
+    tga.image_type = read_field<std::uint8_t>(stream);
+    tga.colormap_first = read_field<std::uint16_t>(stream);
+    tga.colormap_length = read_field<std::uint16_t>(stream);
+    tga.colormap_entry_size = read_field<std::uint8_t>(stream);
+    tga.x_origin = read_field<std::uint16_t>(stream);
+    tga.y_origin = read_field<std::uint16_t>(stream);
+    tga.width = read_field<std::uint16_t>(stream);
+    tga.height = read_field<std::uint16_t>(stream);
+    tga.depth = read_field<std::uint8_t>(stream);
+    tga.descriptor = read_field<std::uint8_t>(stream);
+}
+
+void write_header(std::ostream& stream, tgaimage_t const& tga) {
+    write_field<std::uint8_t>(stream, tga.id_length);
+    write_field<std::uint8_t>(stream, tga.colormap_type);
+    write_field<std::uint8_t>(stream, tga.image_type);
+    write_field<std::uint16_t>(stream, tga.colormap_first);
+    write_field<std::uint16_t>(stream, tga.colormap_length);
+    write_field<std::uint8_t>(stream, tga.colormap_entry_size);
+    write_field<std::uint16_t>(stream, tga.x_origin);
+    write_field<std::uint16_t>(stream, tga.y_origin);
+    write_field<std::uint16_t>(stream, tga.width);
+    write_field<std::uint16_t>(stream, tga.height);
+    write_field<std::uint8_t>(stream, tga.depth);
+    write_field<std::uint8_t>(stream, tga.descriptor);
+}
+
+bool read_vector(std::istream& stream, std::vector<unsigned char>& bytes, std::uint64_t size) {
+    if (bytes_left(stream) < size) {
+        return false;
+    }
+    bytes.resize(size);
+    stream.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));
+    return stream.good();
+}
+
+void write_vector(std::ostream& stream, std::vector<unsigned char> const& bytes) {
+    stream.write(reinterpret_cast<char const*>(bytes.data()),
+                 static_cast<std::streamsize>(bytes.size()));
+}
+
+}  // namespace
+
+bool tgaimage_t::load(char const* path, libutils::android_app*) {
+    std::ifstream stream(path, std::ios_base::binary);
+    if (!stream) {
+        return false;
+    }
+    read_header(stream, *this);
+    if (stream.tellg() != std::streampos(k_header_size)) {
+        return false;
+    }
+    if (id_length != 0 && !read_vector(stream, image_id, id_length)) {
+        return false;
+    }
+    // The entry size counts bits in published files; here it counts bytes, as this writer's does.
+    std::uint64_t const entries = std::uint64_t{colormap_first} + colormap_length;
+    if (colormap_type != 0 && !read_vector(stream, colormap, entries * colormap_entry_size)) {
+        return false;
+    }
+    std::uint64_t const size = pixels_size(*this);
+    std::uint64_t const held = bytes_left(stream);
+    return held >= size && is_bearable_claim(size, held) && read_pixels(pixels, stream, size) &&
+           stream.good();
+}
+
+bool tgaimage_t::save(char const* path, libutils::android_app*) {
+    if (image_id.size() > std::numeric_limits<std::uint8_t>::max()) {
+        return false;
+    }
+    id_length = static_cast<std::uint8_t>(image_id.size());
+    colormap_type = colormap.empty() ? 0 : 1;
+    if (colormap_entry_size != 0) {
+        colormap_length =
+            static_cast<std::uint16_t>(colormap.size() / colormap_entry_size - colormap_first);
+    }
+    std::ofstream stream(path, std::ios_base::binary | std::ios_base::trunc);
+    if (!stream) {
+        return false;
+    }
+    write_header(stream, *this);
+    if (stream.tellp() != std::streampos(k_header_size)) {
+        return false;
+    }
+    write_vector(stream, image_id);
+    write_vector(stream, colormap);
+    write_pixels(stream, pixels);
+    stream.flush();
+    return stream.good();
+}
+
+bool convert(image2d_t& image, tgaimage_t const& tga) {
+    if ((tga.image_type != 1 && tga.image_type != 2) || (tga.descriptor & k_top_down) != 0) {
+        return false;
+    }
+    auto const* const row = std::find_if(std::begin(k_depths), std::end(k_depths),
+                                         [&](auto const& r) { return r.depth == tga.depth; });
+    if (row == std::end(k_depths) || tga.pixels.size() < pixels_size(tga) ||
+        !fits_in_memory(tga.width, tga.height, tga.depth)) {
+        return false;
+    }
+    image.desc = {row->format, IMAGE_TYPE_UINT, row->bits};
+    image.m_width = tga.width;
+    image.m_height = tga.height;
+    image.compressed = false;
+    static_cast<image_bytes_t&>(image) = tga.pixels;
+    return true;
+}
+
+bool convert(tgaimage_t& tga, image2d_t const& image) {
+    if (image.compressed || image.m_width > k_side_max || image.m_height > k_side_max) {
+        return false;
+    }
+    // A format that already has the file's byte order sets depth and pixels, and is then refused
+    // all the same: only red-first pictures are saved.
+    for (depth_row_t const& row : k_depths) {
+        if (image.desc == image_desc_t{row.format, IMAGE_TYPE_UINT, row.bits}) {
+            tga.depth = row.depth;
+            tga.pixels = image;
+            return false;
+        }
+    }
+    auto const* const row =
+        std::find_if(std::begin(k_depths), std::end(k_depths), [&](auto const& r) {
+            return r.swapped_format == image.desc.format && r.bits == image.desc.bits;
+        });
+    if (row == std::end(k_depths)) {
+        return false;
+    }
+    image2d_t swapped;
+    // Packed pixels are handed on as they are, with a false result that is no failure.
+    if (!rgb2bgr(swapped, image) && row->bits == IMAGE_BITS_8) {
+        return false;
+    }
+    tga = tgaimage_t{};
+    tga.image_type = 2;
+    tga.width = static_cast<std::uint16_t>(image.m_width);
+    tga.height = static_cast<std::uint16_t>(image.m_height);
+    tga.depth = row->depth;
+    tga.pixels = swapped;
+    return true;
+}
+
+bool image_tga_t::load(image2d_t& image, char const* path) {
+    tgaimage_t tga;
+    return tga.load(path, nullptr) && convert(image, tga);
+}
+
+bool image_tga_t::save(image2d_t const& image, char const* path) {
+    tgaimage_t tga;
+    return convert(tga, image) && tga.save(path, nullptr);
+}
+
+}  // namespace libgr
