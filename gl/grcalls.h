@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// GL calls that take the geometry's types, one call each; all need a current context.
+#pragma once
+
+#include "geometry/color.h"
+#include "geometry/matrix.h"
+#include "geometry/rotation.h"
+#include "geometry/vector.h"
+#include "glext/glextloader.h"
+
+namespace libgr {
+
+inline void grRotate(const rotation3_t& r) {
+    glRotatef(r.angle, r.axis.x, r.axis.y, r.axis.z);
+}
+inline void grScale(const direction3_t& d) {
+    glScalef(d.x, d.y, d.z);
+}
+inline void grTranslate(const position3_t& p) {
+    glTranslatef(p.x, p.y, p.z);
+}
+inline void grMultMatrix(const matrix3w_t& m) {
+    glMultMatrixf(m.data());
+}
+/// Reads one of the current matrices, GL_MODELVIEW_MATRIX for one.
+inline void grGet(GLenum pname, matrix3w_t& m) {
+    glGetFloatv(pname, m.data());
+}
+
+inline void grColor(const color3a_t& c) {
+    glColor4fv(&c.r);
+}
+inline void grColor(const color3aub_t& c) {
+    glColor4ubv(&c.r);
+}
+inline void grClearColor(const color3a_t& c) {
+    glClearColor(c.r, c.g, c.b, c.a);
+}
+
+inline void grLight(GLenum light, GLenum pname, const color3a_t& c) {
+    glLightfv(light, pname, &c.r);
+}
+/// Places a light at a point of the current modelview space.
+inline void grLightPos(GLenum light, const position3_t& p) {
+    const vector3w_t v = Generalize(p);
+    glLightfv(light, GL_POSITION, &v.x);
+}
+/// The place of a light in eye coordinates.
+inline void grGetLightPos(GLenum light, vector3w_t& v) {
+    glGetLightfv(light, GL_POSITION, &v.x);
+}
+inline void grGetLightPos(GLenum light, position3_t& p) {
+    vector3w_t v{};
+    grGetLightPos(light, v);
+    p = SpecializeToPos(v);
+}
+/// The direction of a light from the eye, normalized.
+inline void grGetLightPos(GLenum light, direction3_t& d) {
+    vector3w_t v{};
+    grGetLightPos(light, v);
+    d = SpecializeToDir(v);
+}
+
+inline void grMaterial(GLenum face, GLenum pname, const color3a_t& c) {
+    glMaterialfv(face, pname, &c.r);
+}
+inline void grMaterial(GLenum face, GLenum pname, float value) {
+    glMaterialf(face, pname, value);
+}
+inline void grTexEnv(GLenum target, GLenum pname, const color3a_t& c) {
+    glTexEnvfv(target, pname, &c.r);
+}
+
+/// Puts the rows of `m` into four program parameters from `index` on (ARB_vertex_program); four
+/// calls.
+inline void grProgramLocalParameterARB(GLenum target, GLuint index, const matrix3w_t& m) {
+    for (unsigned int row = 0; row < 4; ++row) {
+        glProgramLocalParameter4fvARB(target, index + row, &m[row].x);
+    }
+}
+
+// Vertex arrays: `stride` is the bytes from one element to the next, 0 for none in between. OpenGL
+// keeps the pointer and reads through it in grDrawElements.
+inline void grVertexPointer(const position2_t* pointer, int stride) {
+    glVertexPointer(2, GL_FLOAT, stride, pointer);
+}
+inline void grTexCoordPointer(const texcoord2_t* pointer, int stride) {
+    glTexCoordPointer(2, GL_FLOAT, stride, pointer);
+}
+inline void grDrawElements(GLenum mode, int count, const unsigned char* indices) {
+    glDrawElements(mode, count, GL_UNSIGNED_BYTE, indices);
+}
+
+}  // namespace libgr

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// The one report of GL errors.
+#pragma once
+
+namespace libgr {
+
+/// Takes one pending error from the GL and writes it to the error stream behind `label`, which may
+/// be null: "after Draw(): Error 1282: invalid operation". True when there was one; without one
+/// nothing is written. A further pending error stays for the next call. The code is decimal
+/// whatever the stream's mode, which stays as it was. Needs a current context, and no glBegin in
+/// force.
+bool grPrintError(const char* label);
+
+}  // namespace libgr

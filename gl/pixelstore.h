@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// How images lie in memory, told to OpenGL: glPixelStore from image records, sizes of pixel types.
+#pragma once
+
+#include "glext/glextloader.h"
+#include "image/image.h"
+
+namespace libgr {
+
+// Each sets the parameters named, in this order, and needs a current context. Nothing restores
+// them.
+
+/// GL_UNPACK_SWAP_BYTES, GL_UNPACK_ALIGNMENT; null does nothing.
+void grPixelStoreUnpack(const image_store_t* store);
+/// GL_UNPACK_SKIP_PIXELS.
+void grPixelStoreUnpack(const image_window1d_t& window);
+/// GL_UNPACK_ROW_LENGTH, GL_UNPACK_SKIP_PIXELS, GL_UNPACK_SKIP_ROWS.
+void grPixelStoreUnpack(const image_window2d_t& window);
+/// GL_UNPACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
+void grPixelStoreUnpack(const image_window3d_t& window);
+
+/// GL_PACK_SWAP_BYTES, GL_PACK_ALIGNMENT; null does nothing.
+void grPixelStorePack(const image_store_t* store);
+/// GL_PACK_SKIP_PIXELS.
+void grPixelStorePack(const image_window1d_t& window);
+/// GL_PACK_ROW_LENGTH, GL_PACK_SKIP_PIXELS, GL_PACK_SKIP_ROWS.
+void grPixelStorePack(const image_window2d_t& window);
+/// GL_PACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
+void grPixelStorePack(const image_window3d_t& window);
+
+/// Components of a pixel format, 1 to 4; 0 for GL_STENCIL_INDEX and unknown ones.
+unsigned long grFormatToComponents(GLenum format);
+/// Bytes of one component of a pixel type, GL_BITMAP counting as 1; 0 for packed and unknown ones.
+unsigned long grTypeToSize(GLenum type);
+/// The type for components of 1, 2, 4 or 8 bytes: GL_UNSIGNED_BYTE, GL_UNSIGNED_SHORT, GL_FLOAT,
+/// GL_DOUBLE; 0 for other sizes.
+GLenum grSizeToType(unsigned long size);
+
+}  // namespace libgr
