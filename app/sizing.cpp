@@ -42,10 +42,10 @@ libgr::direction2l_t limited_window_size(libgr::direction2l_t const& target,
                                          libgr::direction2l_t const& current,
                                          libgr::direction2l_t const& window,
                                          zanolib::option_t const& options) {
-    return libgr::direction2l(limited_axis(target.x, current.x, window.x - options.maxmargin[0],
-                                           options.maxsize[0], options),
-                              limited_axis(target.y, current.y, window.y - options.maxmargin[1],
-                                           options.maxsize[1], options));
+    return libgr::direction2l(limited_axis(target.x, current.x, window.x - options.maxmargin.x,
+                                           options.maxsize.x, options),
+                              limited_axis(target.y, current.y, window.y - options.maxmargin.y,
+                                           options.maxsize.y, options));
 }
 
 libgr::direction2l_t wanted_window_size(libgr::direction2l_t const& image, float ratio) {

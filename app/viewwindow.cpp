@@ -58,9 +58,8 @@ void ViewWindow::init() {
     native::set_title(
         win, zanolib::make_title(getmsg(MESSAGE_APPLICATION_NAME), getmsg(MESSAGE_NO_PICTURE)));
     libgr::direction2l_t const created = native::window_size(win);
-    auto const& winsize = zanolib::g_option.winsize;
-    native::set_window_size(win, libgr::direction2l(winsize[0], winsize[1]));
-    native::await_window_size(win, libgr::direction2l(winsize[0], winsize[1]));
+    native::set_window_size(win, zanolib::g_option.winsize);
+    native::await_window_size(win, zanolib::g_option.winsize);
     if (covers_work_area()) {
         cover_work_area(win);
         native::await_window_size(win, native::work_area(win));

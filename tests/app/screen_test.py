@@ -1,0 +1,92 @@
+#!/usr/bin/env python3
+"""The viewer on a real screen: exact pixels, start and end."""
+import os
+import shutil
+import struct
+import subprocess
+import time
+import unittest
+
+from viewerdriver import GRAY, PROGRAM, Viewer, ViewerTest, part, wait_for, write_bmp, xdotool
+
+PLAIN = ("-resetview-", "-frametype", "0")
+
+
+def pattern(bits):
+    if bits <= 8:
+        return lambda x, y: (x * 7 + y * 13 + x * y // 5) % (1 << bits)
+    return lambda x, y: (x % 256, y % 256, (x * y) % 256)
+
+
+class Start(ViewerTest):
+    def test_help_and_no_display(self):
+        run = subprocess.run((PROGRAM, "-h"), capture_output=True, text=True)
+        self.assertEqual((run.returncode, run.stderr), (0, ""))
+        lines = run.stdout.splitlines()
+        self.assertEqual(lines[:4], [f"usage: {PROGRAM} [option] file...", "",
+                                     "option                 format  comment.", "-" * 39])
+        self.assertEqual(len(lines), 29)
+        for words in (), ("-h",), ("x.bmp",):
+            run = subprocess.run((PROGRAM,) + words, capture_output=True, text=True,
+                                 env={k: v for k, v in os.environ.items() if "DISPLAY" not in k})
+            self.assertEqual((run.returncode, run.stdout, run.stderr), (1, "", "glfwInit() failed.\n"))
+
+    def test_ends_on_q_escape_and_close(self):
+        write_bmp(self.path("a.bmp"), 8, 8, 24, pattern(24))
+        for end in "q", "Escape", "close":
+            with Viewer(self.path("a.bmp")) as viewer:
+                viewer.await_title("a.bmp (1/1)")
+                if end == "close":
+                    window = int(viewer.window)
+                    subprocess.run(("xdotool", "windowquit", str(window)), check=True)
+                else:
+                    viewer.key(end)
+                viewer.process.wait(20)
+            self.assertEqual((viewer.output, viewer.errors), ("", ""))
+
+    def test_stays_up_with_nothing_to_show(self):
+        open(self.path("empty.bmp"), "w").close()
+        os.mkdir(self.path("folder.bmp"))
+        with Viewer(self.path("empty.bmp"), self.path("folder.bmp"), self.path("gone.bmp")) as viewer:
+            viewer.await_title("no picture")
+            viewer.key("space", "BackSpace", "Home", "End", "Return", "w", "d", "s", "g", "r", "5", "minus")
+            wait_for("the background", lambda: set(viewer.look()[2]) == {46})
+
+
+class Pixels(ViewerTest):
+    def check_middle(self, name, size, expected):
+        with Viewer(*PLAIN, self.path(name)) as viewer:
+            left, top = (800 - size[0]) // 2, (600 - size[1]) // 2
+            if size[1] % 2:
+                top = (600 - size[1] - 1) // 2
+            if size[0] % 2:
+                left = (800 - size[0] + 1) // 2
+            viewer.await_box(left, top, left + size[0] - 1, top + size[1] - 1)
+            self.assertEqual(part(viewer.look(), left, top, *size), expected, name)
+        self.assertEqual((viewer.output, viewer.errors), ("", ""), name)
+
+    def test_file_equals_screen(self):
+        for bits in 24, 32, 8, 4, 1:
+            for size in (301, 201), (302, 202):
+                expected = write_bmp(self.path(f"{bits}.bmp"), *size, bits, pattern(bits))
+                self.check_middle(f"{bits}.bmp", size, expected)
+
+    def test_huge_picture_shows_its_middle(self):
+        width, height = 12000, 9000
+        stride = width * 3
+        with open(self.path("huge.bmp"), "wb") as out:
+            out.write(struct.pack("<2sIHHI", b"BM", 0, 0, 0, 54))
+            out.write(struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, 0, 0, 0, 0, 0))
+            out.truncate(54 + stride * height)
+            for y in range(4200, 4800):
+                out.seek(54 + stride * y + 3 * 5600)
+                out.write(b"".join(bytes((x % 256, y % 256, (x + y) % 256)) for x in range(800)))
+        expected = b"".join(bytes(((x + y) % 256, y % 256, x % 256))
+                            for y in range(4799, 4199, -1) for x in range(800))
+        with Viewer(*PLAIN, self.path("huge.bmp")) as viewer:
+            wait_for("the picture", lambda: viewer.look()[2] == expected, 120)
+        self.assertEqual((viewer.output, viewer.errors), ("", ""))
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
