@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+// Tests of the way from image descriptions to OpenGL's enumerants.
+#include "gl/glformat.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "gl/glformattables.h"
+#include "glext/glextloader.h"
+#include "tests/support/files/testfiles.h"
+
+using namespace libgr;
+
+namespace {
+
+constexpr auto SINT = IMAGE_TYPE_SINT;
+constexpr auto UINT = IMAGE_TYPE_UINT;
+constexpr auto FLOAT = IMAGE_TYPE_FLOAT;
+
+struct row_t {
+    image_desc_t desc;
+    unsigned int internalformat;
+    unsigned int format;
+};
+
+constexpr row_t s_rows[] = {
+    // what the codecs make
+    {{IMAGE_FORMAT_RGB, UINT, IMAGE_BITS_8}, GL_RGB8, GL_RGB},
+    {{IMAGE_FORMAT_RGBA, UINT, IMAGE_BITS_8}, GL_RGBA8, GL_RGBA},
+    {{IMAGE_FORMAT_BGR, UINT, IMAGE_BITS_8}, GL_RGB, GL_BGR},
+    {{IMAGE_FORMAT_BGRA, UINT, IMAGE_BITS_8}, GL_RGBA, GL_BGRA},
+    {{IMAGE_FORMAT_GRAYSCALE, UINT, IMAGE_BITS_8}, GL_LUMINANCE8, GL_LUMINANCE},
+    {{IMAGE_FORMAT_GRAYSCALE_ALPHA, UINT, IMAGE_BITS_8}, GL_LUMINANCE8_ALPHA8, GL_LUMINANCE_ALPHA},
+    {{IMAGE_FORMAT_INDEX, UINT, IMAGE_BITS_8}, GL_COLOR_INDEX, GL_COLOR_INDEX},
+    {{IMAGE_FORMAT_INDEX, UINT, IMAGE_BITS_1}, GL_COLOR_INDEX, GL_COLOR_INDEX},
+    {{IMAGE_FORMAT_RGB, UINT, IMAGE_BITS_16}, GL_RGB16, GL_RGB},
+    {{IMAGE_FORMAT_RGB, SINT, IMAGE_BITS_8}, GL_RGB8, GL_RGB},
+    {{IMAGE_FORMAT_RGB, UINT, IMAGE_BITS_R5G6B5}, GL_RGB5, GL_RGB},
+    {{IMAGE_FORMAT_RGB, FLOAT, IMAGE_BITS_16}, GL_RGB16F, GL_RGB},
+    {{IMAGE_FORMAT_RGBA, FLOAT, IMAGE_BITS_32}, GL_RGBA32F, GL_RGBA},
+    {{IMAGE_FORMAT_RGBA, SINT, IMAGE_BITS_R10G10B10A2}, GL_RGB10_A2, GL_RGBA},
+    // YCbCr goes up as it stands
+    {{IMAGE_FORMAT_YCbCr, UINT, IMAGE_BITS_8}, GL_RGB8, GL_RGB},
+    {{IMAGE_FORMAT_YCbCrA, UINT, IMAGE_BITS_12}, GL_RGBA12, GL_RGBA},
+    // sized and plain formats side by side
+    {{IMAGE_FORMAT_ALPHA, SINT, IMAGE_BITS_4}, GL_ALPHA4, GL_ALPHA},
+    {{IMAGE_FORMAT_ALPHA, SINT, IMAGE_BITS_8}, GL_ALPHA, GL_ALPHA},
+    {{IMAGE_FORMAT_ALPHA, UINT, IMAGE_BITS_8}, GL_ALPHA, GL_ALPHA},
+    {{IMAGE_FORMAT_ALPHA, UINT, IMAGE_BITS_16}, GL_ALPHA16, GL_ALPHA},
+    {{IMAGE_FORMAT_ALPHA, FLOAT, IMAGE_BITS_32}, GL_ALPHA32F_ARB, GL_ALPHA},
+    {{IMAGE_FORMAT_RED, SINT, IMAGE_BITS_16}, GL_R16I, GL_RED},
+    {{IMAGE_FORMAT_RED, UINT, IMAGE_BITS_1}, GL_RED, GL_RED},
+    {{IMAGE_FORMAT_RED, UINT, IMAGE_BITS_32}, GL_R32UI, GL_RED},
+    {{IMAGE_FORMAT_RED, FLOAT, IMAGE_BITS_16}, GL_R16F, GL_RED},
+    {{IMAGE_FORMAT_GREEN, FLOAT, IMAGE_BITS_32}, GL_GREEN, GL_GREEN},
+    {{IMAGE_FORMAT_BLUE, SINT, IMAGE_BITS_8}, GL_BLUE, GL_BLUE},
+    {{IMAGE_FORMAT_GRAYSCALE, SINT, IMAGE_BITS_12}, GL_LUMINANCE12, GL_LUMINANCE},
+    {{IMAGE_FORMAT_GRAYSCALE, UINT, IMAGE_BITS_32}, GL_LUMINANCE, GL_LUMINANCE},
+    {{IMAGE_FORMAT_GRAYSCALE, FLOAT, IMAGE_BITS_16}, GL_LUMINANCE16F_ARB, GL_LUMINANCE},
+    {{IMAGE_FORMAT_INTENSITY, UINT, IMAGE_BITS_12}, GL_INTENSITY12, GL_INTENSITY},
+    {{IMAGE_FORMAT_INTENSITY, SINT, IMAGE_BITS_4}, GL_INTENSITY4, GL_INTENSITY},
+    {{IMAGE_FORMAT_GRAYSCALE_ALPHA, UINT, IMAGE_BITS_24}, GL_LUMINANCE_ALPHA, GL_LUMINANCE_ALPHA},
+    {{IMAGE_FORMAT_GRAYSCALE_ALPHA, SINT, IMAGE_BITS_L6A2},
+     GL_LUMINANCE6_ALPHA2,
+     GL_LUMINANCE_ALPHA},
+    {{IMAGE_FORMAT_GRAYSCALE_ALPHA, UINT, IMAGE_BITS_L12A4},
+     GL_LUMINANCE12_ALPHA4,
+     GL_LUMINANCE_ALPHA},
+    {{IMAGE_FORMAT_RGBA, UINT, IMAGE_BITS_4}, GL_RGBA4, GL_RGBA},
+    {{IMAGE_FORMAT_BGRA, UINT, IMAGE_BITS_4}, GL_RGB4, GL_BGRA},
+    {{IMAGE_FORMAT_BGRA, SINT, IMAGE_BITS_R5G5B5A1}, GL_RGB5_A1, GL_BGRA},
+    {{IMAGE_FORMAT_BGR, SINT, IMAGE_BITS_R3G3B2}, GL_R3_G3_B2, GL_BGR},
+    {{IMAGE_FORMAT_DEPTH, FLOAT, IMAGE_BITS_24}, GL_DEPTH_COMPONENT24, GL_DEPTH_COMPONENT},
+};
+
+/// Accepted pairs of type and bits, by format value.
+constexpr int s_accepted[IMAGE_FORMAT_MAX] = {12, 17, 12, 9, 9, 9,  13, 0, 17,
+                                              17, 6,  8,  3, 0, 17, 17, 0, 2};
+
+/// The pixel type of a description that is accepted: it depends on type and bits but for two kinds.
+unsigned int pixel_type(image_desc_t desc) {
+    bool const is_signed = desc.type == SINT;
+    if (desc.format == IMAGE_FORMAT_DEPTH) {
+        return GL_DEPTH_COMPONENT;
+    }
+    switch (desc.bits) {
+        case IMAGE_BITS_1:
+            return GL_BITMAP;
+        case IMAGE_BITS_4:
+            if (desc.getPixelBits() == 16) {
+                return GL_UNSIGNED_SHORT_4_4_4_4_REV;
+            }
+            [[fallthrough]];
+        case IMAGE_BITS_L6A2:
+        case IMAGE_BITS_8:
+            return is_signed ? GL_BYTE : GL_UNSIGNED_BYTE;
+        case IMAGE_BITS_12:
+        case IMAGE_BITS_16:
+            return desc.type == FLOAT ? GL_HALF_FLOAT : is_signed ? GL_SHORT : GL_UNSIGNED_SHORT;
+        case IMAGE_BITS_24:
+        case IMAGE_BITS_32:
+            return desc.type == FLOAT ? GL_FLOAT : is_signed ? GL_INT : GL_UNSIGNED_INT;
+        case IMAGE_BITS_R3G3B2:
+            return GL_UNSIGNED_BYTE_2_3_3_REV;
+        case IMAGE_BITS_R5G6B5:
+            return GL_UNSIGNED_SHORT_5_6_5_REV;
+        case IMAGE_BITS_R5G5B5A1:
+            return GL_UNSIGNED_SHORT_1_5_5_5_REV;
+        case IMAGE_BITS_R10G10B10A2:
+            return GL_UNSIGNED_INT_2_10_10_10_REV;
+        case IMAGE_BITS_L12A4:
+            return is_signed ? GL_SHORT : GL_BITMAP;
+        default:
+            return GL_INVALID_VALUE;
+    }
+}
+
+}  // namespace
+
+TEST(glformat, descriptions_become_the_rows_of_their_family) {
+    capture_t const quiet;
+    for (row_t const& row : s_rows) {
+        gl_loading_format_t out{};
+        ASSERT_TRUE(grConvertImageFormatToGlFormatFULL(&out, row.desc, false))
+            << row.desc.format << ' ' << row.desc.type << ' ' << row.desc.bits;
+        EXPECT_EQ(row.internalformat, out.internalformat) << row.desc.format << row.desc.bits;
+        EXPECT_EQ(row.format, out.format) << row.desc.format;
+    }
+    for (unsigned int format = 0; format < IMAGE_FORMAT_MAX; ++format) {
+        constexpr unsigned int s_bits = IMAGE_BITS_MAX;
+        int accepted = 0;
+        for (unsigned int cell = 0; cell < IMAGE_TYPE_MAX * s_bits; ++cell) {
+            image_desc_t const desc{static_cast<e_image_format_t>(format),
+                                    static_cast<e_image_type_t>(cell / s_bits),
+                                    static_cast<e_image_bits_t>(cell % s_bits)};
+            gl_loading_format_t out{};
+            if (grConvertImageFormatToGlFormatFULL(&out, desc, false)) {
+                ++accepted;
+                EXPECT_EQ(pixel_type(desc), out.type) << desc.format << desc.type << desc.bits;
+            }
+        }
+        EXPECT_EQ(s_accepted[format], accepted) << format;
+    }
+    EXPECT_EQ(9U, gl_typebits_rows(IMAGE_FORMAT_RG).size());
+    EXPECT_EQ(1U, gl_typebits_rows(IMAGE_FORMAT_DEPTH_STENCIL).size());
+}
+
+TEST(glformat, refusal_writes_four_lines_and_leaves_the_stream_hexadecimal) {
+    // The pixel format is written before the search; 7 stands for what nobody wrote.
+    struct refusal_t {
+        image_desc_t desc;
+        unsigned int format;
+        char const* names[3];
+    };
+    constexpr refusal_t refusals[] = {
+        {{IMAGE_FORMAT_RG, UINT, IMAGE_BITS_8}, 7, {"RG", "UINT", "8"}},
+        {{IMAGE_FORMAT_DEPTH_STENCIL, UINT, IMAGE_BITS_D24S8},
+         7,
+         {"DEPTH_STENCIL", "UINT", "D24S8"}},
+        {{IMAGE_FORMAT_MAX, SINT, IMAGE_BITS_1}, 7, {"MAX", "SINT", "1"}},
+        {{IMAGE_FORMAT_YCbCr422, UINT, IMAGE_BITS_8}, GL_RGB, {"YCbCr422", "UINT", "8"}},
+        {{IMAGE_FORMAT_RGB, UINT, IMAGE_BITS_24}, GL_RGB, {"RGB", "UINT", "24"}},
+        {{IMAGE_FORMAT_GRAYSCALE, UINT, IMAGE_BITS_12}, GL_LUMINANCE, {"GRAYSCALE", "UINT", "12"}},
+        {{IMAGE_FORMAT_INTENSITY, SINT, IMAGE_BITS_12}, GL_INTENSITY, {"INTENSITY", "SINT", "12"}},
+        {{IMAGE_FORMAT_INDEX, SINT, IMAGE_BITS_8}, GL_COLOR_INDEX, {"INDEX", "SINT", "8"}},
+    };
+    for (refusal_t const& refusal : refusals) {
+        capture_t capture;
+        gl_loading_format_t out{7, 7, 7};
+        EXPECT_FALSE(grConvertImageFormatToGlFormatFULL(&out, refusal.desc, false));
+        std::cerr << 255;
+        EXPECT_EQ(std::string("Not supported image format!\nimgformat: IMAGE_FORMAT_") +
+                      refusal.names[0] + "\nimgtype: IMAGE_TYPE_" + refusal.names[1] +
+                      "\nimgbits: IMAGE_BITS_" + refusal.names[2] + "\nff",
+                  capture.err());
+        EXPECT_EQ(7U, out.internalformat);
+        EXPECT_EQ(refusal.format, out.format);
+        EXPECT_EQ(7U, out.type);
+    }
+    capture_t capture;
+    EXPECT_FALSE(
+        grConvertImageFormatToGlFormatFULL(nullptr, {IMAGE_FORMAT_RGB, UINT, IMAGE_BITS_8}, false));
+    EXPECT_TRUE(capture.err().starts_with("Not supported image format!\n"));
+}
+
+TEST(glformat, compression_is_in_force_for_plain_alpha_alone) {
+    auto const before = is_GL_ARB_texture_compression_supported;
+    struct row_t {
+        int supported;
+        bool compress;
+        e_image_format_t format;
+        e_image_bits_t bits;
+        unsigned int internalformat;
+    };
+    constexpr row_t rows[] = {
+        {1, true, IMAGE_FORMAT_ALPHA, IMAGE_BITS_8, GL_COMPRESSED_ALPHA},
+        {1, true, IMAGE_FORMAT_ALPHA, IMAGE_BITS_16, GL_ALPHA16},
+        {1, true, IMAGE_FORMAT_RGB, IMAGE_BITS_8, GL_RGB8},
+        {1, false, IMAGE_FORMAT_ALPHA, IMAGE_BITS_8, GL_ALPHA},
+        {0, true, IMAGE_FORMAT_ALPHA, IMAGE_BITS_8, GL_ALPHA},
+    };
+    for (row_t const& row : rows) {
+        is_GL_ARB_texture_compression_supported = row.supported;
+        EXPECT_EQ(row.internalformat,
+                  internal_format_of({row.format, UINT, row.bits}, row.compress));
+    }
+    is_GL_ARB_texture_compression_supported = before;
+}
