@@ -72,7 +72,7 @@ tile_plan_t plan_tiles(std::uint32_t width, std::uint32_t height, std::uint32_t 
 
 bool multi_square_image_t::allocate() {
     m_squares.clear();
-    const std::uint64_t count = std::uint64_t{m_cols} * m_rows;
+    std::uint64_t const count = std::uint64_t{m_cols} * m_rows;
     if (count > max_tiles) {
         return false;
     }

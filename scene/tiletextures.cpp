@@ -6,8 +6,8 @@
 #include <iostream>
 
 #include "geometry/textstream.h"
-#include "gl/grcalls.h"
 #include "gl/grerror.h"
+#include "gl/matrixmgr.h"
 #include "options/option.h"
 
 namespace zanolib {

@@ -124,7 +124,7 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
         return false;
     }
     m_rightrotatecount = codec->rightrotatecount();
-    const GLint limit = tile_limit();
+    GLint const limit = tile_limit();
     if (!resolve_indices(m_image)) {
         return false;
     }
@@ -142,7 +142,7 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
 }
 
 bool ViewObject::saveImage(char const* path) {
-    const std::string name = snapshot_path(path);
+    std::string const name = snapshot_path(path);
     libgr::image2d_t image;
     if (!libgr::grReadPixelsRGB(image)) {
         debug_line(name + ": read pixels fail.");

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <iostream>
 #include <iterator>
 
@@ -61,11 +62,12 @@ void ViewScene::Init(char const* datapath) {
         std::cout << "gl_init" << std::endl;
     }
     // There is no depth test: the order of drawing decides what lies on top.
-    for (const GLenum test :
-         {GL_DEPTH_TEST, GL_LIGHTING, GL_ALPHA_TEST, GL_STENCIL_TEST, GL_BLEND}) {
+    for (GLenum const test : std::initializer_list<GLenum>{
+             GL_DEPTH_TEST, GL_LIGHTING, GL_ALPHA_TEST, GL_STENCIL_TEST, GL_BLEND}) {
         glDisable(test);
     }
-    for (const GLenum hint : {GL_POINT_SMOOTH_HINT, GL_LINE_SMOOTH_HINT, GL_POLYGON_SMOOTH_HINT}) {
+    for (GLenum const hint : std::initializer_list<GLenum>{
+             GL_POINT_SMOOTH_HINT, GL_LINE_SMOOTH_HINT, GL_POLYGON_SMOOTH_HINT}) {
         glHint(hint, GL_FASTEST);
     }
     glShadeModel(GL_SMOOTH);
@@ -238,7 +240,8 @@ void ViewScene::Display() const {
     // coordinates.
     glEnable(GL_LIGHT0);
     libgr::grLightPos(GL_LIGHT0, libgr::position3(-50.0f, 50.0f, 50.0f));
-    for (const GLenum property : {GL_AMBIENT, GL_DIFFUSE, GL_SPECULAR}) {
+    for (GLenum const property :
+         std::initializer_list<GLenum>{GL_AMBIENT, GL_DIFFUSE, GL_SPECULAR}) {
         libgr::grLight(GL_LIGHT0, property, libgr::gray18);
     }
     libgr::grLight(GL_LIGHT0, GL_LINEAR_ATTENUATION, libgr::white);
