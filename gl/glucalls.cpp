@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// The system's GL utility library behind our pointers.
+#include "gl/glucalls.h"
+
+#include <GL/glu.h>
+
+namespace libgr {
+
+const GLubyte* (*gluErrorString)(GLenum) = ::gluErrorString;
+GLint (*gluBuild1DMipmaps)(GLenum, GLint, GLsizei, GLenum, GLenum,
+                           const void*) = ::gluBuild1DMipmaps;
+GLint (*gluBuild2DMipmaps)(GLenum, GLint, GLsizei, GLsizei, GLenum, GLenum,
+                           const void*) = ::gluBuild2DMipmaps;
+GLint (*gluBuild3DMipmaps)(GLenum, GLint, GLsizei, GLsizei, GLsizei, GLenum, GLenum,
+                           const void*) = ::gluBuild3DMipmaps;
+
+}  // namespace libgr

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Making, calling and deleting GL display lists.
+#include "gl/grdsplist.h"
+
+#include "glext/glextloader.h"
+
+namespace libgr {
+
+void grDspListMgr::Generate() {
+    if (!m_generated) {
+        m_listname = glGenLists(1);
+        m_generated = true;
+    }
+}
+
+void grDspListMgr::Release() {
+    if (m_generated) {
+        glDeleteLists(m_listname, 1);
+        m_generated = false;
+    }
+}
+
+unsigned int grDspListMgr::listname() const {
+    // The number of an error stands for no name; users have come to know it.
+    return m_generated ? m_listname : static_cast<unsigned int>(GL_INVALID_VALUE);
+}
+
+bool grDspList::Preload(const grObject3D* object) {
+    grDspListMgr& list = m_list ? *m_list : m_list.create();
+    list.Generate();
+    glNewList(list.listname(), GL_COMPILE);
+    if (object != nullptr) {
+        object->Draw();
+    }
+    glEndList();
+    return true;
+}
+
+void grDspList::Unload() {
+    if (m_list) {
+        m_list->Release();
+    }
+}
+
+void grDspList::Draw() const {
+    if (m_list && m_list->generated()) {
+        glCallList(m_list->listname());
+    }
+}
+
+}  // namespace libgr

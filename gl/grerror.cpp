@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// The report of GL errors on the error stream.
+#include "gl/grerror.h"
+
+#include <iostream>
+
+#include "gl/glucalls.h"
+#include "utils/diagnostics.h"
+
+namespace libgr {
+
+bool grPrintError(const char* label) {
+    const GLenum code = glGetError();
+    if (code == GL_NO_ERROR) {
+        return false;
+    }
+    if (label != nullptr) {
+        std::cerr << label << ": ";
+    }
+    {
+        const libutils::keepflag keep(std::cerr);
+        std::cerr << "Error " << std::dec << code << ": ";
+    }
+    // A null text would put the stream out of order for good.
+    const GLubyte* text = gluErrorString(code);
+    std::cerr << (text != nullptr ? text : reinterpret_cast<const GLubyte*>("unknown error"));
+    libutils::error();
+    std::cerr << std::endl;
+    return true;
+}
+
+}  // namespace libgr

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+// Drawing of the node tree.
+#include "gl/grobject.h"
+
+#include "gl/grcalls.h"
+#include "gl/grerror.h"
+#include "gl/matrixmgr.h"
+
+namespace libgr {
+
+void grObject3D::Draw() {
+    static_cast<const grObject3D*>(this)->Draw();
+}
+
+void grRotater::Draw() const {
+    if (m_object == nullptr) {
+        return;
+    }
+    grRotate(m_rotation);
+    m_object->Draw();
+}
+
+void grZoomer::Draw() const {
+    if (m_object == nullptr) {
+        return;
+    }
+    grScale(m_scale);
+    m_object->Draw();
+}
+
+void grZoomer::addZoom(const direction3_t& d) {
+    direction3_t sum = m_zoom;
+    sum += d;
+    setZoom(sum);
+}
+
+void grZoomer::setZoom(const direction3_t& d) {
+    m_zoom = d;
+    m_scale = pow(direction3(2.0f), m_zoom);
+}
+
+void grTranslater::Draw() const {
+    if (m_object == nullptr) {
+        return;
+    }
+    grPrintError("grTranslater::Draw() - before translate.");
+    grTranslate(m_position);
+    grPrintError("grTranslater::Draw() - after translate.");
+    m_object->Draw();
+    grPrintError("grTranslater::Draw() - after m_object->Draw().");
+}
+
+void grTransformer::Draw() const {
+    if (m_object == nullptr) {
+        return;
+    }
+    grPrintError("grTransformer::Draw() - before MultMatrix()");
+    grMultMatrix(m_matrix);
+    grPrintError("grTransformer::Draw() - after MultMatrix()");
+    m_object->Draw();
+    grPrintError("grTransformer::Draw() - after m_object->Draw()");
+}
+
+void grContainer::Draw() const {
+    for (const grObject3D* object : m_objects) {
+        const grMatrixPusher pusher(GL_MODELVIEW);
+        if (object != nullptr) {
+            object->Draw();
+        }
+    }
+}
+
+const grObject3D* grContainer::getObject(unsigned long n) const {
+    return n < m_objects.size() ? m_objects[n] : nullptr;
+}
+
+}  // namespace libgr

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+// Image records as glPixelStore parameters, and the sizes of OpenGL's pixel formats and types.
+#include "gl/pixelstore.h"
+
+#include <initializer_list>
+#include <iterator>
+
+#include "utils/bits.h"
+
+namespace libgr {
+
+namespace {
+
+struct pixelstore_t {
+    GLenum pname;
+    unsigned int value;
+};
+
+void set(std::initializer_list<pixelstore_t> parameters) {
+    for (const pixelstore_t& parameter : parameters) {
+        glPixelStorei(parameter.pname, static_cast<GLint>(parameter.value));
+    }
+}
+
+/// The alignment under which OpenGL packs the rows of `image`: that of the store, or else one that
+/// was set before, which is taken for the widest.
+unsigned long long pack_alignment(const image_store_t* store) {
+    constexpr unsigned int widest = 8;
+    const bool valid =
+        store != nullptr && store->alignment <= widest && libutils::Is_2nSize(store->alignment);
+    return valid ? store->alignment : widest;
+}
+
+}  // namespace
+
+void grPixelStoreUnpack(const image_store_t* store) {
+    if (store != nullptr) {
+        set({{GL_UNPACK_SWAP_BYTES, store->swapbytes}, {GL_UNPACK_ALIGNMENT, store->alignment}});
+    }
+}
+
+void grPixelStoreUnpack(const image_window1d_t& window) {
+    set({{GL_UNPACK_SKIP_PIXELS, window.skippixels}});
+}
+
+void grPixelStoreUnpack(const image_window2d_t& window) {
+    set({{GL_UNPACK_ROW_LENGTH, window.rowlength},
+         {GL_UNPACK_SKIP_PIXELS, window.skippixels},
+         {GL_UNPACK_SKIP_ROWS, window.skiprows}});
+}
+
+void grPixelStoreUnpack(const image_window3d_t& window) {
+    set({{GL_UNPACK_ROW_LENGTH, window.rowlength},
+         {GL_UNPACK_IMAGE_HEIGHT, window.imageheight},
+         {GL_UNPACK_SKIP_PIXELS, window.skippixels},
+         {GL_UNPACK_SKIP_ROWS, window.skiprows},
+         {GL_UNPACK_SKIP_IMAGES, window.skipimages}});
+}
+
+void grPixelStorePack(const image_store_t* store) {
+    if (store != nullptr) {
+        set({{GL_PACK_SWAP_BYTES, store->swapbytes}, {GL_PACK_ALIGNMENT, store->alignment}});
+    }
+}
+
+void grPixelStorePack(const image_window1d_t& window) {
+    set({{GL_PACK_SKIP_PIXELS, window.skippixels}});
+}
+
+void grPixelStorePack(const image_window2d_t& window) {
+    set({{GL_PACK_ROW_LENGTH, window.rowlength},
+         {GL_PACK_SKIP_PIXELS, window.skippixels},
+         {GL_PACK_SKIP_ROWS, window.skiprows}});
+}
+
+void grPixelStorePack(const image_window3d_t& window) {
+    set({{GL_PACK_ROW_LENGTH, window.rowlength},
+         {GL_PACK_IMAGE_HEIGHT, window.imageheight},
+         {GL_PACK_SKIP_PIXELS, window.skippixels},
+         {GL_PACK_SKIP_ROWS, window.skiprows},
+         {GL_PACK_SKIP_IMAGES, window.skipimages}});
+}
+
+bool grAllocateForPack(image2d_t& image, unsigned int pixelbytes) {
+    const unsigned long long align = pack_alignment(image.store);
+    const unsigned long long row = (image.rowlength() * pixelbytes + align - 1) / align * align;
+    const unsigned long long rows = image.window.skiprows + 1ULL * image.m_height;
+    const unsigned long long first = 1ULL * image.window.skippixels * pixelbytes;
+    // 32-bit counts and at most 16 bytes a pixel: only this product can leave 64 bits.
+    unsigned long long needed = 0;
+    if (__builtin_mul_overflow(row, rows, &needed) ||
+        __builtin_add_overflow(needed, first, &needed) || !image.allocate()) {
+        return false;
+    }
+    return image.size() >= needed || image.resize(needed, 0);
+}
+
+unsigned long grFormatToComponents(GLenum format) {
+    switch (format) {
+        case GL_COLOR_INDEX:
+        case GL_RED:
+        case GL_GREEN:
+        case GL_BLUE:
+        case GL_ALPHA:
+        case GL_DEPTH_COMPONENT:
+        case GL_LUMINANCE:
+            return 1;
+        case GL_LUMINANCE_ALPHA:
+            return 2;
+        case GL_RGB:
+        case GL_BGR:
+            return 3;
+        case GL_RGBA:
+        case GL_BGRA:
+            return 4;
+        default:
+            return 0;
+    }
+}
+
+unsigned long grTypeToSize(GLenum type) {
+    switch (type) {
+        case GL_BYTE:
+        case GL_UNSIGNED_BYTE:
+        case GL_BITMAP:
+            return 1;
+        case GL_SHORT:
+        case GL_UNSIGNED_SHORT:
+            return 2;
+        case GL_INT:
+        case GL_UNSIGNED_INT:
+        case GL_FLOAT:
+            return 4;
+        case GL_DOUBLE:
+            return 8;
+        default:
+            return 0;
+    }
+}
+
+GLenum grSizeToType(unsigned long size) {
+    static constexpr GLenum types[] = {0, GL_UNSIGNED_BYTE, GL_UNSIGNED_SHORT, 0, GL_FLOAT, 0, 0,
+                                       0, GL_DOUBLE};
+    return size < std::size(types) ? types[size] : 0;
+}
+
+}  // namespace libgr
