@@ -40,7 +40,7 @@ template <typed_text T>
 std::istream& operator>>(std::istream& in, T& value) {
     mtype_value_t any(std::in_place_type<T>, value);
     read_value(in, any);
-    value = *std::get_if<T>(&any);
+    value = std::get<T>(any);
     return in;
 }
 
