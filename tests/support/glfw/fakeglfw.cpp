@@ -96,7 +96,7 @@ GLFWwindow* glfwCreateWindow(int width, int height, char const* title, GLFWmonit
     }
     auto& windows = s_fake->windows;
     GLFWwindow& window = *windows.emplace_back(std::make_unique<GLFWwindow>());
-    window.name = "w";
+    window.name.push_back('w');
     window.name += std::to_string(windows.size());
     window.title = title;
     window.width = width;
