@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+// The user default file: all options, one a line, in the form of the command line.
+#include "options/userdefault.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <list>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "options/optionrow.h"
+#include "options/smallfile.h"
+#include "utils/token.h"
+
+namespace zanolib {
+
+namespace {
+
+std::string user_default_path(char const* prog, char const* dir) {
+    char const* const home = std::getenv("HOME");
+    std::string path = home != nullptr ? home : dir;
+    if (!path.empty() && path.back() != '/' && path.back() != '\\') {
+        path += '/';
+    }
+    return path + "." + prog;
+}
+
+void init_options_once() {
+    if (option_entity_table[0].length == 0) {
+        option_init();
+    }
+}
+
+void apply_line(std::string line) {
+    libutils::chop(line);
+    std::list<std::string> tokens;
+    libutils::separate_token(tokens, line, " \t");
+    if (tokens.empty()) {
+        return;
+    }
+    std::vector<char const*> arguments;
+    libutils::makecharptrarray(arguments, tokens);
+    arguments.push_back(nullptr);  // no value behind an option alone on its line
+    option_each_analyze(arguments.data());
+}
+
+/// Writes what stands behind the name: a sign for a flag, else a blank and the value.
+void put_value(std::ostream& out, option_entity_t const& row) {
+    switch (row.type) {
+        case OPTION_TYPE_BOOL:
+            out << (option_field<bool>(row) ? "+" : "-");
+            break;
+        case OPTION_TYPE_ENUM:
+            out << " " << option_field<std::int32_t>(row);
+            break;
+        case OPTION_TYPE_PERCENT:
+        case OPTION_TYPE_ULONG:
+            out << " " << option_field<std::uint32_t>(row);
+            break;
+        case OPTION_TYPE_FLOAT:
+            out << " " << option_field<float>(row);
+            break;
+        case OPTION_TYPE_PAIR: {
+            auto const size = option_field<libgr::direction2l_t>(row);
+            out << " " << size.x << "x" << size.y;
+            break;
+        }
+        case OPTION_TYPE_COLOR: {
+            // As characters, which the parser doesn't take for numbers: a saved colour comes back
+            // as 0,0,0,0.
+            auto const color = option_field<libgr::color3aub_t>(row);
+            out << " " << color.r << "," << color.g << "," << color.b << "," << color.a;
+            break;
+        }
+    }
+}
+
+}  // namespace
+
+void option_load_user_default(char const* prog, char const* dir) {
+    init_options_once();
+    std::string const path = user_default_path(prog, dir);
+    if (g_option.verbose) {
+        std::cout << "load user default: " << path << std::endl;
+    }
+    option_load(path.c_str());
+}
+
+void option_save_user_default(char const* prog, char const* dir) {
+    if (g_option.debug) {
+        std::cout << "prog: " << prog << ", dir: " << dir << std::endl;
+    }
+    init_options_once();
+    std::string const path = user_default_path(prog, dir);
+    if (g_option.verbose) {
+        std::cout << "save user default: " << path << std::endl;
+    }
+    option_save(path.c_str());
+}
+
+bool option_load(char const* path) {
+    std::vector<char> buffer;
+    small_file_t const outcome = read_small_file(buffer, path);
+    if (outcome != small_file_t::READ) {
+        return outcome != small_file_t::TOO_LONG;
+    }
+    std::istringstream file(std::string(buffer.begin(), buffer.end()));
+    for (std::string line; std::getline(file, line);) {
+        apply_line(line);
+    }
+    return true;
+}
+
+bool option_save(char const* path) {
+    std::ofstream file(path, std::ios::trunc);
+    if (file.bad()) {
+        return false;
+    }
+    for (option_entity_t const& row : option_entity_table) {
+        file << "-" << row.name;
+        put_value(file, row);
+        file << "\n";
+    }
+    return true;
+}
+
+}  // namespace zanolib
