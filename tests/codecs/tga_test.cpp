@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+// TGA files made field by field, read and written.
+#include "codecs/tga.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/codecs/picturebytes.h"
+#include "tests/support/files/testfiles.h"
+
+namespace {
+
+using namespace libgr;
+
+struct tga_t {
+    unsigned int type, width, height, depth;
+    std::string pixels;
+    unsigned int descriptor = 0;
+    std::string id = {};
+    unsigned int map_first = 0, map_length = 0, entry_size = 0;
+    std::string map = {};
+
+    std::string bytes() const {
+        return le(id.size(), 1) + le(map_length != 0, 1) + le(type, 1) + le(map_first, 2) +
+               le(map_length, 2) + le(entry_size, 1) + le(0, 4) + le(width, 2) + le(height, 2) +
+               le(depth, 1) + le(descriptor, 1) + id + map + pixels;
+    }
+};
+
+TEST(Tga, TakesPaddedBottomUpFiles) {
+    temp_dir_t const dir;
+    std::string const path = dir.file("x.tga");
+    long const files = open_files();
+    struct {
+        tga_t file;
+        char const* expected;
+    } const rows[] = {
+        {{2, 3, 2, 8, ramp(8)}, "3x2 GRAYSCALE 8 0: 8"},
+        {{2, 3, 1, 16, ramp(8)}, "3x1 BGRA R5G5B5A1 0: 8"},
+        {{2, 3, 2, 24, ramp(24)}, "3x2 BGR 8 0: 24"},
+        {{2, 3, 2, 24, ramp(18)}, "-"},  // unpadded
+        {{2, 1, 1, 32, ramp(4)}, "1x1 BGRA 8 0: 4"},
+        {{2, 2, 1, 15, ramp(4)}, "-"},
+        // A map's entries count in bytes, and the ones before the first are there.
+        {{1, 4, 1, 8, ramp(4), 0, "id", 1, 2, 3, ramp(9)}, "4x1 GRAYSCALE 8 0: 4"},
+        {{1, 4, 1, 8, ramp(4), 0, "", 0, 2, 24, ramp(6)}, "-"},
+        // Run lengths, no picture, top to bottom, no pixels, the largest claim.
+        {{10, 4, 1, 24, ramp(12)}, "-"},
+        {{0, 4, 1, 24, ramp(12)}, "-"},
+        {{2, 4, 1, 24, ramp(12), 0x20}, "-"},
+        {{2, 0, 1, 24, ""}, "-"},
+        {{2, 65535, 65535, 255, ramp(64)}, "-"},
+    };
+    for (auto const& row : rows) {
+        SCOPED_TRACE(row.expected);
+        std::string const bytes = row.file.bytes();
+        write_file(path, bytes);
+        image2d_t image;
+        EXPECT_EQ(load_outcome<image_tga_t>(image, path), row.expected);
+        EXPECT_TRUE(image.empty() || pixels_of(image) == row.file.pixels);
+        tgaimage_t tga;  // which leads to the same header, id and map
+        EXPECT_EQ(tga.load(path.c_str(), nullptr) && !tga.save(path.c_str(), nullptr), false);
+        EXPECT_EQ(read_file(path), bytes);
+        for (std::size_t size = 0; size < bytes.size(); ++size) {
+            write_file(path, bytes.substr(0, size));
+            EXPECT_FALSE(image_tga_t().load(image, path.c_str())) << "cut to " << size;
+        }
+    }
+    image2d_t image;
+    EXPECT_FALSE(image_tga_t().load(image, dir.path().c_str()));
+    EXPECT_FALSE(image_tga_t().load(image, dir.file("none.tga").c_str()));
+    EXPECT_EQ(open_files(), files);
+}
+
+TEST(Tga, SavesRedFirstPicturesAlone) {
+    temp_dir_t const dir;
+    std::string const path = dir.file("x.tga");
+    struct {
+        e_image_format_t format;
+        e_image_bits_t bits;
+        unsigned int depth;  // 0 where it is refused
+        std::string pixels;  // in the file, of two pixels
+    } const rows[] = {
+        {IMAGE_FORMAT_RGBA, IMAGE_BITS_8, 32, "\3\2\1\4\7\6\5\10"},
+        {IMAGE_FORMAT_RGB, IMAGE_BITS_8, 24, {"\3\2\1\6\5\4\0\0", 8}},
+        {IMAGE_FORMAT_RGBA, IMAGE_BITS_R5G5B5A1, 16, ramp(8)},
+        {IMAGE_FORMAT_BGRA, IMAGE_BITS_8, 0, ""},
+        {IMAGE_FORMAT_BGR, IMAGE_BITS_8, 0, ""},
+        {IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_8, 0, ""},
+        {IMAGE_FORMAT_RGB, IMAGE_BITS_16, 0, ""},
+    };
+    for (auto const& row : rows) {
+        image2d_t image = image_of(2, 1, row.format, row.bits, ramp(8));
+        write_file(path, "old");
+        EXPECT_EQ(image_tga_t().save(image, path.c_str()), row.depth != 0);
+        std::string const expected = tga_t{2, 2, 1, row.depth, row.pixels}.bytes();
+        EXPECT_EQ(read_file(path), row.depth != 0 ? expected : "old");
+        EXPECT_FALSE(image_tga_t().save(image, "/dev/full"));
+        image.m_width = 65538;
+        EXPECT_FALSE(image_tga_t().save(image, path.c_str()));
+    }
+}
+
+}  // namespace
