@@ -20,10 +20,17 @@ template <auto& Slot, typename Answer, typename F = std::remove_cvref_t<decltype
 struct stand_in_t;
 template <auto& Slot, typename Answer, typename R, typename... A>
 struct stand_in_t<Slot, Answer, R (*)(A...)> {
-    static inline std::string name;
-    static inline std::string format;
+    // In functions, since the table below is filled before the statics of templates are made.
+    static std::string& name() {
+        static std::string text;
+        return text;
+    }
+    static std::string& format() {
+        static std::string text;
+        return text;
+    }
     static R call(A... arguments) {
-        g_recorder->record(name, format, arguments...);
+        g_recorder->record(name(), format(), arguments...);
         if constexpr (!std::is_same_v<Answer, no_answer_t>) {
             return Answer{}(*g_recorder, arguments...);
         } else {
@@ -39,8 +46,8 @@ using swap_t = void (*)();
 template <auto& Slot, typename Answer>
 swap_t entry(const std::string& name, const std::string& format, Answer) {
     using stand_in = stand_in_t<Slot, Answer>;
-    stand_in::name = name.substr(name.rfind(':') + 1);
-    stand_in::format = format;
+    stand_in::name() = name.substr(name.rfind(':') + 1);
+    stand_in::format() = format;
     return &stand_in::swap;
 }
 
