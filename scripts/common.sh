@@ -3,7 +3,7 @@
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages="g++ cmake ninja-build pkg-config libglfw3-dev libgl-dev libglu1-mesa-dev libgl1 libgl1-mesa-dri libjpeg-dev libpng-dev"
 screen_packages="xvfb xdotool imagemagick"
-test_packages="libgtest-dev libbenchmark-dev python3 $screen_packages"
+test_packages="libgtest-dev libbenchmark-dev python3 openbox x11-utils $screen_packages"
 
 say() { printf '==> %s\n' "$*"; }
 
@@ -47,7 +47,7 @@ start_screen() {
     if [ "${1:-}" != always ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then return 0; fi
     local number_file
     number_file=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$number_file" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$number_file" 2>/dev/null &
     screen_pid=$!
     trap 'kill $screen_pid 2>/dev/null' EXIT
     for _ in $(seq 100); do

@@ -117,7 +117,8 @@ TEST(PictureList, TakesPicturesByNameSortedInsideTheirDirectory) {
     }
     EXPECT_EQ(list, expected);
 
-    // A file need not exist, but must be named like a picture; a directory may have nothing to give.
+    // A file need not exist, but must be named like a picture; a directory may have nothing to
+    // give.
     EXPECT_TRUE(append_pictures(list, "gone.PNG"));
     EXPECT_EQ(list.back(), "gone.PNG");
     EXPECT_FALSE(append_pictures(list, "a.gif"));

@@ -31,16 +31,12 @@ class Start(ViewerTest):
                                  env={k: v for k, v in os.environ.items() if "DISPLAY" not in k})
             self.assertEqual((run.returncode, run.stdout, run.stderr), (1, "", "glfwInit() failed.\n"))
 
-    def test_ends_on_q_escape_and_close(self):
+    def test_ends_on_q_and_escape(self):
         write_bmp(self.path("a.bmp"), 8, 8, 24, pattern(24))
-        for end in "q", "Escape", "close":
+        for end in "q", "Escape":
             with Viewer(self.path("a.bmp")) as viewer:
                 viewer.await_title("a.bmp (1/1)")
-                if end == "close":
-                    window = int(viewer.window)
-                    subprocess.run(("xdotool", "windowquit", str(window)), check=True)
-                else:
-                    viewer.key(end)
+                viewer.key(end)
                 viewer.process.wait(20)
             self.assertEqual((viewer.output, viewer.errors), ("", ""))
 
@@ -85,6 +81,33 @@ class Pixels(ViewerTest):
                             for y in range(4799, 4199, -1) for x in range(800))
         with Viewer(*PLAIN, self.path("huge.bmp")) as viewer:
             wait_for("the picture", lambda: viewer.look()[2] == expected, 120)
+        self.assertEqual((viewer.output, viewer.errors), ("", ""))
+
+
+class UnderAWindowManager(ViewerTest):
+    """Sizes arrive late there, and the window has a close button."""
+
+    def setUp(self):
+        super().setUp()
+        manager = subprocess.Popen(("openbox", "--sm-disable"), stderr=subprocess.DEVNULL)
+        self.addCleanup(manager.wait)
+        self.addCleanup(manager.terminate)
+        wait_for("the window manager", lambda: b"0x" in subprocess.run(
+            ("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), capture_output=True).stdout)
+
+    def test_fits_into_the_late_size_and_ends_on_close(self):
+        write_bmp(self.path("a.bmp"), 1200, 900, 24, lambda x, y: (0, 90, 200))
+        with Viewer("-frametype", "0", self.path("a.bmp")) as viewer:
+            viewer.await_box(50, 38, 749, 561, slack=1)
+            self.assertEqual(viewer.look()[:2], (800, 600))
+            xdotool("windowsize", "--sync", viewer.window, 800, 300)
+            viewer.await_box(225, 19, 574, 280, slack=1)
+            viewer.key("f")
+            wait_for("the work area", lambda: viewer.look()[0] > 1200)
+            viewer.key("f")
+            wait_for("the old size", lambda: viewer.look()[:2] == (800, 300))
+            viewer.key("alt+F4")
+            viewer.process.wait(20)
         self.assertEqual((viewer.output, viewer.errors), ("", ""))
 
 

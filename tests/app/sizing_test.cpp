@@ -34,8 +34,9 @@ TEST(Sizing, LimitsEachAxisByItself) {
         options.resize_magnify = row.magnify;
         options.resize_shrink = row.shrink;
         options.sizelimit = row.sizelimit;
-        auto const size = limited_window_size(direction2l(row.target[0], row.target[1]),
-                                              direction2l(800, 600), direction2l(800, 600), options);
+        auto const size =
+            limited_window_size(direction2l(row.target[0], row.target[1]), direction2l(800, 600),
+                                direction2l(800, 600), options);
         EXPECT_EQ(size.x, row.expected[0]) << "limit " << row.sizelimit;
         EXPECT_EQ(size.y, row.expected[1]) << "limit " << row.sizelimit;
     }
