@@ -57,7 +57,7 @@ class gl_recorder_t {
         m_line = std::move(name) + "(";
         format.resize(sizeof...(A), '.');
         [[maybe_unused]] std::size_t n = 0;
-        (append(n == 0, format[n], arguments), ..., static_cast<void>(++n));
+        ((append(n == 0, format[n], arguments), ++n), ...);
         lines.push_back(m_line + ")");
     }
 
