@@ -201,8 +201,11 @@ void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
 }
 void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
                extent_t<3> const& extent, GLint border, void const* pixels) {
-    glTexImage3DEXT(target, level, terms.internalformat, extent[0], extent[1], extent[2], border,
-                    terms.format, terms.type, pixels);
+    // Null in a context without EXT_texture3D, like the next one.
+    if (glTexImage3DEXT != nullptr) {
+        glTexImage3DEXT(target, level, terms.internalformat, extent[0], extent[1], extent[2],
+                        border, terms.format, terms.type, pixels);
+    }
 }
 
 void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
@@ -215,8 +218,10 @@ void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
 }
 void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
                    extent_t<3> const& extent, void const* pixels) {
-    glTexSubImage3DEXT(target, level, 0, 0, 0, extent[0], extent[1], extent[2], terms.format,
-                       terms.type, pixels);
+    if (glTexSubImage3DEXT != nullptr) {
+        glTexSubImage3DEXT(target, level, 0, 0, 0, extent[0], extent[1], extent[2], terms.format,
+                           terms.type, pixels);
+    }
 }
 
 void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
