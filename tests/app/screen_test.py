@@ -89,9 +89,8 @@ class UnderAWindowManager(ViewerTest):
 
     def setUp(self):
         super().setUp()
-        manager = subprocess.Popen(("openbox", "--sm-disable"), stderr=subprocess.DEVNULL)
-        self.addCleanup(manager.wait)
-        self.addCleanup(manager.terminate)
+        self.new_screen()
+        self.start("openbox", "--sm-disable")
         wait_for("the window manager", lambda: b"0x" in subprocess.run(
             ("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), capture_output=True).stdout)
 

@@ -142,5 +142,22 @@ class ViewerTest(unittest.TestCase):
         self.folder = tempfile.TemporaryDirectory()
         self.addCleanup(self.folder.cleanup)
 
+    def start(self, *words, **options):
+        """A program that runs until the test ends."""
+        process = subprocess.Popen(words, stderr=subprocess.DEVNULL, **options)
+        self.addCleanup(process.wait)
+        self.addCleanup(process.terminate)
+
+    def new_screen(self):
+        """A virtual screen of the test's own: a window manager leaves traces on the one it was on."""
+        reading, writing = os.pipe()
+        self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-noreset",
+                   pass_fds=(writing,))
+        former = os.environ["DISPLAY"]
+        self.addCleanup(os.environ.update, DISPLAY=former)
+        os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
+        os.close(reading)
+        os.close(writing)
+
     def path(self, name):
         return os.path.join(self.folder.name, name)

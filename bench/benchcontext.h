@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// A hidden window's OpenGL context for benchmarks.
+#pragma once
+
+#define GLFW_INCLUDE_NONE
+#include <GLFW/glfw3.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "glext/glextloader.h"
+
+/// A context that is current on this thread for the lifetime of the object, all entry points
+/// resolved. Ends the process when there is no display.
+class bench_context_t {
+  public:
+    bench_context_t() {
+        if (glfwInit() == GLFW_TRUE) {
+            glfwWindowHint(GLFW_VISIBLE, GLFW_FALSE);
+            m_window = glfwCreateWindow(64, 64, "bench", nullptr, nullptr);
+        }
+        if (m_window == nullptr) {
+            std::fputs("no OpenGL context: is there a display?\n", stderr);
+            std::exit(1);
+        }
+        glfwMakeContextCurrent(m_window);
+        gl_extloader_init();
+    }
+    bench_context_t(bench_context_t const&) = delete;
+    bench_context_t& operator=(bench_context_t const&) = delete;
+    ~bench_context_t() { glfwTerminate(); }
+
+  private:
+    GLFWwindow* m_window = nullptr;
+};
