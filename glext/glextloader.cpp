@@ -135,7 +135,7 @@ int numdotstrcmp(char const* a, char const* b) {
     }
     if (!*end_a)
         return *end_b ? -1 : 0;
-    return *end_b ? 0 : 1;
+    return 1;
 }
 
 void addlist(char const* name) {
