@@ -84,6 +84,66 @@ class Pixels(ViewerTest):
         self.assertEqual((viewer.output, viewer.errors), ("", ""))
 
 
+class Session(ViewerTest):
+    """What a person does with a directory of pictures."""
+
+    def setUp(self):
+        super().setUp()
+        for name, colour in ("a.bmp", (200, 0, 0)), ("b.bmp", (0, 200, 0)), ("c.BMP", (0, 0, 200)):
+            write_bmp(self.path(name), 400, 300, 24, lambda x, y, c=colour: c)
+        open(self.path("bb.bmp"), "w").close()
+
+    def drag(self, viewer, button, start, end):
+        xdotool("mousemove", "--window", viewer.window, *start, "mousedown", button)
+        time.sleep(0.05)
+        xdotool("mousemove", "--window", viewer.window, *end)
+        time.sleep(0.05)
+        xdotool("mouseup", button)
+
+    def test_pages_moves_and_remembers(self):
+        with Viewer("-frametype", "0", self.folder.name) as viewer:
+            viewer.await_title("/a.bmp (1/4) - zanoview3")
+            viewer.await_box(50, 38, 749, 562, slack=1)
+            viewer.key("space")
+            viewer.await_title("/b.bmp (2/4)")
+            viewer.key("space")
+            viewer.await_title("/c.BMP (4/4)")
+            viewer.key("Home", "0")
+            viewer.await_title("/a.bmp (1/4)")
+            viewer.await_box(200, 150, 599, 449)
+            self.drag(viewer, 1, (400, 300), (430, 280))
+            viewer.await_box(230, 130, 629, 429)
+            viewer.key("Right", "Up")
+            viewer.await_box(220, 140, 619, 439)
+            viewer.key("w")
+            wait_for("the view state file", lambda: os.path.exists(self.path("a.zvw")))
+            self.drag(viewer, 3, (300, 300), (660, 300))
+            viewer.await_box(240, 80, 539, 479, slack=1)
+            viewer.key("Return", "2")
+            viewer.await_box(300, 225, 499, 374)
+            xdotool("click", "--repeat", 4, "--delay", 20, 5)  # towards the user: larger
+            viewer.await_box(200, 150, 599, 449, slack=1)
+            viewer.key("space", "BackSpace")
+            viewer.await_title("/a.bmp (1/4)")
+            viewer.key("d")
+            wait_for("the end of it", lambda: not os.path.exists(self.path("a.zvw")))
+        self.assertEqual((viewer.output, viewer.errors), ("", ""))
+
+    def test_sleeps_when_nothing_happens(self):
+        with Viewer(self.path("a.bmp"), env={"LANG": "ja_JP.UTF-8"}) as viewer:
+            viewer.await_title("/a.bmp (1/1)")
+            time.sleep(1)
+
+            def spent():
+                with open(f"/proc/{viewer.process.pid}/stat") as stat:
+                    ticks = stat.read().rsplit(")", 1)[1].split()[11:13]
+                with open(f"/proc/{viewer.process.pid}/status") as status:
+                    return ticks + [line for line in status if "ctxt_switches" in line]
+            before = spent()
+            time.sleep(3)
+            self.assertEqual(spent(), before)
+
+
 class UnderAWindowManager(ViewerTest):
     """Sizes arrive late there, and the window has a close button."""
 
