@@ -88,7 +88,7 @@ bool grAllocateForPack(image2d_t& image, unsigned int pixelbytes) {
     const unsigned long long first = 1ULL * image.window.skippixels * pixelbytes;
     // 32-bit counts and at most 16 bytes a pixel: only this product can leave 64 bits.
     unsigned long long needed = 0;
-    if (__builtin_mul_overflow(row, rows, &needed) ||
+    if (image.m_width == 0 || image.m_height == 0 || __builtin_mul_overflow(row, rows, &needed) ||
         __builtin_add_overflow(needed, first, &needed) || !image.allocate()) {
         return false;
     }

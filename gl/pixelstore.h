@@ -30,7 +30,8 @@ void grPixelStorePack(const image_window3d_t& window);
 
 /// Allocates an image that OpenGL is to write pixels of `pixelbytes` bytes (at most 16) into under
 /// the image's own store and window: at least `image.allocate()`, and more where the description
-/// counts fewer bytes than OpenGL writes. False when there is no such memory. Makes no GL call.
+/// counts fewer bytes than OpenGL writes. False for no pixels and when there is no such memory.
+/// Makes no GL call.
 bool grAllocateForPack(image2d_t& image, unsigned int pixelbytes);
 
 /// Components of a pixel format, 1 to 4; 0 for GL_STENCIL_INDEX and unknown ones.

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+// Tests against a real context: what was drawn, pushed and stored comes back.
+#include "tests/support/gl/glcontext.h"
+
+#include "gl/grcalls.h"
+#include "gl/grdsplist.h"
+#include "gl/grerror.h"
+#include "gl/matrixmgr.h"
+#include "gl/readpixels.h"
+#include "gl/texture.h"
+#include "tests/support/files/testfiles.h"
+
+using namespace libgr;
+
+namespace {
+
+using Context = gl_context_test;
+
+struct red_lower_half_t : grObject3D {
+    using grObject3D::Draw;
+    void Draw() const override {
+        grColor(color3aub(255, 0, 0, 255));
+        const grBeginner strip(GL_QUAD_STRIP);
+        for (const auto& [x, y] :
+             {position2(-1, 0), position2(-1, -1), position2(1, 0), position2(1, -1)}) {
+            glVertex2f(x, y);
+        }
+    }
+};
+
+TEST_F(Context, ReadsWhatTheWindowShows) {
+    const red_lower_half_t half;
+    grDspList list;
+    list.Preload(&half);
+    grTransformer upside_down;
+    upside_down.m_matrix = getScaleMatrix(direction3(1, -1, 1));
+    upside_down.setObject(&list);
+    grContainer root;
+    root.addObject(&upside_down);
+    for (const bool swapped : {true, false}) {  // shown, or drawn anew and not shown yet
+        grClearColor(color3a(0, 0, swapped ? 1.0F : 0.2F, 1));
+        glClear(GL_COLOR_BUFFER_BIT);
+        root.Draw();
+        if (swapped) {
+            swap_buffers();
+        }
+        image2d_t image;
+        ASSERT_TRUE(grReadPixelsRGB(image));
+        ASSERT_TRUE(image.m_width == window_size && image.m_height == window_size);
+        EXPECT_EQ(pixel_row(image, 0)[2], swapped ? 255 : 51);
+        EXPECT_EQ(pixel_row(image, window_size - 1)[0], 255);
+        ASSERT_TRUE(grReadPixelsDepth(image));
+    }
+}
+
+TEST_F(Context, MatricesNestBeyondTheStacks) {
+    grMatrixPusher::setEnhanceMode(true);
+    glGetError();  // without the imaging subset there is no colour matrix to ask about
+    const auto nest = [](const auto& self, int depth) -> void {
+        matrix3w_t before{}, after{};
+        grGet(GL_MODELVIEW_MATRIX, before);
+        if (depth > 0) {
+            const grMatrixPusher pusher(GL_MODELVIEW);
+            grTranslate(position3(1, 0, 0));
+            self(self, depth - 1);
+        }
+        grGet(GL_MODELVIEW_MATRIX, after);
+        EXPECT_EQ(before, after) << depth;
+    };
+    nest(nest, 40);
+    grMatrixPusher::setEnhanceMode(false);
+}
+
+struct floats_t : grTexturableImageGL {
+    float pixels[8] = {0, 1, 2, 3, -4, 5.5F, 6, 7};
+    unsigned long Dimension() const override { return 2; }
+    unsigned int GetInternalFormat() const override { return GL_RGBA32F; }
+    void Load() const override {
+        glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA32F, 2, 1, 0, GL_RGBA, GL_FLOAT, pixels);
+    }
+};
+
+TEST_F(Context, TexturesComeBackAndGo) {
+    const floats_t source;
+    grTextureObject texture;
+    texture.Preload(&source);
+    image2d_t bound, own;
+    EXPECT_TRUE(texture.GetTexImage(GL_TEXTURE_2D, 0, bound));
+    texture.Unload();
+    EXPECT_TRUE(texture.GetTextureImage(0, own));
+    for (const image2d_t* image : {&bound, &own}) {
+        ASSERT_EQ(image->size(), sizeof source.pixels);
+        EXPECT_EQ(std::memcmp(image->begin(), source.pixels, sizeof source.pixels), 0);
+    }
+    EXPECT_FALSE(texture.GetTextureImage(9, own));
+    grTextureObject copy(texture);
+    texture.clear();
+    EXPECT_TRUE(glIsTexture(1));
+    copy.clear();
+    EXPECT_FALSE(glIsTexture(1));
+}
+
+TEST_F(Context, ErrorsAndLightsComeBack) {
+    capture_t console;
+    glEnable(0x9999);
+    EXPECT_TRUE(grPrintError("glEnable"));
+    EXPECT_EQ(console.err(), "glEnable: Error 1280: invalid enumerant\n");
+    grLightPos(GL_LIGHT0, position3(0, 6, 8));
+    position3_t place{};
+    direction3_t direction{};
+    grGetLightPos(GL_LIGHT0, place);
+    grGetLightPos(GL_LIGHT0, direction);
+    EXPECT_EQ(place, position3(0, 6, 8));
+    EXPECT_NEAR(direction.y, 0.6F, 1e-6);
+}
+
+}  // namespace
