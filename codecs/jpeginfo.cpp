@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: MIT
+// The JPEG decoder. libjpeg reports errors by a jump, so whatever it can jump out of is a step that
+// has nothing to destroy.
+#include "codecs/jpeginfo.h"
+
+#include <jerror.h>
+
+#include <cstring>
+#include <iostream>
+
+#include "codecs/claims.h"
+#include "codecs/jpegmanagers.h"
+#include "utils/bits.h"
+
+namespace libgr {
+
+jpeg_info_desc_t const jpeg_info_desc_table[3] = {
+    {{IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_8}, JCS_RGB, 3},
+    {{IMAGE_FORMAT_YCbCr, IMAGE_TYPE_UINT, IMAGE_BITS_8}, JCS_YCbCr, 3},
+    {{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_8}, JCS_GRAYSCALE, 1},
+};
+
+namespace {
+
+/// All decoded images point to it.
+constexpr image_store_t s_image_store{false, 4};
+
+constexpr unsigned int k_saved_length = 65535;  // bytes of a marker
+
+/// A file of more scans is made to keep a decoder busy, not to be looked at.
+constexpr int k_most_scans = 100;
+
+/// The smallest files that encoders make of one colour hold some 3000 times their size in pixels.
+constexpr std::uint64_t k_densest_ratio = 4096;
+constexpr std::uint64_t k_harmless_claim = std::uint64_t{64} << 20;  // bytes
+
+/// What the decoding steps work on.
+struct decoding_t {
+    jpeg_decompress_struct cinfo{};
+    my_error_mgr error{};
+    jpeg_progress_mgr progress{};
+    jpegdata_t const& data;
+    jpeg_memory_source_t* source = nullptr;
+    unsigned int app_length = k_saved_length;
+    JSAMPROW bottom = nullptr;     ///< the image's first byte
+    std::size_t row_size = 0;      ///< bytes from a row to the one above it
+    unsigned int stored_rows = 0;  ///< rows that the store holds
+    bool fell_short = false;       ///< the data ran out
+
+    explicit decoding_t(jpegdata_t const& bytes) : data(bytes) {}
+    decoding_t(decoding_t const&) = delete;
+    decoding_t& operator=(decoding_t const&) = delete;
+    ~decoding_t() { jpeg_destroy_decompress(&cinfo); }
+};
+
+void limit_scans(j_common_ptr cinfo) {
+    if (reinterpret_cast<j_decompress_ptr>(cinfo)->input_scan_number > k_most_scans) {
+        ERREXIT(cinfo, JERR_BAD_PROGRESSION);
+    }
+}
+
+void read_header(decoding_t& decoding) {
+    j_decompress_ptr const cinfo = &decoding.cinfo;
+    cinfo->err = use_error_mgr(decoding.error, decoding.data);
+    jpeg_create_decompress(cinfo);
+    decoding.progress.progress_monitor = limit_scans;
+    cinfo->progress = &decoding.progress;
+    decoding.source = use_memory_source(cinfo, decoding.data);
+    jpeg_save_markers(cinfo, JPEG_COM, k_saved_length);
+    for (int n = 0; n < 16; ++n) {
+        jpeg_save_markers(cinfo, JPEG_APP0 + n, decoding.app_length);
+    }
+    jpeg_read_header(cinfo, TRUE);
+    decoding.source->in_header = false;
+}
+
+/// Decodes the rows, the file's first into the highest place.
+void read_rows(decoding_t& decoding) {
+    j_decompress_ptr const cinfo = &decoding.cinfo;
+    jpeg_start_decompress(cinfo);
+    // A file of several scans has been read whole by now, and every row comes out of what there is.
+    unsigned const fills_before_rows = decoding.source->fills;
+    decoding.fell_short = decoding.source->has_run_out();
+    JSAMPARRAY const elsewhere = (*cinfo->mem->alloc_sarray)(
+        reinterpret_cast<j_common_ptr>(cinfo), JPOOL_IMAGE,
+        cinfo->output_width * static_cast<JDIMENSION>(cinfo->output_components), 1);
+    while (cinfo->output_scanline < cinfo->output_height) {
+        JDIMENSION const target = cinfo->output_height - 1 - cinfo->output_scanline;
+        JSAMPROW row = target < decoding.stored_rows ? decoding.bottom + decoding.row_size * target
+                                                     : elsewhere[0];
+        bool const delivered = jpeg_read_scanlines(cinfo, &row, 1) == 1;
+        if (!delivered || decoding.source->fills != fills_before_rows) {
+            decoding.fell_short = true;
+            break;
+        }
+    }
+    if (decoding.fell_short) {
+        std::cerr << (decoding.data.name != nullptr ? decoding.data.name : "")
+                  << ": decompress fail." << std::endl;
+    }
+    jpeg_finish_decompress(cinfo);
+}
+
+void report(jpegdata_t const& data, char const* text) {
+    std::cerr << (data.name != nullptr ? data.name : "") << text << std::endl;
+}
+
+jpeg_info_desc_t const* row_of(jpeg_decompress_struct const& cinfo) {
+    for (jpeg_info_desc_t const& row : jpeg_info_desc_table) {
+        if (static_cast<int>(row.components) == cinfo.num_components &&
+            row.color_space == static_cast<unsigned>(cinfo.out_color_space)) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+/// Whether a picture of the header's size can come out of the file and be held, with the
+/// coefficients of all its scans where there are several.
+bool is_possible(decoding_t& decoding, image_desc_t const& desc) {
+    jpeg_decompress_struct& cinfo = decoding.cinfo;
+    auto const components = static_cast<std::uint64_t>(cinfo.num_components);
+    std::uint64_t const pixel_bits = desc.getPixelBits();
+    std::uint64_t const coefficient_bits =
+        jpeg_has_multiple_scans(&cinfo) ? components * sizeof(JCOEF) * 8 : 0;
+    std::uint64_t const claimed =
+        std::uint64_t{cinfo.image_width} * cinfo.image_height * pixel_bits / 8;
+    return fits_in_memory(cinfo.image_width, cinfo.image_height, pixel_bits + coefficient_bits) &&
+           (claimed <= k_harmless_claim || claimed / k_densest_ratio <= decoding.data.size());
+}
+
+void keep_markers(std::list<marker_t>& markers, jpeg_decompress_struct const& cinfo, bool whole) {
+    for (jpeg_saved_marker_ptr saved = cinfo.marker_list; saved != nullptr; saved = saved->next) {
+        if (whole && (saved->data_length == 0 || saved->data_length != saved->original_length)) {
+            continue;
+        }
+        markers.push_back({saved->marker, {}});
+        jpeg_bytes_t& payload = markers.back().payload;
+        if (saved->data_length != 0 && payload.resize(saved->data_length, 0)) {
+            std::memcpy(payload.begin(), saved->data, saved->data_length);
+        }
+    }
+}
+
+/// `side` brought up to a multiple of `unit`, in 16 bits; 0 where it has no room there.
+unsigned short rounded_side(unsigned int side, unsigned short unit) {
+    auto const rest = static_cast<unsigned short>(static_cast<unsigned short>(side) % unit);
+    auto const rounded = static_cast<unsigned short>(rest == 0 ? side : side + (unit - rest));
+    return rounded < side ? 0 : rounded;
+}
+
+/// Gives the image a store of `side` pixels in each of `rows` rows.
+bool allocate_rows(image2d_t& image, unsigned int side, unsigned int rows) {
+    image.window.rowlength = side;
+    std::optional<std::uint64_t> const bytes = checked_product(image.rowsize(), rows);
+    return side != 0 && bytes && image.resize(*bytes, 0);
+}
+
+/// Clears what the square has right of the picture and above it.
+void clear_outside(image2d_t& image, unsigned int side) {
+    auto const row_size = static_cast<std::size_t>(image.rowsize());
+    auto const row_bytes = static_cast<std::size_t>(image.rowbyte());
+    unsigned char* row = image.begin();
+    for (unsigned int y = 0; y < side; ++y, row += row_size) {
+        std::size_t const kept = y < image.m_height ? row_bytes : 0;
+        std::memset(row + kept, 0, row_size - kept);
+    }
+}
+
+/// Paints a margin of one pixel round the picture, as far as the store reaches, three bytes a pixel
+/// whatever the format.
+void paint_border(image2d_t& image, color3ub_t const& color) {
+    auto const row_size = static_cast<std::size_t>(image.rowsize());
+    auto const paint = [&](unsigned int x, unsigned int y) {
+        std::size_t const at = row_size * y + std::size_t{x} * 3;
+        if (at + 3 <= image.size()) {
+            std::memcpy(image.begin() + at, &color, 3);
+        }
+    };
+    static_assert(sizeof(color3ub_t) == 3);
+    for (unsigned int x = 0; x < image.m_width + 2; ++x) {
+        paint(x, 0);
+        paint(x, image.m_height + 1);
+    }
+    for (unsigned int y = 1; y <= image.m_height; ++y) {
+        paint(0, y);
+        paint(image.m_width + 1, y);
+    }
+}
+
+/// Allocates the store for a picture whose sizes and description are set.
+bool allocate_store(image2d_t& image, unsigned short unit, bool border, color3ub_t const& color) {
+    if (unit == 0 && !border) {
+        return image.allocate();
+    }
+    unsigned int const longer = libutils::max2(image.m_width, image.m_height);
+    if (!border) {
+        unsigned int const side = rounded_side(longer, unit);
+        if (!allocate_rows(image, side, side)) {
+            return false;
+        }
+        clear_outside(image, side);
+        return true;
+    }
+    image.window.skiprows = 1;
+    // Without a unit the rows follow the width, so that a tall picture doesn't fit in.
+    unsigned int const side = unit != 0 ? rounded_side(longer, unit) : image.m_width;
+    if (side == 0 || !allocate_rows(image, static_cast<unsigned short>(side + 2),
+                                    static_cast<unsigned short>(side + 2))) {
+        return false;
+    }
+    paint_border(image, color);
+    return true;
+}
+
+}  // namespace
+
+bool jpeginfo_t::decompress(image2d_t& image, jpegdata_t const& data, unsigned short square_unit,
+                            bool border, color3ub_t const& border_color) {
+    markers.clear();
+    decoding_t decoding(data);
+    jpeg_decompress_struct& cinfo = decoding.cinfo;
+    if (!run_jpeg_step(read_header, decoding)) {
+        report(data, ": jpeg decompress fail, stop.");
+        return false;
+    }
+    width = cinfo.image_width;
+    height = cinfo.image_height;
+    image.m_width = cinfo.image_width;
+    image.m_height = cinfo.image_height;
+    image.compressed = false;
+    image.store = &s_image_store;
+    jpeg_info_desc_t const* const row = row_of(cinfo);
+    if (row == nullptr) {
+        return false;
+    }
+    image.desc = row->desc;
+    if (!is_possible(decoding, row->desc) ||
+        !allocate_store(image, square_unit, border, border_color) ||
+        image.rowsize() < image.rowbyte()) {
+        report(data, ": jpeg decompress fail, stop.");
+        return false;
+    }
+    keep_markers(markers, cinfo, true);
+    decoding.bottom = image.begin();
+    decoding.row_size = static_cast<std::size_t>(image.rowsize());
+    decoding.stored_rows = static_cast<unsigned int>(image.size() / decoding.row_size);
+    if (!run_jpeg_step(read_rows, decoding)) {
+        report(data, ": jpeg decompress fail, but continue.");
+    }
+    return true;
+}
+
+bool jpeginfo_t::analyze_markers(jpegdata_t const& data) {
+    markers.clear();
+    decoding_t decoding(data);
+    decoding.app_length = 0xFFFFFFFF;
+    if (!run_jpeg_step(read_header, decoding)) {
+        report(data, ": jpeg decompress fail, stop.");
+        return false;
+    }
+    width = decoding.cinfo.image_width;
+    height = decoding.cinfo.image_height;
+    keep_markers(markers, decoding.cinfo, false);
+    return true;
+}
+
+jpeg_bytes_t jpeginfo_t::get_marker(e_marker_num_t number) const {
+    if (number < MARKER_MAX) {
+        for (marker_t const& marker : markers) {
+            if (marker.code == marker_array[number].code) {
+                return marker.payload;
+            }
+        }
+    }
+    return {};
+}
+
+}  // namespace libgr

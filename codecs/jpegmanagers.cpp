@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+// How libjpeg reads and writes memory, and how it comes back from an error.
+#include "codecs/jpegmanagers.h"
+
+#include <jerror.h>
+
+#include <iostream>
+
+#include "utils/diagnostics.h"
+
+namespace libgr {
+
+namespace {
+
+constexpr unsigned long k_growth = 0x100000;  // bytes
+
+constexpr JOCTET k_end_of_image[] = {0xFF, JPEG_EOI};
+
+jpeg_memory_source_t& source_of(j_decompress_ptr cinfo) {
+    return *reinterpret_cast<jpeg_memory_source_t*>(cinfo->src);
+}
+
+void src_init(j_decompress_ptr cinfo) {
+    cinfo->src->next_input_byte = nullptr;
+    cinfo->src->bytes_in_buffer = 0;
+}
+
+boolean src_fill_input_buff(j_decompress_ptr cinfo) {
+    jpeg_memory_source_t& source = source_of(cinfo);
+    ++source.fills;
+    if (source.data->size() == 0) {
+        ERREXIT(cinfo, JERR_INPUT_EMPTY);
+    }
+    if (source.has_run_out() && source.in_header) {
+        ERREXIT(cinfo, JERR_INPUT_EOF);
+    }
+    if (source.has_run_out() && jpeg_has_multiple_scans(cinfo)) {
+        source.base.next_input_byte = k_end_of_image;
+        source.base.bytes_in_buffer = sizeof k_end_of_image;
+    } else {
+        source.base.next_input_byte = source.data->begin();
+        source.base.bytes_in_buffer = source.data->size();
+    }
+    return TRUE;
+}
+
+void src_skip_input_data(j_decompress_ptr cinfo, long count) {
+    if (count <= 0) {
+        return;
+    }
+    // A skip past the end leaves nothing, and the next fill finds the file run out.
+    jpeg_source_mgr& source = *cinfo->src;
+    std::size_t const skipped = static_cast<std::size_t>(count) < source.bytes_in_buffer
+                                    ? static_cast<std::size_t>(count)
+                                    : source.bytes_in_buffer;
+    source.next_input_byte += skipped;
+    source.bytes_in_buffer -= skipped;
+}
+
+void src_term(j_decompress_ptr) {}
+
+struct jpeg_memory_destination_t {
+    jpeg_destination_mgr base;
+    jpegdata_t* data;
+};
+
+jpeg_memory_destination_t& destination_of(j_compress_ptr cinfo) {
+    return *reinterpret_cast<jpeg_memory_destination_t*>(cinfo->dest);
+}
+
+/// Makes room behind the first `used` bytes.
+void grow(j_compress_ptr cinfo, unsigned long used) {
+    jpeg_memory_destination_t& destination = destination_of(cinfo);
+    if (!destination.data->resize(used + k_growth, 0)) {
+        ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
+    }
+    destination.base.next_output_byte = destination.data->begin() + used;
+    destination.base.free_in_buffer = k_growth;
+}
+
+void dest_init(j_compress_ptr cinfo) {
+    grow(cinfo, 0);
+}
+
+boolean dest_empty_buff(j_compress_ptr cinfo) {
+    grow(cinfo, destination_of(cinfo).data->size());
+    return TRUE;
+}
+
+void dest_term(j_compress_ptr cinfo) {
+    jpeg_memory_destination_t& destination = destination_of(cinfo);
+    destination.data->resize(destination.data->size() - destination.base.free_in_buffer, 0);
+    destination.base.next_output_byte = nullptr;
+    destination.base.free_in_buffer = 0;
+    cinfo->dest = nullptr;
+}
+
+}  // namespace
+
+void my_error_exit(j_common_ptr cinfo) {
+    auto* const error = reinterpret_cast<my_error_mgr*>(cinfo->err);
+    libutils::error();
+    std::cerr << (error->data->name != nullptr ? error->data->name : "") << ": error detected."
+              << std::endl;
+    error->base.output_message(cinfo);
+    std::longjmp(error->jump, 1);
+}
+
+jpeg_error_mgr* use_error_mgr(my_error_mgr& error, jpegdata_t const& data) {
+    jpeg_std_error(&error.base);
+    error.base.error_exit = my_error_exit;
+    error.data = &data;
+    return &error.base;
+}
+
+jpeg_memory_source_t* use_memory_source(j_decompress_ptr cinfo, jpegdata_t const& data) {
+    auto* const source = static_cast<jpeg_memory_source_t*>(cinfo->mem->alloc_small(
+        reinterpret_cast<j_common_ptr>(cinfo), JPOOL_PERMANENT, sizeof(jpeg_memory_source_t)));
+    source->base.init_source = src_init;
+    source->base.fill_input_buffer = src_fill_input_buff;
+    source->base.skip_input_data = src_skip_input_data;
+    source->base.resync_to_restart = jpeg_resync_to_restart;
+    source->base.term_source = src_term;
+    source->base.next_input_byte = nullptr;
+    source->base.bytes_in_buffer = 0;
+    source->data = &data;
+    source->fills = 0;
+    source->in_header = true;
+    cinfo->src = &source->base;
+    return source;
+}
+
+void use_memory_destination(j_compress_ptr cinfo, jpegdata_t& data) {
+    auto* const destination = static_cast<jpeg_memory_destination_t*>(cinfo->mem->alloc_small(
+        reinterpret_cast<j_common_ptr>(cinfo), JPOOL_PERMANENT, sizeof(jpeg_memory_destination_t)));
+    destination->base.init_destination = dest_init;
+    destination->base.empty_output_buffer = dest_empty_buff;
+    destination->base.term_destination = dest_term;
+    destination->base.next_output_byte = nullptr;
+    destination->base.free_in_buffer = 0;
+    destination->data = &data;
+    cinfo->dest = &destination->base;
+}
+
+}  // namespace libgr

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// libjpeg's error, source and destination managers on bytes in memory; the one header that includes
+// jpeglib.h, for the JPEG codec's own sources.
+#pragma once
+
+#include <csetjmp>
+#include <cstdio>
+// jpeglib.h needs FILE and size_t, and is C.
+#include <jpeglib.h>
+
+#include "codecs/jpegdata.h"
+
+namespace libgr {
+
+/// An error manager that comes back by a jump instead of ending the process.
+struct my_error_mgr {
+    jpeg_error_mgr base;
+    std::jmp_buf jump;
+    jpegdata_t const* data;  ///< whose name the messages bear
+};
+
+/// The error manager's exit: writes the file's name and ": error detected." on std::cerr, then
+/// libjpeg's own text, and jumps.
+[[noreturn]] void my_error_exit(j_common_ptr cinfo);
+
+/// Sets `error` up and returns what goes into cinfo->err.
+jpeg_error_mgr* use_error_mgr(my_error_mgr& error, jpegdata_t const& data);
+
+/// Runs one step on `state`, which has a my_error_mgr named `error`, and says whether it came to
+/// its end; an error in libjpeg ends it early. A step has nothing to destroy.
+template <typename state_t>
+[[gnu::noinline]] bool run_jpeg_step(void (*step)(state_t&), state_t& state) {
+    if (setjmp(state.error.jump) != 0) {
+        return false;
+    }
+    step(state);
+    return true;
+}
+
+/// A source manager that delivers the whole of `data`.
+///
+/// The first fill delivers the file. While the header is read, a file that ends is an error. Later
+/// the file is delivered again from its first byte: the marker that the decoder then meets in
+/// entropy-coded data makes it go on with what it has. Only a file of several scans gets an end of
+/// image in its place, since its coefficients are all read before the first row comes out and the
+/// marker would be an error there.
+struct jpeg_memory_source_t {
+    jpeg_source_mgr base;
+    jpegdata_t const* data;
+    unsigned fills;
+    bool in_header;
+
+    /// Whether more bytes were asked for than the file has.
+    bool has_run_out() const { return fills > 1; }
+};
+
+/// Gives the decompressor, which must have been created, such a source from its permanent pool.
+jpeg_memory_source_t* use_memory_source(j_decompress_ptr cinfo, jpegdata_t const& data);
+
+/// Gives the compressor, which must have been created, a destination from its permanent pool that
+/// fills `data` in steps of 1 MiB.
+void use_memory_destination(j_compress_ptr cinfo, jpegdata_t& data);
+
+}  // namespace libgr
