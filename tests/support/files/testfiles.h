@@ -7,7 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <initializer_list>
 #include <iostream>
 #include <iterator>
 #include <sstream>
@@ -40,17 +39,8 @@ class temp_dir_t {
     std::string m_path;
 };
 
-/// The bytes of a list of numbers of 0 to 255.
-inline std::string bytes_of(std::initializer_list<int> values) {
-    std::string bytes;
-    for (int const value : values) {
-        bytes.push_back(static_cast<char>(value));
-    }
-    return bytes;
-}
-
 /// Writes a file anew. Returns the path.
-inline std::string const& write_file(std::string const& path, std::string const& bytes) {
+inline std::string write_file(std::string const& path, std::string const& bytes) {
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (!out.flush()) {
@@ -72,35 +62,32 @@ inline std::string read_file(std::string const& path) {
 /// Format flags that were set meanwhile go back, too.
 class capture_t {
   public:
-    capture_t()
-        : m_outflags(std::cout.flags()),
-          m_errflags(std::cerr.flags()),
-          m_cout(std::cout.rdbuf(m_out.rdbuf())),
-          m_cerr(std::cerr.rdbuf(m_err.rdbuf())) {}
-    capture_t(capture_t const&) = delete;
-    capture_t& operator=(capture_t const&) = delete;
-    ~capture_t() {
-        std::cout.rdbuf(m_cout);
-        std::cerr.rdbuf(m_cerr);
-        std::cout.flags(m_outflags);
-        std::cerr.flags(m_errflags);
-    }
-
     /// What came since the start or the last call.
-    std::string out() { return take(m_out); }
-    std::string err() { return take(m_err); }
+    std::string out() { return m_out.take(); }
+    std::string err() { return m_err.take(); }
 
   private:
-    static std::string take(std::ostringstream& stream) {
-        std::string text = stream.str();
-        stream.str({});
-        return text;
-    }
+    struct taken_t {
+        explicit taken_t(std::ostream& out)
+            : stream(out), flags(out.flags()), kept(out.rdbuf(text.rdbuf())) {}
+        taken_t(taken_t const&) = delete;
+        taken_t& operator=(taken_t const&) = delete;
+        ~taken_t() {
+            stream.rdbuf(kept);
+            stream.flags(flags);
+        }
+        std::string take() {
+            std::string all = text.str();
+            text.str({});
+            return all;
+        }
 
-    std::ostringstream m_out;
-    std::ostringstream m_err;
-    std::ios_base::fmtflags m_outflags;
-    std::ios_base::fmtflags m_errflags;
-    std::streambuf* m_cout;
-    std::streambuf* m_cerr;
+        std::ostringstream text;
+        std::ostream& stream;
+        std::ios_base::fmtflags flags;
+        std::streambuf* kept;
+    };
+
+    taken_t m_out{std::cout};
+    taken_t m_err{std::cerr};
 };

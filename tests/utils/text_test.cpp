@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+// Tests of paths, tokens and stream helpers, with names that aren't text in the locale among them.
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <clocale>
+#include <sstream>
+#include <tuple>
+
+#include "tests/support/files/testfiles.h"
+#include "utils/diagnostics.h"
+#include "utils/path.h"
+#include "utils/token.h"
+
+namespace {
+
+using namespace libutils;
+using list_t = std::list<std::string>;
+
+struct path_row_t {
+    char const *path, *dirname, *basename;
+    char const* parts;  ///< drive|dir|name|ext
+};
+
+constexpr path_row_t path_rows[] = {
+    {"/a/b/c.tar.gz", "/a/b/", "c.tar", "|/a/b/|c.tar|.gz"},
+    {"/a/b/", "/a/b/", "", "|/a/b/||"},
+    {"/a.d/c", "/a.d/", "c", "|/a.d/|c|"},
+    {".hidden", "", "", "|||.hidden"},
+    {"", "", "", "|||"},
+    {"c:\\x/y.z", "c:\\x/", "y", "c:|\\x/|y|.z"},
+    {"x/y\\z.w", "x/y\\", "z", "|x/y\\|z|.w"},
+    {"a:b:c.d", "", "a:b:c", "a:||b:c|.d"},
+    {"/\xC3\xA4.\xE5\xAF\xBA/\xC3\xB6.png", "/\xC3\xA4.\xE5\xAF\xBA/", "\xC3\xB6",
+     "|/\xC3\xA4.\xE5\xAF\xBA/|\xC3\xB6|.png"},
+    {"/\xFF\xC3/\x80.jpg", "/\xFF\xC3/", "\x80", "|/\xFF\xC3/|\x80|.jpg"},  // no UTF-8
+    {"a/b.\xE5\xAF", "a/", "b", "|a/|b|.\xE5\xAF"},                         // cut off
+};
+
+TEST(path, parts_in_every_locale) {
+    for (char const* const locale : {"C", "C.UTF-8"}) {
+        ASSERT_NE(std::setlocale(LC_ALL, locale), nullptr);
+        for (path_row_t const& row : path_rows) {
+            SCOPED_TRACE(row.path);
+            std::string const path = row.path;
+            EXPECT_EQ(dirname(path), row.dirname);
+            EXPECT_EQ(basename(path), row.basename);
+            EXPECT_EQ(baseptr(row.path), row.path + std::string(row.dirname).size());
+            splitpath_t parts;
+            split(parts, row.path);
+            EXPECT_EQ(
+                std::string(parts.drive) + '|' + parts.dir + '|' + parts.name + '|' + parts.ext,
+                row.parts);
+            char whole[4096];
+            EXPECT_EQ(std::string(concat(whole, parts)), path);
+            EXPECT_EQ(delimconvert(path) + deliminvert(path), path + path);
+        }
+    }
+    EXPECT_EQ(str2wstr("\xC3\xA4x\xF0\x9F\x90\x88"), L"\u00E4x\U0001F408");
+    EXPECT_EQ(wstr2str(L"\u00E4x\U0001F408"), "\xC3\xA4x\xF0\x9F\x90\x88");
+    EXPECT_EQ(wstr2str(str2wstr("a\xFF") + static_cast<wchar_t>(0xD800)), "");
+}
+
+TEST(path, fixed_rooms_are_not_left) {
+    ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+    std::string const run(2000, 'n');
+    using row_t = std::tuple<std::string, std::size_t, std::string, std::string>;
+    for (auto const& [path, size, directory, stem] :
+         {row_t{"/ab/cd.e", 9, "/ab/", "cd"}, row_t{"/ab/cd.e", 6, "/ab/", "cd"},
+          row_t{"/ab/cd.e", 3, "/", "ab"}, row_t{"/ab/cd.e", 0, "", ""},
+          row_t{"\xC3\xA4\xC3\xB6x", 3, "", "\xC3\xA4"},  // whole characters
+          row_t{"d/" + run + ".e", 1023, "d/", std::string(1021, 'n')},
+          row_t{run + "\xFF", 1023, "", std::string(1023, 'n')}}) {
+        for (auto const& [cut, part] :
+             {std::pair(static_cast<std::size_t (*)(char*, char const*, std::size_t)>(basename),
+                        stem),
+              {dirname, directory}}) {
+            std::string room(size + 8, '~');
+            EXPECT_EQ(cut(room.data(), path.c_str(), size), part.size());
+            std::string expected = part.size() < size ? part + '\0' : part;
+            expected.resize(size + 8, '~');
+            EXPECT_EQ(room, expected) << path << ' ' << size;
+        }
+    }
+    splitpath_t parts;
+    for (std::string const& path : {run, run + ":" + run + "/" + run + "." + run}) {
+        split(parts, path.c_str());
+        EXPECT_EQ(std::string(parts.name), run.substr(0, 1023));
+    }
+    EXPECT_EQ(std::string(parts.drive) + parts.dir + parts.ext,
+              run.substr(0, 1023) + run.substr(0, 1023) + "." + run.substr(0, 1022));
+}
+
+TEST(path, searches_in_order_and_compares_ends) {
+    EXPECT_TRUE(extcasecmp("a.JPG", 5, ".jpg") == 0 && extcasecmp("g", 1, ".jpg") == -1 &&
+                extcasecmp(std::string("picture.jpeg"), ".jpg") != 0);
+    temp_dir_t const dir;
+    for (std::string const name : {"one", "two"}) {
+        std::filesystem::create_directory(dir.file(name));
+        write_file(dir.file(name + "/a"), "");
+    }
+    write_file(dir.file("two/b"), "");
+    std::string const kept = ::getenv("PATH"), program = dir.file("two/program.x");
+    ::setenv("PATH", (dir.file("no") + "::" + dir.file("one")).c_str(), 1);
+    EXPECT_EQ(searchpath(dir.file("one/a"), nullptr), dir.file("one/a"));
+    EXPECT_EQ(searchpath("a", program.c_str()), dir.file("one/a"));
+    EXPECT_EQ(searchpath("b", program.c_str()), dir.file("two//b"));
+    EXPECT_EQ(searchpath("b", nullptr), "b");
+    ::unsetenv("PATH");
+    EXPECT_EQ(searchpath("a", program.c_str()), dir.file("two//a"));
+    ::setenv("PATH", kept.c_str(), 1);
+}
+
+TEST(token, separates_joins_and_trims) {
+    using row_t = std::tuple<std::string, char const*, list_t>;
+    for (auto const& [text, delimiters, tokens] :
+         {row_t{"a  b", " \t", {"x", "a", "", "b"}}, row_t{"", " ", {"x"}},
+          row_t{",a,", ",", {"x", "", "a"}}, row_t{"a b", "", {"x", "a b"}},
+          row_t{std::string("a\0b", 3), ",", {"x", "a", "b"}}}) {
+        list_t out = {"x"};
+        separate_token(out, text, delimiters);
+        EXPECT_EQ(out, tokens) << text;
+    }
+    std::pair<std::string, std::string> pair = {"k=v=w", "old"};
+    EXPECT_TRUE(!separate_first_token(pair, "kv", '=') && pair.second == "old");
+    EXPECT_TRUE(separate_first_token(pair, pair.first, '='));
+    EXPECT_EQ(pair, std::pair(std::string("k"), std::string("v=w")));
+    list_t list = {"a", "b"};
+    std::vector<std::string> strings(3, "x");
+    concatenate_token(strings[0], list, ", ");
+    EXPECT_EQ(strings[0], "a, b");
+    copy(strings, list);
+    cat(strings, list);
+    EXPECT_EQ(strings, (std::vector<std::string>{"a", "b", "a", "b"}));
+    for (std::string text : {std::string("\r\n\r"), std::string(" a \t\r\n\0", 7)}) {
+        std::string line = text;
+        chop(line);
+        chop2(text);
+        EXPECT_EQ(line + '|' + text, line.empty() ? "|" : std::string(" a \t\r\n\0| a", 10));
+    }
+    EXPECT_TRUE(stringcmp("-winsize", "-win") == 0 && stringcmp("-wi", "-win") < 0);
+}
+
+TEST(diagnostics, helpers_leave_the_stream_as_it_was) {
+    std::ostringstream out;
+    out.fill('*');
+    out << putspace(0) << putcn('-', 0) << '[' << putspace(2) << putcn('=', 3) << _putn{"a\0b", 3}
+        << _puthex<unsigned char>{'A'} << std::setw(4) << 31 << std::showbase
+        << _puthex<unsigned char>{'B'} << std::setw(4) << 31;
+    keepflag(out).stream << std::fixed << 0.5F << ' ';
+    out << 0.5F;
+    EXPECT_EQ(out.str(), std::string("[  ===a\0b0A**310x0B**310.500000 0.5", 35));
+}
+
+}  // namespace
