@@ -34,6 +34,10 @@ class ViewScene {
         /// Member by member, node pointers included: for elements that aren't loaded yet.
         obj_t(obj_t const&) = default;
         obj_t& operator=(obj_t const&) = delete;
+        /// Frees the GL resources, with or without a context: the window may be gone by then. The
+        /// entry points stay mapped, as the loader never closes the library, and libGL (GLVND's
+        /// and Mesa's own) hands calls without a current context to functions that do nothing; the
+        /// names went with their context.
         ~obj_t() { free_graph(); }
 
         /// Loads the picture, sets the frame up by the options and joins the nodes. False when the

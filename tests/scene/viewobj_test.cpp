@@ -90,8 +90,8 @@ TEST_F(ViewObjectTest, TilesFollowTheGlUpTo256) {
         object.load_texture();
         object.load_texture();
         std::string const tail = ", 0, GL_BGR, GL_UNSIGNED_BYTE, null)\n";
-        std::string const large = "(GL_TEXTURE_2D, 0, GL_RGB8, 256, 256" + tail;
-        std::string const small = "(GL_TEXTURE_2D, 0, GL_RGB8, 128, 128" + tail;
+        std::string const large = "(GL_TEXTURE_2D, 0, GL_RGB, 256, 256" + tail;
+        std::string const small = "(GL_TEXTURE_2D, 0, GL_RGB, 128, 128" + tail;
         EXPECT_EQ(taken("glTexImage2D"), limit == 128 ? small + small + small : large + large);
         object.free_texture();
         object.free_texture();
