@@ -58,7 +58,8 @@ class app1_marker_t : public jpeg_bytes_t {
 
         // Each takes the view of an IFD: its entry count, then its entries. The notes' readers
         // that take the note as well count offsets from its start, the others from the block's.
-        // All need `byteorder`, and are false without one.
+        // Without a `byteorder` nothing is read, and all but those of the GPS and 1st IFD, which
+        // are always true, are false.
 
         bool parse_0th_ifd(jpeg_bytes_t const& ifd);
         bool parse_exif_ifd(jpeg_bytes_t const& ifd);

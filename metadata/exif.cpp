@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+// The TIFF header of an Exif block and its 0th, Exif and 1st IFD.
+#include "metadata/exif.h"
+
+#include <string_view>
+
+#include "metadata/ifdwalk.h"
+#include "metadata/makernotes.h"
+#include "metadata/refusal.h"
+
+namespace libgr {
+
+namespace {
+
+using tiff_header_t = app1_marker_t::tiff_header_t;
+
+constexpr unsigned long tiff_start = 6;  // behind "Exif" and two NULs
+
+constexpr ifd_rules_t zeroth_rules = {ifd_bounds_t::zeroth, ifd_unknown_type_t::skip};
+constexpr ifd_rules_t exif_rules = {ifd_bounds_t::exif, ifd_unknown_type_t::stop};
+constexpr ifd_rules_t first_rules = {ifd_bounds_t::none, ifd_unknown_type_t::stop};
+
+using zeroth_t = ExifType::tag_0th_ifd;
+constexpr tag_row_t<zeroth_t> zeroth_tags[] = {
+    {0x010E, any_size, &zeroth_t::ImageDescription},
+    {0x010F, any_size, &zeroth_t::Make},
+    {0x0110, any_size, &zeroth_t::Model},
+    {0x0112, 2, &zeroth_t::Orientation},
+    {0x011A, 8, &zeroth_t::XResolution},
+    {0x011B, 8, &zeroth_t::YResolution},
+    {0x0128, 2, &zeroth_t::ResolutionUnit},
+    {0x0131, any_size, &zeroth_t::Software},
+    {0x0132, any_size, &zeroth_t::DateTime},
+    {0x0213, 2, &zeroth_t::YCbCrPositioning},
+    {0x8769, 4, &zeroth_t::ExifIFDPointer},
+    {0x8825, 4, &zeroth_t::GPSInfoIFDPointer},
+};
+
+using exif_t = ExifType::tag_exif_ifd;
+constexpr tag_row_t<exif_t> exif_tags[] = {
+    {0x829A, 8, &exif_t::ExposureTime},
+    {0x829D, 8, &exif_t::FNumber},
+    {0x8822, 2, &exif_t::ExposureProgram},
+    {0x8827, 2, &exif_t::ISOSpeedRatings},
+    {0x8831, 4, &exif_t::StandardOutputSensitivity},
+    {0x8833, 4, &exif_t::ISOSpeed},
+    {0x9003, 20, &exif_t::DateTimeOriginal},
+    {0x9004, 20, &exif_t::DateTimeDigitized},
+    {0x9202, 8, &exif_t::ApertureValue},
+    {0x9204, 8, &exif_t::ExposureBiasValue},
+    {0x9205, 8, &exif_t::MaxApertureValue},
+    {0x9207, 2, &exif_t::MeteringMode},
+    {0x9209, 2, &exif_t::Flash},
+    {0x920A, 8, &exif_t::FocalLength},
+    {0x927C, any_size, &exif_t::MakerNote},
+    {0xA001, 2, &exif_t::ColorSpace},
+    {0xA403, 2, &exif_t::WhiteBalance},
+    {0xA405, 2, &exif_t::FocalLengthIn35mmFilm},
+    {0xA408, 2, &exif_t::Contrast},
+    {0xA409, 2, &exif_t::Saturation},
+    {0xA40A, 2, &exif_t::Sharpness},
+};
+
+using first_t = ExifType::tag_1st_ifd;
+constexpr tag_row_t<first_t> first_tags[] = {
+    {0x0201, 4, &first_t::JPEGInterchangeFormat},
+    {0x0202, 4, &first_t::JPEGInterchangeFormatLength},
+};
+
+/// Bytes of an IFD of `n` entries as the block's own IFDs are measured. That is two bytes short of
+/// the end of the next IFD's offset.
+unsigned long plain_ifd_size(unsigned long n) {
+    return ifd_size(n) + 2;
+}
+
+/// The view of the IFD at an offset in the block. A count that isn't there is 0.
+jpeg_bytes_t ifd_at(tiff_header_t const& header, unsigned long offset) {
+    return part_of(header, offset, plain_ifd_size(short_at(header, offset, *header.byteorder)));
+}
+
+bool read_exif_ifd(tiff_header_t& header) {
+    if (header.tag_0th_ifd.ExifIFDPointer.empty()) {
+        return true;
+    }
+    unsigned long const offset = header.tag_0th_ifd.ExifIFDPointer[0];
+    if (header.size() <= offset) {
+        return refuse("exif_ifd_offset size exceed: ", offset, " > ", header.size());
+    }
+    unsigned long const end = offset + plain_ifd_size(short_at(header, offset, *header.byteorder));
+    if (header.size() < end) {
+        return refuse("exif ifd size exceed: ", end, " > ", header.size());
+    }
+    header.ifd_exif = ifd_at(header, offset);
+    return header.parse_exif_ifd(header.ifd_exif);
+}
+
+bool set_gps_ifd(tiff_header_t& header) {
+    if (header.tag_0th_ifd.GPSInfoIFDPointer.empty()) {
+        return true;
+    }
+    unsigned long const offset = header.tag_0th_ifd.GPSInfoIFDPointer[0];
+    // Only the IFD's own size is compared: where it begins doesn't count.
+    unsigned long const size = plain_ifd_size(short_at(header, offset, *header.byteorder));
+    if (header.size() < size) {
+        return refuse("gps_ifd size exceed: ", size, " > ", header.size());
+    }
+    header.ifd_gps = ifd_at(header, offset);
+    return true;
+}
+
+}  // namespace
+
+void tiff_header_t::set_tiff_buffer(jpeg_bytes_t const& block) {
+    jpeg_bytes_t::operator=(block);
+    for (jpeg_bytes_t* const view :
+         {&ifd_0th, &ifd_exif, &ifd_gps, &ifd_1st, &ifd_olympus3_equipment,
+          &ifd_olympus3_camerasettings, &ifd_olympus3_focusinfo}) {
+        view->clear();
+    }
+}
+
+bool tiff_header_t::is_intel() const {
+    return begins_with(*this, "II");
+}
+
+bool tiff_header_t::is_motorola() const {
+    return begins_with(*this, "MM");
+}
+
+void tiff_header_t::clear() {
+    *this = tiff_header_t();
+}
+
+bool tiff_header_t::parse() {
+    if (size() < 8) {
+        return refuse("too few tiff header size.");
+    }
+    byteorderclear();
+    if (is_intel()) {
+        byteorder = std::make_unique<libutils::intel_byteorder>();
+    } else if (is_motorola()) {
+        byteorder = std::make_unique<libutils::motorola_byteorder>();
+    } else {
+        return refuse("byteorder mark not recognized.");
+    }
+    if (short_at(*this, 2, *byteorder) != 42) {
+        return refuse("not tiff(0x00, 0x2a).");
+    }
+    unsigned long const zeroth = long_at(*this, 4, *byteorder);
+    ifd_0th = ifd_at(*this, zeroth);
+    if (!parse_0th_ifd(ifd_0th)) {
+        return false;
+    }
+    unsigned long const next = zeroth + ifd_size(short_at(*this, zeroth, *byteorder));
+    unsigned long const first = long_at(*this, next, *byteorder);
+    if (first != 0) {
+        ifd_1st = ifd_at(*this, first);
+        parse_1st_ifd(ifd_1st);
+    }
+    return true;
+}
+
+bool tiff_header_t::parse_0th_ifd(jpeg_bytes_t const& ifd) {
+    return collect_tags(zeroth_rules, ifd, *this, byteorder.get(), zeroth_tags, tag_0th_ifd) &&
+           read_exif_ifd(*this) && set_gps_ifd(*this) && read_maker_note(*this);
+}
+
+bool tiff_header_t::parse_exif_ifd(jpeg_bytes_t const& ifd) {
+    return collect_tags(exif_rules, ifd, *this, byteorder.get(), exif_tags, tag_exif_ifd);
+}
+
+bool tiff_header_t::parse_gps_ifd(jpeg_bytes_t const&) {
+    return true;
+}
+
+bool tiff_header_t::parse_1st_ifd(jpeg_bytes_t const& ifd) {
+    collect_tags(first_rules, ifd, *this, byteorder.get(), first_tags, tag_1st_ifd);
+    if (!tag_1st_ifd.JPEGInterchangeFormat.empty() &&
+        !tag_1st_ifd.JPEGInterchangeFormatLength.empty()) {
+        thumbnail = part_of(*this, tag_1st_ifd.JPEGInterchangeFormat[0],
+                            tag_1st_ifd.JPEGInterchangeFormatLength[0]);
+    }
+    return true;
+}
+
+void app1_marker_t::set_app1_buffer(jpeg_bytes_t const& payload) {
+    jpeg_bytes_t::operator=(payload);
+}
+
+bool app1_marker_t::is_exif() const {
+    return begins_with(*this, std::string_view("Exif\0", 5));
+}
+
+bool app1_marker_t::parse() {
+    if (!is_exif()) {
+        return false;
+    }
+    tiff_header.set_tiff_buffer(part_of(*this, tiff_start, to_end));
+    return tiff_header.parse();
+}
+
+void app1_marker_t::clear() {
+    jpeg_bytes_t::clear();
+    tiff_header.clear();
+}
+
+}  // namespace libgr

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+// The readers of the makers' notes: IFDs of the maker's own inside the Exif tag MakerNote.
+#include "metadata/makernotes.h"
+
+#include <strings.h>
+
+#include <string_view>
+
+#include "metadata/ifdwalk.h"
+
+namespace libgr {
+
+namespace {
+
+using tiff_header_t = app1_marker_t::tiff_header_t;
+
+constexpr ifd_rules_t note_rules(char const* name) {
+    return {ifd_bounds_t::note, ifd_unknown_type_t::refuse, name};
+}
+
+constexpr ifd_rules_t olympus_rules = {ifd_bounds_t::note, ifd_unknown_type_t::refuse,
+                                       "olympus ifd: ", true};
+constexpr ifd_rules_t olympus3_rules = note_rules("olympus3 ifd: ");
+constexpr ifd_rules_t equipment_rules = {ifd_bounds_t::note, ifd_unknown_type_t::stop,
+                                         "olympus3 equipment ifd: "};
+constexpr ifd_rules_t camerasettings_rules = note_rules("olympus3 camerasettings ifd: ");
+constexpr ifd_rules_t focusinfo_rules = note_rules("olympus3 focusinfo ifd: ");
+constexpr ifd_rules_t pentax5_rules = note_rules("pentax5 ifd: ");
+
+using olympus_t = ExifType::tag_olympus_ifd;
+constexpr tag_row_t<olympus_t> olympus_tags[] = {
+    {0x100B, 2, &olympus_t::tag_0x100B}, {0x100C, 8, &olympus_t::tag_0x100C},
+    {0x100F, 2, &olympus_t::tag_0x100F}, {0x1015, 4, &olympus_t::tag_0x1015},
+    {0x1029, 2, &olympus_t::tag_0x1029},
+};
+
+using equipment_t = ExifType::tag_olympus3_equipment_ifd;
+constexpr tag_row_t<equipment_t> equipment_tags[] = {
+    {0x0203, any_size, &equipment_t::tag_0x0203},
+};
+
+using camerasettings_t = ExifType::tag_olympus3_camerasettings_ifd;
+constexpr tag_row_t<camerasettings_t> camerasettings_tags[] = {
+    {0x0500, 2, &camerasettings_t::tag_0x0500},
+    {0x0501, 2, &camerasettings_t::tag_0x0501},
+    {0x0804, 8, &camerasettings_t::tag_0x0804},
+};
+
+using focusinfo_t = ExifType::tag_olympus3_focusinfo_ifd;
+constexpr tag_row_t<focusinfo_t> focusinfo_tags[] = {
+    {0x0209, 2, &focusinfo_t::tag_0x0209}, {0x0300, 2, &focusinfo_t::tag_0x0300},
+    {0x0301, 2, &focusinfo_t::tag_0x0301}, {0x0303, 2, &focusinfo_t::tag_0x0303},
+    {0x0304, 2, &focusinfo_t::tag_0x0304}, {0x0305, 8, &focusinfo_t::tag_0x0305},
+    {0x0308, 2, &focusinfo_t::tag_0x0308}, {0x031B, 2, &focusinfo_t::tag_0x031B},
+};
+
+using pentax5_t = ExifType::tag_pentax5_ifd;
+constexpr tag_row_t<pentax5_t> pentax5_tags[] = {
+    {0x000D, 2, &pentax5_t::tag_0x000D},
+    {0x0010, 2, &pentax5_t::tag_0x0010},
+    {0x0019, 2, &pentax5_t::tag_0x0019},
+    {0x001A, 2, &pentax5_t::tag_0x001A},
+};
+
+using note_reader_t = bool (tiff_header_t::*)(jpeg_bytes_t const&, jpeg_bytes_t const&);
+
+/// The sub-IFDs of a note, in the order in which they are read.
+struct sub_ifd_row_t {
+    unsigned short tag;
+    jpeg_bytes_t tiff_header_t::*view;
+    note_reader_t reader;
+};
+constexpr sub_ifd_row_t olympus3_sub_ifds[] = {
+    {0x2010, &tiff_header_t::ifd_olympus3_equipment, &tiff_header_t::parse_olympus3_equipment_ifd},
+    {0x2020, &tiff_header_t::ifd_olympus3_camerasettings,
+     &tiff_header_t::parse_olympus3_camerasettings_ifd},
+    {0x2050, &tiff_header_t::ifd_olympus3_focusinfo, &tiff_header_t::parse_olympus3_focusinfo_ifd},
+};
+
+/// How a camera's note is known, and where its IFD begins in it.
+struct maker_row_t {
+    std::string_view make;       ///< what Make begins with, in any case
+    std::string_view signature;  ///< what the note begins with
+    unsigned long start;         ///< bytes
+    note_reader_t reader;        ///< null for a note whose offsets count from the TIFF block
+};
+constexpr maker_row_t makers[] = {
+    {"OLYMPUS", "OLYMP", 8, nullptr},
+    {"OLYMPUS", "", 0, nullptr},
+    {"OM Digital Solutions", "OM SYSTEM", 16, &tiff_header_t::parse_olympus3_ifd},
+    {"RICOH", "PENTAX", 10, &tiff_header_t::parse_pentax5_ifd},
+};
+
+bool is_from(maker_row_t const& row, std::string const& make, jpeg_bytes_t const& note) {
+    return ::strncasecmp(make.c_str(), row.make.data(), row.make.size()) == 0 &&
+           begins_with(note, row.signature);
+}
+
+/// Reads an Olympus note from a copy of its IFD.
+bool read_copied_note(tiff_header_t& header, maker_row_t const& row, jpeg_bytes_t const& note) {
+    unsigned long const n = short_at(note, row.start, *header.byteorder);
+    if (row.start != 0 && n == 0) {
+        return false;
+    }
+    jpeg_bytes_t& ifd = header.ifd_maker_note;
+    ifd = part_of(note, row.start, ifd_size(n));
+    // A signed note is only asked for the IFD's size, not for what stands before the IFD: entries
+    // that the end of such a note cuts off read as 0. Any other copy shows how far the note goes,
+    // and the reader refuses it.
+    bool const fills_up = row.start != 0 && note.size() >= ifd_size(n);
+    return ifd.resize(fills_up ? ifd_size(n) : ifd.size(), 0) && header.parse_olympus_ifd(ifd);
+}
+
+bool read_note_in_place(tiff_header_t& header, maker_row_t const& row, jpeg_bytes_t const& note) {
+    header.ifd_maker_note = part_of(note, row.start, jpeg_bytes_t::to_end);
+    return note.size() > row.start && (header.*row.reader)(header.ifd_maker_note, note);
+}
+
+}  // namespace
+
+bool read_maker_note(tiff_header_t& header) {
+    jpeg_bytes_t const note = header.tag_exif_ifd.MakerNote;
+    if (note.empty()) {
+        return true;
+    }
+    for (maker_row_t const& row : makers) {
+        if (is_from(row, header.tag_0th_ifd.Make, note)) {
+            return row.reader == nullptr ? read_copied_note(header, row, note)
+                                         : read_note_in_place(header, row, note);
+        }
+    }
+    return true;
+}
+
+bool tiff_header_t::parse_olympus_ifd(jpeg_bytes_t const& ifd) {
+    return collect_tags(olympus_rules, ifd, *this, byteorder.get(), olympus_tags, tag_olympus_ifd);
+}
+
+bool tiff_header_t::parse_olympus3_ifd(jpeg_bytes_t const& ifd, jpeg_bytes_t const& note) {
+    auto const set_view = [&](ifd_entry_t const& entry) {
+        for (sub_ifd_row_t const& row : olympus3_sub_ifds) {
+            if (row.tag == entry.tag && entry.size == 4) {
+                unsigned long const at = long_at(entry.value, 0, *byteorder);
+                this->*row.view = part_of(note, at, ifd_size(short_at(note, at, *byteorder)));
+            }
+        }
+    };
+    if (!walk_ifd(olympus3_rules, ifd, note, byteorder.get(), set_view)) {
+        return false;
+    }
+    for (sub_ifd_row_t const& row : olympus3_sub_ifds) {
+        if (!(this->*row.view).empty() && !(this->*row.reader)(this->*row.view, note)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool tiff_header_t::parse_olympus3_equipment_ifd(jpeg_bytes_t const& ifd,
+                                                 jpeg_bytes_t const& note) {
+    return collect_tags(equipment_rules, ifd, note, byteorder.get(), equipment_tags,
+                        tag_olympus3_equipment_ifd);
+}
+
+bool tiff_header_t::parse_olympus3_camerasettings_ifd(jpeg_bytes_t const& ifd,
+                                                      jpeg_bytes_t const& note) {
+    return collect_tags(camerasettings_rules, ifd, note, byteorder.get(), camerasettings_tags,
+                        tag_olympus3_camerasettings_ifd);
+}
+
+bool tiff_header_t::parse_olympus3_focusinfo_ifd(jpeg_bytes_t const& ifd,
+                                                 jpeg_bytes_t const& note) {
+    return collect_tags(focusinfo_rules, ifd, note, byteorder.get(), focusinfo_tags,
+                        tag_olympus3_focusinfo_ifd);
+}
+
+bool tiff_header_t::parse_pentax5_ifd(jpeg_bytes_t const& ifd, jpeg_bytes_t const& note) {
+    return collect_tags(pentax5_rules, ifd, note, byteorder.get(), pentax5_tags, tag_pentax5_ifd);
+}
+
+}  // namespace libgr
