@@ -6,7 +6,6 @@
 #include "codecs/bmpimage2.h"
 #include "codecs/bmpload.h"
 #include "tests/codecs/picturebytes.h"
-#include "tests/support/files/testfiles.h"
 
 namespace {
 
@@ -29,16 +28,14 @@ struct bmp_t {
     }
 };
 
-struct reader_row_t {
+std::string const k_quads = ramp(64);
+std::string const k_long_header = "BGRs" + std::string(64, 'h');
+struct {
     bmp_t file;
     char const* mapped;    // by image_bmp2_t
     char const* streamed;  // by image_bmp_t
     char const* known;     // by BmpLoad as RGB
-};
-
-std::string const k_quads = ramp(64);
-std::string const k_long_header = "BGRs" + std::string(64, 'h');
-reader_row_t const k_rows[] = {
+} const k_rows[] = {
     {{4, 2, 24, ramp(24)}, "4x2 BGR 8 0: 24", "4x2 BGR 8 0: 24", "4x2 RGB 8 0: 24"},
     {{1, 1, 24, ramp(4), k_quads}, "1x1 BGR 8 0: 4", "1x1 BGR 8 0: 4", "1x1 RGB 8 0: 3"},
     {{2, 1, 32, ramp(8)}, "2x1 BGRA 8 0: 8", "-", "2x1 RGB 64 0: 8"},
@@ -72,61 +69,53 @@ reader_row_t const k_rows[] = {
     {{1U << 28, 1, 8, ramp(48)}, "-", "-", "-"},
 };
 
-TEST(BmpReaders, TakeOrRefuseTheSameFiles) {
-    temp_dir_t const dir;
-    long const files = open_files();
-    std::string const path = dir.file("x.bmp");
-    for (reader_row_t const& row : k_rows) {
+using Bmp = picture_test_t;
+
+TEST_F(Bmp, ReadersTakeOrRefuseTheSameFiles) {
+    for (auto const& row : k_rows) {
         SCOPED_TRACE(row.mapped);
-        write_file(path, row.file.bytes());
-        image2d_t image;
-        EXPECT_EQ(load_outcome<image_bmp2_t>(image, path), row.mapped);
-        image = image2d_t();
-        EXPECT_EQ(load_outcome<image_bmp_t>(image, path), row.streamed);
+        write_file(file, row.file.bytes());
+        EXPECT_EQ(outcome(image_bmp2_t().load(image, path)), row.mapped);
+        image = {};
+        EXPECT_EQ(outcome(image_bmp_t().load(image, path)), row.streamed);
         image.desc.bits = IMAGE_BITS_64;
-        EXPECT_EQ(outcome(BmpLoad(image, path.c_str(), IMAGE_FORMAT_RGB), image), row.known);
+        EXPECT_EQ(outcome(BmpLoad(image, path, IMAGE_FORMAT_RGB)), row.known);
     }
-    image2d_t image;
-    for (std::string const& none : {dir.file("none"), dir.path(), write_file(dir.file("0"), "")}) {
-        EXPECT_EQ(load_outcome<image_bmp2_t>(image, none), "-") << none;
-        EXPECT_EQ(load_outcome<image_bmp_t>(image, none), "-") << none;
+    for (std::string const& none : {dir.file("none"), dir.path(), write_file(file, "")}) {
+        EXPECT_FALSE(image_bmp2_t().load(image, none.c_str())) << none;
+        EXPECT_FALSE(image_bmp_t().load(image, none.c_str())) << none;
         EXPECT_FALSE(BmpLoad(image, none.c_str(), IMAGE_FORMAT_RGB)) << none;
     }
-    EXPECT_EQ(open_files(), files);
 }
 
-TEST(BmpReaders, ShowACutFileAsFarAsItGoes) {
-    temp_dir_t const dir;
-    std::string const path = dir.file("x.bmp");
+TEST_F(Bmp, ReadersShowACutFileAsFarAsItGoes) {
     std::string const whole = bmp_t{3, 3, 8, ramp(12), ramp(8)}.bytes();
     constexpr std::size_t k_offset = 62;
     for (std::size_t size = 0; size <= whole.size(); ++size) {
         SCOPED_TRACE(size);
-        write_file(path, whole.substr(0, size));
+        write_file(file, whole.substr(0, size));
         std::string shown = whole.substr(0, size).substr(std::min(size, k_offset));
         shown.resize(12);
-        image2d_t image;
-        ASSERT_EQ(image_bmp2_t().load(image, path.c_str()), size >= k_offset + 3);
+        ASSERT_EQ(image_bmp2_t().load(image, path), size >= k_offset + 3);
         if (size >= k_offset + 3) {
-            EXPECT_EQ(pixels_of(image), shown);
+            EXPECT_EQ(pixels(), shown);
             EXPECT_EQ(image.is_writable(), size < whole.size()) << "pixels stay in the mapping";
             EXPECT_EQ(image.palette.red[1], 7 * 257);
             EXPECT_EQ(image.palette.green[1], 6 * 257);
             EXPECT_EQ(image.palette.blue[1], 5 * 257);
         }
-        ASSERT_EQ(image_bmp_t().load(image, path.c_str()), size >= k_offset);
-        EXPECT_TRUE(size < k_offset || pixels_of(image) == shown);
+        ASSERT_EQ(image_bmp_t().load(image, path), size >= k_offset);
+        EXPECT_TRUE(size < k_offset || pixels() == shown);
+        image = {};
     }
     // Unpadded sizes with padded steps: the last row's swap of colours ends with the block.
-    write_file(path, bmp_t{3, 2, 24, ramp(24)}.bytes().substr(0, 54 + 17));
-    image2d_t image;
-    ASSERT_TRUE(BmpLoad(image, path.c_str(), IMAGE_FORMAT_RGB));
-    EXPECT_EQ(pixels_of(image), std::string("\3\2\1\6\5\4\11\10\7\12\13\14\17\16\15\0\21\20", 18));
+    write_file(file, bmp_t{3, 2, 24, ramp(24)}.bytes().substr(0, 54 + 17));
+    ASSERT_TRUE(BmpLoad(image, path, IMAGE_FORMAT_RGB));
+    std::string const swapped = "\3\2\1\6\5\4\11\10\7\12\13\14\17\16\15";
+    EXPECT_EQ(pixels(), swapped + std::string("\0\21\20", 3));
 }
 
-TEST(BmpWriter, WritesGrayAndBgrAsTheyLie) {
-    temp_dir_t const dir;
-    std::string const path = dir.file("x.bmp");
+TEST_F(Bmp, WriterTakesGrayAndBgrAsTheyLie) {
     struct {
         e_image_format_t format;
         e_image_bits_t bits;
@@ -138,21 +127,17 @@ TEST(BmpWriter, WritesGrayAndBgrAsTheyLie) {
     };
     for (auto const& row : rows) {
         bool const saved = row.depth != 0;
-        image2d_t image = image_of(4, 2, row.format, row.bits, ramp(24));
-        write_file(path, "old");
+        image = image_of(4, 2, row.format, row.bits, ramp(24));
+        write_file(file, "old");
         capture_t capture;
-        EXPECT_EQ(image_bmp_t().save(image, path.c_str()), saved);
+        EXPECT_EQ(image_bmp_t().save(image, path), saved);
         std::string const written = bmp_t{4, 2, row.depth, ramp(24)}.bytes();
-        EXPECT_EQ(read_file(path), saved ? written : "old");
+        EXPECT_EQ(read_file(file), saved ? written : "old");
         EXPECT_EQ(capture.err(), saved ? "" : "convert(to bmp): not supported format.\n");
-        EXPECT_FALSE(image_bmp_t().save(image, dir.file("none/x.bmp").c_str()));
+        EXPECT_FALSE(image_bmp_t().save(image, dir.path().c_str()));
         EXPECT_FALSE(image_bmp_t().save(image, "/dev/full"));
-        image.desc.type = IMAGE_TYPE_FLOAT;
-        EXPECT_FALSE(image_bmp_t().save(image, path.c_str()));
         image.compressed = true;
-        capture.err();
-        EXPECT_FALSE(image_bmp_t().save(image, path.c_str()));
-        EXPECT_EQ(capture.err(), "");
+        EXPECT_FALSE(image_bmp_t().save(image, path));
     }
 }
 

@@ -1,36 +1,34 @@
 // SPDX-License-Identifier: MIT
-// What the tests of all picture files share: bytes of fields, and a loaded picture as text.
+// What the tests of all picture files share: bytes of fields, a file to load, and its outcome.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
-#include <cstdint>
 #include <filesystem>
-#include <iterator>
-#include <sstream>
+#include <numeric>
 #include <string>
 
 #include "image/image.h"
+#include "tests/support/files/testfiles.h"
 
 /// The low `size` bytes of `value`, lowest first.
-inline std::string le(std::uint64_t value, unsigned int size) {
+inline std::string le(unsigned long value, unsigned int size) {
     std::string bytes(size, '\0');
-    for (char& byte : bytes) {
-        byte = static_cast<char>(value & 0xFF);
-        value >>= 8;
+    for (unsigned int i = 0; i < size; ++i) {
+        bytes[i] = static_cast<char>(value >> (8 * i));
     }
     return bytes;
 }
 
 /// `size` bytes that count up from `first`.
-inline std::string ramp(unsigned long size, int first = 1) {
+inline std::string ramp(unsigned long size, char first = 1) {
     std::string bytes(size, '\0');
-    for (char& byte : bytes) {
-        byte = static_cast<char>(first++);
-    }
+    std::iota(bytes.begin(), bytes.end(), first);
     return bytes;
 }
 
-/// An image of integers without a window.
+/// An image of unsigned integers.
 inline libgr::image2d_t image_of(unsigned int width, unsigned int height,
                                  libgr::e_image_format_t format, libgr::e_image_bits_t bits,
                                  std::string const& pixels) {
@@ -43,27 +41,31 @@ inline libgr::image2d_t image_of(unsigned int width, unsigned int height,
     return image;
 }
 
-/// All bytes of an image.
-inline std::string pixels_of(libgr::image_bytes_t const& image) {
-    return {image.begin(), image.end()};
-}
+/// A place for one file. Whatever a test loads and saves, no file stays open.
+struct picture_test_t : testing::Test {
+    static long open_files() {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    }
+    void SetUp() override { m_files = open_files(); }
+    void TearDown() override {
+        image = {};
+        EXPECT_EQ(open_files(), m_files);
+    }
 
-/// "WIDTHxHEIGHT FORMAT BITS ENTRIES: BYTES" of a picture that loaded, else "-".
-inline std::string outcome(bool loaded, libgr::image2d_t const& image) {
-    std::ostringstream out;
-    out << image.m_width << "x" << image.m_height << " " << image.desc.format << " "
-        << image.desc.bits << " " << image.palette.size << ": " << image.size();
-    std::string text = out.str();
-    text.erase(text.find("IMAGE_FORMAT_"), 13).erase(text.find("IMAGE_BITS_"), 11);
-    return loaded ? text : "-";
-}
+    /// "WIDTHxHEIGHT FORMAT BITS ENTRIES: BYTES" of the picture if it loaded, else "-".
+    std::string outcome(bool loaded) const {
+        std::ostringstream out;
+        out << image.m_width << "x" << image.m_height << " " << image.desc.format << " "
+            << image.desc.bits << " " << image.palette.size << ": " << image.size();
+        std::string text = out.str();
+        text.erase(text.find("IMAGE_FORMAT_"), 13).erase(text.find("IMAGE_BITS_"), 11);
+        return loaded ? text : "-";
+    }
+    std::string pixels() const { return {image.begin(), image.end()}; }
 
-template <typename codec_t>
-std::string load_outcome(libgr::image2d_t& image, std::string const& path) {
-    return outcome(codec_t().load(image, path.c_str()), image);
-}
-
-/// How many files the process holds open.
-inline long open_files() {
-    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
-}
+    temp_dir_t dir;
+    std::string const file = dir.file("picture");
+    char const* const path = file.c_str();
+    libgr::image2d_t image;
+    long m_files = 0;
+};

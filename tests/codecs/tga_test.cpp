@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/codecs/picturebytes.h"
-#include "tests/support/files/testfiles.h"
 
 namespace {
 
@@ -26,10 +25,9 @@ struct tga_t {
     }
 };
 
-TEST(Tga, TakesPaddedBottomUpFiles) {
-    temp_dir_t const dir;
-    std::string const path = dir.file("x.tga");
-    long const files = open_files();
+using Tga = picture_test_t;
+
+TEST_F(Tga, TakesPaddedBottomUpFiles) {
     struct {
         tga_t file;
         char const* expected;
@@ -53,27 +51,23 @@ TEST(Tga, TakesPaddedBottomUpFiles) {
     for (auto const& row : rows) {
         SCOPED_TRACE(row.expected);
         std::string const bytes = row.file.bytes();
-        write_file(path, bytes);
-        image2d_t image;
-        EXPECT_EQ(load_outcome<image_tga_t>(image, path), row.expected);
-        EXPECT_TRUE(image.empty() || pixels_of(image) == row.file.pixels);
+        write_file(file, bytes);
+        image = {};
+        EXPECT_EQ(outcome(image_tga_t().load(image, path)), row.expected);
+        EXPECT_TRUE(image.empty() || pixels() == row.file.pixels);
         tgaimage_t tga;  // which leads to the same header, id and map
-        EXPECT_EQ(tga.load(path.c_str(), nullptr) && !tga.save(path.c_str(), nullptr), false);
-        EXPECT_EQ(read_file(path), bytes);
+        EXPECT_FALSE(tga.load(path, nullptr) && !tga.save(path, nullptr));
+        EXPECT_EQ(read_file(file), bytes);
         for (std::size_t size = 0; size < bytes.size(); ++size) {
-            write_file(path, bytes.substr(0, size));
-            EXPECT_FALSE(image_tga_t().load(image, path.c_str())) << "cut to " << size;
+            write_file(file, bytes.substr(0, size));
+            EXPECT_FALSE(image_tga_t().load(image, path)) << "cut to " << size;
         }
     }
-    image2d_t image;
     EXPECT_FALSE(image_tga_t().load(image, dir.path().c_str()));
-    EXPECT_FALSE(image_tga_t().load(image, dir.file("none.tga").c_str()));
-    EXPECT_EQ(open_files(), files);
+    EXPECT_FALSE(image_tga_t().load(image, dir.file("none").c_str()));
 }
 
-TEST(Tga, SavesRedFirstPicturesAlone) {
-    temp_dir_t const dir;
-    std::string const path = dir.file("x.tga");
+TEST_F(Tga, SavesRedFirstPicturesAlone) {
     struct {
         e_image_format_t format;
         e_image_bits_t bits;
@@ -89,14 +83,14 @@ TEST(Tga, SavesRedFirstPicturesAlone) {
         {IMAGE_FORMAT_RGB, IMAGE_BITS_16, 0, ""},
     };
     for (auto const& row : rows) {
-        image2d_t image = image_of(2, 1, row.format, row.bits, ramp(8));
-        write_file(path, "old");
-        EXPECT_EQ(image_tga_t().save(image, path.c_str()), row.depth != 0);
+        image = image_of(2, 1, row.format, row.bits, ramp(8));
+        write_file(file, "old");
+        EXPECT_EQ(image_tga_t().save(image, path), row.depth != 0);
         std::string const expected = tga_t{2, 2, 1, row.depth, row.pixels}.bytes();
-        EXPECT_EQ(read_file(path), row.depth != 0 ? expected : "old");
+        EXPECT_EQ(read_file(file), row.depth != 0 ? expected : "old");
         EXPECT_FALSE(image_tga_t().save(image, "/dev/full"));
         image.m_width = 65538;
-        EXPECT_FALSE(image_tga_t().save(image, path.c_str()));
+        EXPECT_FALSE(image_tga_t().save(image, path));
     }
 }
 
