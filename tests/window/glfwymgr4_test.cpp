@@ -4,11 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <string>
 
 #include "tests/support/glfw/fakeglfw.h"
 
 namespace {
+
+std::string const current = "glfwMakeContextCurrent(w1)\n";
+std::string const draw = current + "display\nglfwSwapBuffers(w1)\n";
+std::string const wait = "glfwWaitEvents()\n";
 
 /// Puts what is reported among the calls, so that their order can be seen.
 struct log_t : wenk::glutyAPI4 {
@@ -26,7 +31,6 @@ struct log_t : wenk::glutyAPI4 {
     void specialkey(int key, int x, int y) override { add("special", key, x, y); }
     void mouse(int button, int state, int x, int y) override { add("mouse", button, state, x, y); }
     void motion(int x, int y) override { add("motion", x, y); }
-    void passivemotion(int, int) override { add("passivemotion"); }
     void idle() override { add("idle"); }
     void init() override { add("init", wenk::glfwyMGR4::getSingleton()->win(this) != nullptr); }
     void keyboardup(unsigned char key, int x, int y) override { add("charup", key, x, y); }
@@ -64,102 +68,64 @@ TEST_F(GlfwMgr4, AWindowIsBoundBeforeTheApplicationStarts) {
 }
 
 TEST_F(GlfwMgr4, KeysBecomeCharactersAndSpecialCodes) {
-    constexpr int shift = GLFW_MOD_SHIFT;
-    constexpr int caps = GLFW_MOD_CAPS_LOCK;
-    static struct {
-        int key, mods;
-        char const* pressed;  // the event without the cursor's position
-    } const rows[] = {
-        {GLFW_KEY_A, 0, "char 97"},
-        {GLFW_KEY_A, shift, "char 65"},
-        {GLFW_KEY_A, caps, "char 65"},
-        {GLFW_KEY_A, shift | caps, "char 97"},
-        {GLFW_KEY_A, shift | GLFW_MOD_CONTROL, "char 65"},
-        {GLFW_KEY_1, shift, "char 49"},
-        {GLFW_KEY_BACKSLASH, 0, "char 92"},
-        {GLFW_KEY_ESCAPE, 0, "char 27"},
-        {GLFW_KEY_ENTER, shift, "char 13"},
-        {GLFW_KEY_TAB, 0, "char 9"},
-        {GLFW_KEY_BACKSPACE, 0, "char 8"},
-        {GLFW_KEY_UNKNOWN, 0, "char 255"},
-        {GLFW_KEY_UNKNOWN, shift, "char 255"},
-        {127, 0, "char 127"},
-        {128, 0, "special 128"},
-        {GLFW_KEY_WORLD_2, 0, "special 162"},
-        {GLFW_KEY_INSERT, 0, "special 260"},
-        {GLFW_KEY_DELETE, 0, "special 261"},
-        {GLFW_KEY_F5, 0, "special 294"},
-        {GLFW_KEY_LEFT_SHIFT, shift, "special 340"},
-        {GLFW_KEY_KP_0, 0, "special 260"},
-        {GLFW_KEY_KP_1, 0, "special 269"},
-        {GLFW_KEY_KP_2, 0, "special 264"},
-        {GLFW_KEY_KP_3, 0, "special 267"},
-        {GLFW_KEY_KP_4, 0, "special 263"},
-        {GLFW_KEY_KP_5, 0, "special 255"},
-        {GLFW_KEY_KP_6, 0, "special 262"},
-        {GLFW_KEY_KP_7, 0, "special 268"},
-        {GLFW_KEY_KP_8, 0, "special 265"},
-        {GLFW_KEY_KP_9, 0, "special 266"},
-        {GLFW_KEY_KP_DECIMAL, 0, "char 46"},
-        {GLFW_KEY_KP_DIVIDE, 0, "char 47"},
-        {GLFW_KEY_KP_MULTIPLY, 0, "char 42"},
-        {GLFW_KEY_KP_SUBTRACT, 0, "char 45"},
-        {GLFW_KEY_KP_ADD, 0, "char 43"},
-        {GLFW_KEY_KP_ENTER, 0, "char 13"},
-        {GLFW_KEY_KP_EQUAL, 0, "char 61"},
+    constexpr int shift = GLFW_MOD_SHIFT, caps = GLFW_MOD_CAPS_LOCK, control = GLFW_MOD_CONTROL;
+    // clang-format off
+    static int const rows[][3] = {  // key, modifiers, character or, negative, special code
+        {'A', 0, 'a'}, {'A', shift, 'A'}, {'A', caps, 'A'}, {'A', shift | caps, 'a'},
+        {'A', shift | control, 'A'}, {'A', control, 'a'}, {'1', shift, '1'}, {127, 0, 127},
+        {128, 0, -128}, {162, 0, -162}, {256, 0, 27}, {257, shift, 13}, {258, 0, 9}, {259, 0, 8},
+        {260, 0, -260}, {261, 0, -261}, {294, 0, -294}, {320, 0, -260}, {321, 0, -269},
+        {322, 0, -264}, {323, 0, -267}, {324, 0, -263}, {325, 0, -255}, {326, 0, -262},
+        {327, 0, -268}, {328, 0, -265}, {329, 0, -266}, {330, 0, '.'}, {331, 0, '/'},
+        {332, 0, '*'}, {333, 0, '-'}, {334, 0, '+'}, {335, 0, 13}, {336, 0, '='},
+        {340, shift, -340}, {GLFW_KEY_UNKNOWN, 0, 255}, {GLFW_KEY_UNKNOWN, shift, 255},
     };
+    // clang-format on
     manager.addWindow(&app, "view");
     glfw.fire_cursor(7.9, -3.9);
-    for (auto const& row : rows) {
-        SCOPED_TRACE(row.key);
-        std::string const current = "glfwMakeContextCurrent(w1)\n";
-        std::string const pressed = row.pressed + std::string(" 7 -3\n");
-        std::string released = pressed;
-        released.insert(released.find(' '), "up");
+    for (auto const& [key, mods, code] : rows) {
+        std::string const name = current + (code < 0 ? "special" : "char");
+        std::string const rest = std::to_string(std::abs(code)) + " 7 -3\n";
+        std::string const pressed = name + " " + rest;
         for (bool const repeats : {false, true}) {
             manager.KeyRepeat(repeats);
             glfw.take_calls();
             for (int const action : {GLFW_PRESS, GLFW_REPEAT, GLFW_RELEASE}) {
-                glfw.fire_key(row.key, action, row.mods);
+                glfw.fire_key(key, action, mods);
             }
             EXPECT_EQ(glfw.take_calls(),
-                      current + pressed + current + (repeats ? pressed : "") + current + released);
+                      pressed + (repeats ? pressed : current) + name + "up " + rest)
+                << key;
         }
     }
 }
 
 TEST_F(GlfwMgr4, PointerEventsReachTheApplication) {
-    static struct {
-        int button, action;
-        char const* event;
-    } const buttons[] = {
-        {GLFW_MOUSE_BUTTON_LEFT, GLFW_PRESS, "mouse 0 0 5 6\n"},
-        {GLFW_MOUSE_BUTTON_LEFT, GLFW_RELEASE, "mouse 0 1 5 6\n"},
-        {GLFW_MOUSE_BUTTON_RIGHT, GLFW_PRESS, "mouse 2 0 5 6\n"},
-        {GLFW_MOUSE_BUTTON_MIDDLE, GLFW_RELEASE, "mouse 1 1 5 6\n"},
-        {3, GLFW_PRESS, "wheel 0 1 5 6\n"},
-        {4, GLFW_PRESS, "wheel 0 -1 5 6\n"},
-        {5, GLFW_PRESS, "wheel 1 1 5 6\n"},
-        {7, GLFW_PRESS, "wheel 2 1 5 6\n"},
-        {3, GLFW_RELEASE, ""},
-    };
     manager.addWindow(&app, "view");
     glfw.take_calls();
     glfw.fire_cursor(5.99, 6.5);
-    std::string const current = "glfwMakeContextCurrent(w1)\n";
     EXPECT_EQ(glfw.take_calls(), current + "motion 5 6\n");
-    for (auto const& row : buttons) {
-        glfw.fire(&GLFWwindow::button, row.button, row.action, 0);
-        EXPECT_EQ(glfw.take_calls(), current + row.event) << row.button;
+    // clang-format off
+    static int const buttons[][5] = {  // button, action; whether a wheel, which, state or direction
+        {0, GLFW_PRESS, 0, 0, 0}, {0, GLFW_RELEASE, 0, 0, 1}, {1, GLFW_PRESS, 0, 2, 0},
+        {2, GLFW_RELEASE, 0, 1, 1}, {3, GLFW_PRESS, 1, 0, 1}, {4, GLFW_PRESS, 1, 0, -1},
+        {5, GLFW_PRESS, 1, 1, 1}, {7, GLFW_PRESS, 1, 2, 1},
+    };
+    // clang-format on
+    for (auto const& [button, action, wheel, which, how] : buttons) {
+        glfw.fire(&GLFWwindow::button, button, action, 0);
+        EXPECT_EQ(glfw.take_calls(), current + (wheel ? "wheel " : "mouse ") +
+                                         std::to_string(which) + " " + std::to_string(how) +
+                                         " 5 6\n");
     }
+    glfw.fire(&GLFWwindow::button, 3, GLFW_RELEASE, 0);
     for (double const dy : {-0.1, 0.0, 3.0}) {
         glfw.fire(&GLFWwindow::scroll, 9.0, dy);
     }
     EXPECT_EQ(glfw.take_calls("wheel"), "wheel 0 -1 5 6\nwheel 0 0 5 6\nwheel 0 1 5 6\n");
     glfw.fire_drop({"a.png", "b.png"});
     glfw.fire(&GLFWwindow::refresh);
-    EXPECT_EQ(glfw.take_calls(),
-              current + "drop 2 b.png\n" + current + "display\nglfwSwapBuffers(w1)\n");
+    EXPECT_EQ(glfw.take_calls(), current + "drop 2 b.png\n" + draw);
 }
 
 TEST_F(GlfwMgr4, TheLoopDrawsOnceForAllRequestsBetweenTwoWaits) {
@@ -172,9 +138,7 @@ TEST_F(GlfwMgr4, TheLoopDrawsOnceForAllRequestsBetweenTwoWaits) {
                    [this] { manager.IdleOff(); }, [this] { manager.Exit(); }};
     glfw.take_calls();
     manager.MainLoop();
-    std::string const idle = "glfwMakeContextCurrent(w1)\nidle\n";
-    std::string const draw = "glfwMakeContextCurrent(w1)\ndisplay\nglfwSwapBuffers(w1)\n";
-    std::string const wait = "glfwWaitEvents()\n";
+    std::string const idle = current + "idle\n";
     EXPECT_EQ(glfw.take_calls(),
               idle + draw + wait +  // the request made before the loop
                   idle + wait +     // its empty event; now the step that asks twice
