@@ -153,7 +153,8 @@ def generate(headers, core, names):
                               "#include <cstddef>\n#include <cstdint>\n\n" +
                               "\n".join(headers.types) + "\n", None),
         "glenums.gen.h": text("The enumerants of OpenGL and its extensions.", "".join(
-            f"#define {n} {f'({v})' if v[0] == '-' else v}\n" for n, v in headers.enumerants.items()), None),
+            f"#define {n} {f'({v})' if v[0] == '-' else v}\n"
+            for n, v in headers.enumerants.items()), None),
         "glfunctions.gen.h": text("OpenGL's entry points as global pointers, null until resolved.",
                                   "#include \"glext/gltypes.gen.h\"\n\n" +
                                   hidden[0] + pointers + hidden[1], None),
