@@ -27,12 +27,6 @@ void record(char const* function, T const&... arguments) {
     s_fake->calls.push_back(line.str() + ")");
 }
 
-template <typename F>
-F bind(char const* function, GLFWwindow* window, F GLFWwindow::*event, F callback) {
-    record(function, live(window).name);
-    return std::exchange(window->*event, callback);
-}
-
 }  // namespace
 
 fake_glfw_t::fake_glfw_t() {
@@ -149,33 +143,19 @@ int glfwWindowShouldClose(GLFWwindow* window) {
     return live(window).should_close ? GLFW_TRUE : GLFW_FALSE;
 }
 
-GLFWwindowrefreshfun glfwSetWindowRefreshCallback(GLFWwindow* w, GLFWwindowrefreshfun callback) {
-    return bind("glfwSetWindowRefreshCallback", w, &GLFWwindow::refresh, callback);
-}
-
-GLFWwindowsizefun glfwSetWindowSizeCallback(GLFWwindow* w, GLFWwindowsizefun callback) {
-    return bind("glfwSetWindowSizeCallback", w, &GLFWwindow::size, callback);
-}
-
-GLFWkeyfun glfwSetKeyCallback(GLFWwindow* w, GLFWkeyfun callback) {
-    return bind("glfwSetKeyCallback", w, &GLFWwindow::key, callback);
-}
-
-GLFWmousebuttonfun glfwSetMouseButtonCallback(GLFWwindow* w, GLFWmousebuttonfun callback) {
-    return bind("glfwSetMouseButtonCallback", w, &GLFWwindow::button, callback);
-}
-
-GLFWscrollfun glfwSetScrollCallback(GLFWwindow* w, GLFWscrollfun callback) {
-    return bind("glfwSetScrollCallback", w, &GLFWwindow::scroll, callback);
-}
-
-GLFWcursorposfun glfwSetCursorPosCallback(GLFWwindow* w, GLFWcursorposfun callback) {
-    return bind("glfwSetCursorPosCallback", w, &GLFWwindow::cursor, callback);
-}
-
-GLFWdropfun glfwSetDropCallback(GLFWwindow* w, GLFWdropfun callback) {
-    return bind("glfwSetDropCallback", w, &GLFWwindow::drop, callback);
-}
+#define BIND(function, type, event)                    \
+    type function(GLFWwindow* window, type callback) { \
+        record(#function, live(window).name);          \
+        return std::exchange(window->event, callback); \
+    }
+BIND(glfwSetWindowRefreshCallback, GLFWwindowrefreshfun, refresh)
+BIND(glfwSetWindowSizeCallback, GLFWwindowsizefun, size)
+BIND(glfwSetKeyCallback, GLFWkeyfun, key)
+BIND(glfwSetMouseButtonCallback, GLFWmousebuttonfun, button)
+BIND(glfwSetScrollCallback, GLFWscrollfun, scroll)
+BIND(glfwSetCursorPosCallback, GLFWcursorposfun, cursor)
+BIND(glfwSetDropCallback, GLFWdropfun, drop)
+#undef BIND
 
 void glfwSetWindowTitle(GLFWwindow* window, char const* title) {
     record("glfwSetWindowTitle", live(window).name, title);
