@@ -4,10 +4,27 @@
 
 #define GLFW_INCLUDE_NONE
 #include <GLFW/glfw3.h>
+#include <dlfcn.h>
+#include <link.h>
 
 #include <cstdlib>
 
 #include "glext/glextloader.h"
+
+namespace {
+
+/// Keeps the libraries that are loaded now, the GL driver's among them, to the end of the process:
+/// what a driver holds in its globals would look like a leak of ours once it is unloaded.
+void keep_libraries() {
+    dl_iterate_phdr(
+        [](dl_phdr_info* library, std::size_t, void*) {
+            dlopen(library->dlpi_name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
+            return 0;
+        },
+        nullptr);
+}
+
+}  // namespace
 
 GLFWwindow* gl_context_test::s_window = nullptr;
 
@@ -20,6 +37,7 @@ void gl_context_test::SetUpTestSuite() {
     s_window = glfwCreateWindow(window_size, window_size, "", nullptr, nullptr);
     ASSERT_NE(s_window, nullptr);
     glfwMakeContextCurrent(s_window);
+    keep_libraries();
     gl_extloader_init();
 }
 
