@@ -125,6 +125,8 @@ void ViewWindow::menu_edit_delete_zvwfile() {
 
 void ViewWindow::menu_file_savejpeg() {
     if (current != imagelist.end()) {
+        // Where the front buffer can't be read the back one is, and it needs the frame anew.
+        display();
         scene.saveImage(current->c_str());
     }
 }

@@ -8,6 +8,8 @@
 #include <iostream>
 
 #include "codecs/bmpimage2.h"
+#include "codecs/jpegobject.h"
+#include "codecs/jpegobject.h"
 #include "codecs/png.h"
 #include "codecs/tga.h"
 #include "gl/grerror.h"
@@ -92,6 +94,10 @@ ViewObject::ViewObject()
 
 libgr::image_object_t* ViewObject::find_codec(std::string const& path) {
     static constexpr codec_row_t codecs[] = {
+        {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
+        {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
+        {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
+        {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
         {".bmp", &m_bmpimgobj, make_codec<libgr::image_bmp2_t>},
         {".png", &m_pngimgobj, make_codec<libgr::image_png_t>},
         {".tga", &m_tgaimgobj, make_codec<libgr::image_tga_t>},
@@ -148,8 +154,12 @@ bool ViewObject::saveImage(char const* path) {
         debug_line(name + ": read pixels fail.");
         return false;
     }
-    debug_line(name + ": jpeg1 save fail.");
-    return false;
+    libgr::image_jpeg1_t codec;
+    if (!codec.save(image, name.c_str())) {
+        debug_line(name + ": jpeg1 save fail.");
+        return false;
+    }
+    return true;
 }
 
 void ViewObject::load_texture() {
