@@ -82,7 +82,7 @@ TEST_F(Option, LeadingOptionsAreAppliedAndTakenOut) {
         {{"-winsize", "4294967295x99999999999999999999"}, "prog ", "", ""},
         {{"-winsize=640x480"}, "prog -winsize=640x480 ", "", ""},
         {{"-resizetype", "-menu-", "a"}, "prog a ", "resizetype 1", "resizetype 0"},
-        {{"-frametype", "-9", "-FrameWidth", "0x10"}, "prog ", "1\n-framewidth 32",
+        {{"-frametype", "-0x9", "-FrameWidth", "0x10"}, "prog ", "1\n-framewidth 32",
          "-9\n-framewidth 16"},
         {{"-doubleclick_interval", "0"}, "prog ", "", ""},
         {{"-doubleclick_interval", "4294967297"}, "prog ", "300", "1"},
@@ -147,8 +147,8 @@ TEST_F(Option, TheUserDefaultFileReadsBackButForTheColour) {
     EXPECT_EQ(g_option.framecolor, libgr::color3aub(0, 0, 0, 0));
     g_option.framecolor = {255, 255, 255, 255};
     EXPECT_EQ(saved(), changed);
-    enter({});
-    EXPECT_FALSE(g_option.h);
+    g_option.h = true;  // no help comes from there
+    EXPECT_EXIT((enter({}), std::exit(g_option.h ? 1 : 7)), testing::ExitedWithCode(7), "");
 }
 
 TEST_F(Option, TheUserDefaultFileStandsInHomeOrBesideTheProgram) {
@@ -183,7 +183,8 @@ TEST_F(Option, LinesThatAreNoOptionsAreIgnored) {
         char const *before, *after;
     } const rows[] = {
         {"", "", ""},
-        {"# comment\r\n\n-RESIZETYPE\t2 -menu-\r\n", "resizetype 1", "resizetype 2"},
+        {"# comment\r\n\n-RESIZETYPE\t2 -menu-\n", "resizetype 1", "resizetype 2"},
+        {"-single\r\n", "single-", "single+"},
         {" -menu-\nmenu-\n-menu- -single", "menu+", "menu-"},
         {"-winsize\n-winsize", "", ""},
         {"-winsize  640x480\n", "800x600", "0x600"},
