@@ -17,15 +17,11 @@ using convert_t = bool (*)(image2d_t&, image2d_t const&);
 
 /// Puts a picture into a wider one, so that it has to be read through its window.
 image2d_t windowed(image2d_t const& source) {
-    long const pixel = static_cast<long>(source.getPixelBits() / 8);
-    rows_t const inner = pixels(source);
-    rows_t rows(inner.size() + 2, row_t(inner[0].size() + static_cast<std::size_t>(3 * pixel)));
-    for (std::size_t y = 0; y < inner.size(); ++y) {
-        std::copy(inner[y].begin(), inner[y].end(), rows[y + 1].begin() + 2 * pixel);
-    }
-    image2d_t whole = picture(source.desc, source.m_width + 3, rows);
-    image2d_t window;
+    image2d_t whole = picture(source.desc, source.m_width + 3, rows_t(source.m_height + 2)), window;
     EXPECT_TRUE(makewindow(window, whole, 2, 1, source.m_width, source.m_height));
+    for (unsigned int y = 0; y < source.m_height; ++y) {
+        std::copy_n(pixel_row(source, y), source.rowbyte(), pixel_row(window, y));
+    }
     return window;
 }
 
@@ -44,25 +40,20 @@ TEST(channels, swap_and_change_alpha_by_the_source_format) {
     rows_t const three = {{1, 2, 3, 4, 5, 6}, {7, 8, 9, 10, 11, 12}};
     rows_t const three_swapped = {{3, 2, 1, 6, 5, 4}, {9, 8, 7, 12, 11, 10}};
     rows_t const four = {{1, 2, 3, 40, 5, 6, 7, 80}}, four_swapped = {{3, 2, 1, 40, 7, 6, 5, 80}};
+    rows_t const opaque = {{1, 2, 3, 255, 4, 5, 6, 255}, {7, 8, 9, 255, 10, 11, 12, 255}};
     using row = std::tuple<convert_t, e_image_format_t, e_image_format_t, rows_t, rows_t, bool>;
     for (auto const& [convert, from, to, in, out, store] :
          {row{bgr2rgb, IMAGE_FORMAT_BGR, IMAGE_FORMAT_RGB, three, three_swapped, false},
           row{bgr2rgb, IMAGE_FORMAT_BGRA, IMAGE_FORMAT_RGBA, four, four_swapped, false},
           row{rgb2bgr, IMAGE_FORMAT_RGB, IMAGE_FORMAT_BGR, three, three_swapped, true},
           row{rgb2bgr, IMAGE_FORMAT_RGBA, IMAGE_FORMAT_BGRA, four, four_swapped, false},
-          row{rgb2rgba,
-              IMAGE_FORMAT_RGB,
-              IMAGE_FORMAT_RGBA,
-              {three[0]},
-              {{1, 2, 3, 255, 4, 5, 6, 255}},
-              true},
+          row{rgb2rgba, IMAGE_FORMAT_RGB, IMAGE_FORMAT_RGBA, three, opaque, true},
           row{rgba2rgb, IMAGE_FORMAT_RGBA, IMAGE_FORMAT_RGB, four, {{1, 2, 3, 5, 6, 7}}, true}}) {
         image2d_t const src = windowed(picture(bytes_desc(from, IMAGE_TYPE_SINT), 2, in));
         image2d_t const wanted = picture(bytes_desc(to), 2, out);
         image2d_t dst, shared, tight;
         EXPECT_TRUE(convert(dst, src) && dst.desc == bytes_desc(to, IMAGE_TYPE_SINT)) << from;
-        EXPECT_EQ(pixels(dst), out) << from;
-        EXPECT_EQ(dst.store != nullptr, store) << from;
+        EXPECT_TRUE(pixels(dst) == out && (dst.store != nullptr) == store) << from;
         EXPECT_TRUE(convert(shared, wanted) && shared.begin() == wanted.begin()) << from;
         for (image2d_t const& bad : spoilt(src)) {
             EXPECT_TRUE(!convert(shared, bad) && shared.begin() == bad.begin()) << from;
@@ -91,11 +82,9 @@ TEST(index2rgb, reads_every_index_size_and_stays_in_the_palette) {
         }
         src.palette.size = 9;  // more than the planes hold
         image2d_t dst = picture(gray8, 1, {{1}});
-        EXPECT_EQ(index2rgb(dst, src), !reds.empty());
-        EXPECT_TRUE(dst.desc == rgb8);
+        EXPECT_TRUE(index2rgb(dst, src) == !reds.empty() && dst.desc == rgb8);
         for (std::size_t x = 0; x < reds.size(); ++x) {
-            EXPECT_EQ(dst[3 * x], reds[x]) << x;
-            EXPECT_EQ(dst[3 * x + 2], reds[x] * 2) << x;
+            EXPECT_TRUE(dst[3 * x] == reds[x] && dst[3 * x + 2] == reds[x] * 2) << x;
         }
         src.window.skiprows = 1;
         EXPECT_FALSE(index2rgb(dst, src));
@@ -116,37 +105,33 @@ TEST(copy, is_deep_clears_padding_and_drops_the_window) {
 
 TEST(colour, fills_and_adds_with_saturation) {
     image2d_t image = windowed(picture(rgba8, 2, {{1, 2, 3, 4, 255, 128, 0, 9}}));
-    ASSERT_TRUE(addcolor(image, color3a(0.5F, -1.0F, NAN, 1.0F)));
+    EXPECT_TRUE(addcolor(image, color3a(0.5F, -1.0F, NAN, 1.0F)));
     EXPECT_EQ(pixels(image), (rows_t{{129, 0, 255, 4, 255, 0, 255, 9}}));
-    ASSERT_TRUE(fillcolor(image, color3a(2.0F, -1.0F, NAN, 0.5F)));
+    EXPECT_TRUE(fillcolor(image, color3a(2.0F, -1.0F, NAN, 0.5F)));
     EXPECT_EQ(pixels(image), (rows_t{{255, 0, 255, 128, 255, 0, 255, 128}}));
     image2d_t three = picture(rgb8, 1, {{}, {}});
-    ASSERT_TRUE(fillcolor(three, color3a(0, 0.25F, 1, 0)));
-    EXPECT_EQ(pixels(three), rows_t(2, {0, 64, 255}));
-    temp_dir_t const dir;
-    std::string const path = write_file(dir.file("pixels"), std::string(64, 'p'));
+    EXPECT_TRUE(fillcolor(three, color3a(0, 0.25F, 1, 0)) &&
+                pixels(three) == rows_t(2, {0, 64, 255}));
     std::vector<image2d_t> bad = spoilt(three);
-    bad.push_back(three);
-    ASSERT_TRUE(bad[5].load(0, path.c_str(), libutils::PROTECTION_READ, 0, false, nullptr));
+    bad.push_back(three);  // of bytes that can't be written to
+    ASSERT_TRUE(bad[5].load(8, "/proc/self/exe", libutils::PROTECTION_READ, 0, false, nullptr));
     capture_t streams;
     for (image2d_t& each : bad) {
         EXPECT_FALSE(fillcolor(each, color3a(1, 1, 1, 1)) || addcolor(each, color3a(1, 1, 1, 1)));
     }
-    std::string const type = "not support image type.\n", bits = "not support image bits.\n",
-                      format = "not support format.\n";
-    EXPECT_EQ(streams.err(), type + type + bits + bits + format + format);
+    EXPECT_EQ(streams.err(),
+              "not support image type.\nnot support image type.\nnot support image bits.\n"
+              "not support image bits.\nnot support format.\nnot support format.\n");
 }
 
 TEST(monochrome, weighs_the_channels_and_names_what_it_refuses) {
     image2d_t const src =
         picture(rgb8, 3, {{100, 0, 0, 0, 100, 0, 0, 0, 100}, {255, 0, 255, 9, 9, 9, 1, 2, 3}});
-    image2d_t dst, cut = src;
-    ASSERT_TRUE(monochrome(dst, src));
+    image2d_t dst;
+    ASSERT_TRUE(monochrome(dst, src) && dst.desc == gray8);
     EXPECT_EQ(pixels(dst), (rows_t{{29, 58, 11}, {105, 9, 1}}));
-    EXPECT_TRUE(dst.desc == gray8);
-    cut.count = 20;
     std::vector<image2d_t> bad = spoilt(src);
-    bad[4] = cut;
+    bad[4].count = 20;  // the window doesn't matter here, but the bytes do
     capture_t streams;
     for (image2d_t const& each : bad) {
         EXPECT_FALSE(monochrome(dst, each));
@@ -165,8 +150,7 @@ TEST(rotate, turns_clockwise_by_quarters) {
                              {{5, 5, 3, 3, 1, 1}, {6, 6, 4, 4, 2, 2}}};
     image2d_t dst;
     for (unsigned long count = 0; count < 4; ++count) {
-        ASSERT_TRUE(rotate(count, dst, src));
-        EXPECT_EQ(pixels(dst), turned[count]) << count;
+        EXPECT_TRUE(rotate(count, dst, src) && pixels(dst) == turned[count]) << count;
     }
     EXPECT_FALSE(rotate(4, dst, src) || rotate(1, dst, spoilt(src)[4]));
     EXPECT_EQ(dst.m_width, 3U) << "a refused turn leaves the destination";

@@ -13,9 +13,8 @@ using row_t = std::vector<unsigned char>;
 using rows_t = std::vector<row_t>;
 
 /// A description of components of 8 bits.
-constexpr libgr::image_desc_t bytes_desc(libgr::e_image_format_t format,
-                                         libgr::e_image_type_t type = libgr::IMAGE_TYPE_UINT) {
-    return {format, type, libgr::IMAGE_BITS_8};
+constexpr libgr::image_desc_t bytes_desc(libgr::e_image_format_t format, unsigned int type = 1) {
+    return {format, static_cast<libgr::e_image_type_t>(type), libgr::IMAGE_BITS_8};
 }
 
 inline constexpr libgr::image_desc_t gray8 = bytes_desc(libgr::IMAGE_FORMAT_GRAYSCALE);
