@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: MIT
+// The parsing and printing of a baseline JPEG's marker segments.
+#include "metadata/jpegmarkers.h"
+
+#include <numeric>
+#include <ostream>
+
+#include "metadata/refusal.h"
+
+namespace libgr {
+
+unsigned char const zigzag_to_array[64] = {
+    0,  1,  8,  16, 9,  2,  3,  10, 17, 24, 32, 25, 18, 11, 4,  5,   //
+    12, 19, 26, 33, 40, 48, 41, 34, 27, 20, 13, 6,  7,  14, 21, 28,  //
+    35, 42, 49, 56, 57, 50, 43, 36, 29, 22, 15, 23, 30, 37, 44, 51,  //
+    58, 59, 52, 45, 38, 31, 39, 46, 53, 60, 61, 54, 47, 55, 62, 63,
+};
+
+namespace {
+
+constexpr unsigned long dqt_unit = 1 + sizeof(zigzag_to_array);
+
+unsigned char high_nibble(unsigned char byte) {
+    return static_cast<unsigned char>(byte >> 4);
+}
+
+unsigned char low_nibble(unsigned char byte) {
+    return static_cast<unsigned char>(byte & 0x0F);
+}
+
+/// The big-endian word at `at`.
+unsigned short word_at(jpeg_bytes_t const& payload, unsigned long at) {
+    return static_cast<unsigned short>(payload[at] << 8 | payload[at + 1]);
+}
+
+bool broken() {
+    return refuse("broken JPEG data.");
+}
+
+bool invalid() {
+    return refuse("invalid JPEG data.");
+}
+
+/// One line on standard output, numbers in decimal. A byte is written as a number: give it as +x.
+template <typename... Parts>
+void put_line(Parts const&... parts) {
+    libutils::keepflag const keep(std::cout);
+    std::cout << std::dec;
+    (std::cout << ... << parts) << std::endl;
+}
+
+}  // namespace
+
+bool sof0_marker_t::parse() {
+    if (size() < 6) {
+        return broken();
+    }
+    sample_precision = (*this)[0];
+    lines = word_at(*this, 1);
+    samples = word_at(*this, 3);
+    colors = (*this)[5];
+    if (sample_precision != 8) {
+        return refuse("not support JPEG data. sample_precision=",
+                      static_cast<char>(sample_precision));
+    }
+    if (size() < 6UL + 3UL * colors) {
+        return broken();
+    }
+    components.resize(colors);
+    max_horiz = 0;
+    max_verts = 0;
+    unsigned long at = 6;
+    for (element_t& element : components) {
+        unsigned char const factors = (*this)[at + 1];
+        element = {(*this)[at], high_nibble(factors), low_nibble(factors),
+                   at + 4 < size() ? (*this)[at + 4] : static_cast<unsigned char>(0)};
+        max_horiz = libutils::max2<unsigned short>(max_horiz, element.horiz_factor);
+        max_verts = libutils::max2<unsigned short>(max_verts, element.verts_factor);
+        at += 3;
+    }
+    for (element_t const& element : components) {
+        if (element.horiz_factor == 0 || max_horiz % element.horiz_factor != 0 ||
+            element.verts_factor == 0 || max_verts % element.verts_factor != 0) {
+            return invalid();
+        }
+    }
+    return true;
+}
+
+void sof0_marker_t::dump() const {
+    put_line("precision: ", +sample_precision);
+    put_line("lines: ", lines, ", samples: ", samples);
+    put_line("colors: ", +colors);
+    for (element_t const& element : components) {
+        put_line("component_id: ", +element.component_id);
+        put_line("horiz_factor: ", +element.horiz_factor);
+        put_line("verts_factor: ", +element.verts_factor);
+        put_line("quatable_sel: ", +element.quatable_sel);
+    }
+    put_line("max_horiz: ", max_horiz);
+    put_line("max_verts: ", max_verts);
+}
+
+bool dqt_marker_t::parse() {
+    unsigned long const tables = size() / dqt_unit;
+    if (empty() || size() % dqt_unit != 0 || tables > table.size()) {
+        return broken();
+    }
+    n = static_cast<unsigned char>(tables);
+    unsigned char const* unit = begin();
+    for (unsigned long k = 0; k < tables; ++k, unit += dqt_unit) {
+        unsigned char const pq = high_nibble(unit[0]);
+        unsigned char const tq = low_nibble(unit[0]);
+        if (pq != 0) {
+            return refuse("not support JPEG data. DQT pq=", +pq);
+        }
+        if (tq >= table.size()) {
+            return invalid();
+        }
+        for (unsigned long i = 0; i < sizeof(zigzag_to_array); ++i) {
+            table[tq][zigzag_to_array[i]] = unit[1 + i];
+        }
+        destination[k] = tq;
+    }
+    return true;
+}
+
+void dqt_marker_t::dump() const {
+    put_line("dqt n: ", +n);
+    for (unsigned long i = 0; i < n; ++i) {
+        for (unsigned char const value : table[destination[i]]) {
+            std::cout << +value << ", ";
+        }
+        put_line();
+    }
+}
+
+bool dht_marker_t::parse() {
+    jpeg_iterator cursor(end());
+    cursor = begin();
+    for (table_count = 0; cursor < end(); ++table_count) {
+        if (table_count >= tables.size()) {
+            return broken();
+        }
+        if (!parse_table(cursor)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool dht_marker_t::parse_table(jpeg_iterator& cursor) {
+    class_and_destination_t& which = tables[table_count];
+    which = {high_nibble(*cursor), low_nibble(*cursor)};
+    ++cursor;
+    if (which.th >= dc.size() || which.tc > 1) {
+        return broken();
+    }
+    table_t& table = which.tc == 0 ? dc[which.th] : ac[which.th];
+    for (unsigned char& count_of_length : table.counts) {
+        if (!(cursor < end())) {
+            return broken();
+        }
+        count_of_length = *cursor;
+        ++cursor;
+    }
+    unsigned int const codes = std::accumulate(table.counts.begin(), table.counts.end(), 0U);
+    if (codes > 0xFF) {  // the count of entries has eight bits
+        return broken();
+    }
+    table.entries.resize(codes);
+    unsigned short code = 0;
+    auto entry = table.entries.begin();
+    for (unsigned char const count_of_length : table.counts) {
+        for (unsigned int i = 0; i < count_of_length; ++i, ++entry, ++code, ++cursor) {
+            if (!(cursor < end())) {
+                return broken();
+            }
+            unsigned char const value = *cursor;
+            *entry = {code, low_nibble(value), high_nibble(value)};
+            if (value > 15 && entry->run_length < 15 && entry->data_bits == 0) {
+                return refuse("huffman table error: run_length=", +entry->run_length,
+                              ", data_bits=", +entry->data_bits);
+            }
+        }
+        code = static_cast<unsigned short>(code << 1);
+    }
+    return true;
+}
+
+dht_marker_t::table_t const& dht_marker_t::table_of(class_and_destination_t which) const {
+    return which.tc == 0 ? dc[which.th] : ac[which.th];
+}
+
+void dht_marker_t::dump() const {
+    put_line("dht length: ", length);
+    for (unsigned long i = 0; i < table_count; ++i) {
+        put_line("tc: ", +tables[i].tc, ", th: ", +tables[i].th);
+        std::cout << "entries: ";
+        char const* separator = "";
+        for (unsigned char const count_of_length : table_of(tables[i]).counts) {
+            std::cout << separator << +count_of_length;
+            separator = ", ";
+        }
+        put_line();
+    }
+}
+
+bool dri_marker_t::parse() {
+    if (size() != 2) {
+        return broken();
+    }
+    interval = word_at(*this, 0);
+    return true;
+}
+
+void dri_marker_t::dump() const {
+    put_line("dri intervals: ", interval);
+}
+
+bool sos_marker_t::parse() {
+    if (size() < 4) {
+        return broken();
+    }
+    ns = (*this)[0];
+    if (size() != ns * 2UL + 4UL) {
+        return broken();
+    }
+    components.resize(ns);
+    unsigned long at = 1;
+    for (element_t& element : components) {
+        unsigned char const selectors = (*this)[at + 1];
+        element = {(*this)[at], high_nibble(selectors), low_nibble(selectors)};
+        if (element.dc_huffman_table_selector > 1 || element.ac_huffman_table_selector > 1) {
+            return invalid();
+        }
+        at += 2;
+    }
+    ss = (*this)[at];
+    se = (*this)[at + 1];
+    ah = high_nibble((*this)[at + 2]);
+    al = low_nibble((*this)[at + 2]);
+    if (ss != 0 || se != 63 || ah != 0 || al != 0) {
+        return refuse("constant value illegal. ss=", +ss, ", se=", +se, ", ah=", +ah, ", al=", +al);
+    }
+    return true;
+}
+
+void sos_marker_t::dump() const {
+    put_line("ns: ", +ns);
+    for (element_t const& element : components) {
+        put_line("scan element selector: ", +element.scan_element_selector);
+        put_line("dc huffman table selector: ", +element.dc_huffman_table_selector);
+        put_line("ac huffman table selector: ", +element.ac_huffman_table_selector);
+    }
+}
+
+void sos_marker_t::clear() {
+    dht_marker_t* const kept = dht;
+    *this = {};
+    dht = kept;
+}
+
+}  // namespace libgr
