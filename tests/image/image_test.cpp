@@ -88,7 +88,7 @@ TEST(pixels_within, tells_windows_that_leave_their_bytes) {
           row{100, 8, {8, 5, 4, 4, 1}, {4, 1, 1}, true},
           row{100, 8, {8, 5, 4, 4, 1}, {4, 1, 2}, false},
           row{100, 8, {0, most}, {4, 5, 1}, true},
-          row{100, 8, {0, most}, {4, 5, 2}, false},
+          row{100, 64, {1U << 31, 1U << 30}, {4, 1, 2}, false},  // a stride of 2^64
           row{100, 8, {most, most, most, most, most}, {most, most, most}, false}}) {
         image3d_t volume;
         ASSERT_TRUE(volume.resize(bytes, 0));
