@@ -2,9 +2,13 @@
 // The photo frame: a band around the picture, drawn anew each time under the picture's view matrix.
 #pragma once
 
-#include "geometry/constants.h"
+#include "geometry/color.h"
 #include "geometry/vector.h"
 #include "gl/grobject.h"
+#include "gl/texture.h"
+#include "gl/texture2d.h"
+#include "gl/texturecubemap.h"
+#include "glext/glextloader.h"
 
 namespace zanolib {
 
@@ -17,7 +21,12 @@ enum e_frametype_t : unsigned int {
     FRAMETYPE_FLOWER = 4,      ///< a blended band with the flower texture
 };
 
-/// The frame of one picture.
+/// The frame of one picture. All frames share their textures and programs, which are made when a
+/// picture's graph is made and live as long as the program.
+///
+/// The bump-mapped looks are drawn by the first path that the context has: vertex and fragment
+/// programs (ARB_vertex_program, ARB_fragment_program), texture combiners with a normalising cube
+/// map (ARB_texture_env_dot3), or a plain lit texture.
 class ViewFrame : public libgr::grObject3D {
   public:
     ViewFrame() = default;
@@ -26,7 +35,9 @@ class ViewFrame : public libgr::grObject3D {
     /// Frees nothing: what the frames share outlives them all.
     ~ViewFrame() override = default;
 
-    /// Loads what all frames share, once; a missing file doesn't stop it. Makes no GL object.
+    /// Loads what all frames share, once, from the working directory, from `datapath` (which ends
+    /// in its separator) or from the site directory; a missing file doesn't stop it. Makes no GL
+    /// object.
     static void init(char const* datapath);
     /// Drops the shared images.
     static void destroy();
@@ -35,22 +46,57 @@ class ViewFrame : public libgr::grObject3D {
     /// Sets the picture's size and the band's width, both in picture pixels.
     void setSize(libgr::direction2_t size, unsigned int width);
 
-    /// Creates the GL objects of this frame's look. Needs a current context.
+    /// Creates the GL objects of this frame's look. A program that is missing or rejected gets a
+    /// line on std::cerr, and the next path is taken. Needs a current context.
     void make_graph(char const* datapath);
-    /// Lets go of them.
+    /// Lets go of them. Needs a current context.
     void free_graph();
 
     using grObject3D::Draw;
-    /// Draws the band and leaves lighting, blending and texturing off. Needs a current context.
+    /// Draws the band in one call, and leaves lighting, blending and texturing off. Needs a current
+    /// context.
     void Draw() const override;
 
   private:
+    enum class path_t { programs, combiners, plain };
+
+    static bool programs_available();
+    static bool combiners_available();
+    static path_t bump_path();
+
+    bool is_bump_mapped() const {
+        return m_frametype == FRAMETYPE_BUMP_BROWN || m_frametype == FRAMETYPE_BUMP_COLOR;
+    }
+    void begin_look() const;
+    void end_look() const;
+    static void begin_flower();
+    static void end_flower();
+    static void begin_programs();
+    static void end_programs();
+    static void begin_combiners(libgr::color3a_t const& color);
+    static void end_combiners();
+    static void begin_plain(libgr::color3a_t const& color);
+    static void end_plain();
+    libgr::color3a_t bump_color() const;
+
     e_frametype_t m_frametype = FRAMETYPE_NONE;
     libgr::direction2_t m_size{0.0f, 0.0f};
     float m_reserved = 0.046875f;
     float m_width = 0.0f;
 
     static bool s_inited;
+    static libgr::grTexture2D s_monotex;         ///< "hairline.bmp" as colour
+    static libgr::grTexture2D s_hairlinetex;     ///< "hairline.bmp" as a normal map
+    static libgr::grTexture2D s_flowertex;       ///< "flower.bmp"
+    static libgr::grTextureCubeMap s_normaltex;  ///< the normalising cube map
+    static libgr::grTextureObject s_monotexobj;
+    static libgr::grTextureObject s_hairlinetexobj;
+    static libgr::grTextureObject s_flowertexobj;
+    static libgr::grTextureObject s_normaltexobj;
+    static GLuint s_vertex_program;
+    static GLuint s_fragment_program;
+    static bool s_vertex_program_loaded;
+    static bool s_fragment_program_loaded;
 };
 
 }  // namespace zanolib

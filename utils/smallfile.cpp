@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// Reading and writing small files.
+#include "utils/smallfile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <fstream>
+
+namespace libutils {
+
+namespace {
+
+bool write_all(int fd, std::string const& text) {
+    for (std::size_t done = 0; done < text.size();) {
+        ssize_t const written = write(fd, text.data() + done, text.size() - done);
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            return false;
+        }
+        done += static_cast<std::size_t>(written);
+    }
+    return ftruncate(fd, static_cast<off_t>(text.size())) == 0;
+}
+
+}  // namespace
+
+small_file_t read_small_file(std::vector<char>& buffer, char const* path) {
+    struct stat status {};
+    // Opening a pipe would wait for its writer.
+    if (::stat(path, &status) != 0 || !S_ISREG(status.st_mode)) {
+        return small_file_t::UNREADABLE;
+    }
+    if (status.st_size > static_cast<off_t>(small_file_limit)) {
+        return small_file_t::TOO_LONG;
+    }
+    buffer.resize(static_cast<std::size_t>(status.st_size));
+    std::ifstream file(path, std::ios::binary);
+    file.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+    return file ? small_file_t::READ : small_file_t::UNREADABLE;
+}
+
+bool write_small_file(char const* path, std::string const& text) {
+    // Without O_NONBLOCK a pipe would wait for its reader.
+    int const fd = open(path, O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
+    if (fd < 0) {
+        return false;
+    }
+    struct stat before {};
+    bool const was_empty = fstat(fd, &before) == 0 && before.st_size == 0;
+    if (!write_all(fd, text) && was_empty && S_ISREG(before.st_mode)) {
+        unlink(path);
+    }
+    close(fd);
+    return true;
+}
+
+}  // namespace libutils

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// Small text files of the user, read whole and within a limit, and written without losing the old.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace libutils {
+
+/// The longest file that is taken for one of options, messages, views or programs, in bytes.
+inline constexpr std::size_t small_file_limit = std::size_t{1} << 20;
+
+enum class small_file_t {
+    READ,
+    UNREADABLE,  ///< missing, not to be opened, or no plain file
+    TOO_LONG
+};
+
+/// Reads a plain file into `buffer`. Otherwise the buffer's content is of no use.
+small_file_t read_small_file(std::vector<char>& buffer, char const* path);
+
+/// Writes `text` as the whole content of the file at `path`, over what is there: links and
+/// permissions stay, and where the disk is full an old file of the same length or more still takes
+/// the new content. A file that was made for it and can't be filled is removed again. False when
+/// the file can't be opened.
+bool write_small_file(char const* path, std::string const& text);
+
+}  // namespace libutils
