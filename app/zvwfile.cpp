@@ -5,12 +5,14 @@
 #include <unistd.h>
 
 #include <array>
-#include <fstream>
 #include <iostream>
+#include <sstream>
+#include <vector>
 
 #include "geometry/textstream.h"
 #include "options/option.h"
 #include "utils/path.h"
+#include "utils/smallfile.h"
 
 namespace zanoview2 {
 
@@ -26,12 +28,12 @@ std::string make_zvwpath(char const* picture) {
 
 bool zvwfile_t::load(char const* picture) {
     std::string const path = make_zvwpath(picture);
-    std::ifstream file(path);
-    if (!file) {
+    std::vector<char> buffer;
+    if (libutils::read_small_file(buffer, path.c_str()) != libutils::small_file_t::READ) {
         return false;
     }
-    file >> size >> matrix;
-    file.close();
+    std::istringstream text(std::string(buffer.begin(), buffer.end()));
+    text >> size >> matrix;
     if (zanolib::g_option.debug) {
         std::cout << size << std::endl;
     }
@@ -43,12 +45,11 @@ bool zvwfile_t::load(char const* picture) {
 
 bool zvwfile_t::save(char const* picture) const {
     std::string const path = make_zvwpath(picture);
-    std::ofstream file(path);
-    if (!file) {
+    std::ostringstream text;
+    text << size << '\n' << matrix << '\n';
+    if (!libutils::write_small_file(path.c_str(), text.str())) {
         return false;
     }
-    file << size << std::endl << matrix << std::endl;
-    file.close();
     if (zanolib::g_option.verbose) {
         std::cout << path << ": zvwfile saved." << std::endl;
     }

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "options/option.h"
-#include "options/smallfile.h"
 #include "utils/diagnostics.h"
 #include "utils/path.h"
+#include "utils/smallfile.h"
 
 namespace zanolib {
 
@@ -23,7 +23,7 @@ std::vector<char> s_msgbuf;
 std::vector<char const*> s_tablebuf;
 
 bool load_message(std::vector<char>& buffer, char const* path) {
-    return read_small_file(buffer, path) == small_file_t::READ;
+    return libutils::read_small_file(buffer, path) == libutils::small_file_t::READ;
 }
 
 unsigned long count_lines(std::vector<char> const& buffer) {

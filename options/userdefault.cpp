@@ -3,7 +3,6 @@
 #include "options/userdefault.h"
 
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
 #include <list>
 #include <sstream>
@@ -11,7 +10,7 @@
 #include <vector>
 
 #include "options/optionrow.h"
-#include "options/smallfile.h"
+#include "utils/smallfile.h"
 #include "utils/token.h"
 
 namespace zanolib {
@@ -102,9 +101,9 @@ void option_save_user_default(char const* prog, char const* dir) {
 
 bool option_load(char const* path) {
     std::vector<char> buffer;
-    small_file_t const outcome = read_small_file(buffer, path);
-    if (outcome != small_file_t::READ) {
-        return outcome != small_file_t::TOO_LONG;
+    libutils::small_file_t const outcome = libutils::read_small_file(buffer, path);
+    if (outcome != libutils::small_file_t::READ) {
+        return outcome != libutils::small_file_t::TOO_LONG;
     }
     std::istringstream file(std::string(buffer.begin(), buffer.end()));
     for (std::string line; std::getline(file, line);) {
@@ -114,15 +113,14 @@ bool option_load(char const* path) {
 }
 
 bool option_save(char const* path) {
-    std::ofstream file(path, std::ios::trunc);
-    if (file.bad()) {
-        return false;
-    }
+    std::ostringstream text;
     for (option_entity_t const& row : option_entity_table) {
-        file << "-" << row.name;
-        put_value(file, row);
-        file << "\n";
+        text << "-" << row.name;
+        put_value(text, row);
+        text << "\n";
     }
+    // Nobody is told of a file that can't be made.
+    libutils::write_small_file(path, text.str());
     return true;
 }
 
