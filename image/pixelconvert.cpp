@@ -377,7 +377,7 @@ bool image2d_reader_t<unsigned char>::setimage(image2d_t const& img) {
         *this = {};
         return false;
     }
-    bytes = img;
+    bytes = static_cast<image_bytes_t const&>(img);
     width = img.m_width;
     height = img.m_height;
     desc = img.desc;

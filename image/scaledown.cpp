@@ -2,6 +2,7 @@
 // Reductions of a picture to half its size, plain or by reading it as a Bayer mosaic.
 #include "image/scaledown.h"
 
+#include <cstddef>
 #include <iostream>
 
 #include "utils/diagnostics.h"
@@ -43,7 +44,8 @@ void gray_row(byte_t* to, byte_t const* r0, byte_t const* r1, unsigned int width
 
 void box_row(byte_t* to, byte_t const* r0, byte_t const* r1, unsigned int width,
              unsigned int components) {
-    for (unsigned int x = 0; x < width; ++x, r0 += 2 * components, r1 += 2 * components) {
+    std::size_t const pair = std::size_t{2} * components;
+    for (unsigned int x = 0; x < width; ++x, r0 += pair, r1 += pair) {
         for (unsigned int c = 0; c < components; ++c) {
             *to++ = box(r0 + c, r1 + c, 3);  // 3 also where a pixel has four bytes
         }
@@ -52,7 +54,8 @@ void box_row(byte_t* to, byte_t const* r0, byte_t const* r1, unsigned int width,
 
 void mosaic_row(byte_t* to, byte_t const* r0, byte_t const* r1, unsigned int width,
                 unsigned int components, mosaic_t const& mosaic) {
-    for (unsigned int x = 0; x < width; ++x, r0 += 2 * components, r1 += 2 * components) {
+    std::size_t const pair = std::size_t{2} * components;
+    for (unsigned int x = 0; x < width; ++x, r0 += pair, r1 += pair) {
         auto const at = [&](sample_t const& sample) {
             return (sample.row == 0 ? r0 : r1)[sample.place];
         };
