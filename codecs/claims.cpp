@@ -10,7 +10,7 @@ namespace libgr {
 
 namespace {
 
-constexpr std::uint64_t k_small_picture = std::uint64_t{64} << 20;  // bytes
+constexpr std::uint64_t k_small_picture = std::uint64_t{1} << 20;  // bytes
 constexpr std::uint64_t k_bearable_ratio = 16;
 
 std::uint64_t physical_memory() {

@@ -10,7 +10,7 @@ namespace libgr {
 
 /// Whether `claimed` bytes of pixels may be allocated for a file that holds `held` bytes of them,
 /// which may be fewer where the file is cut. Never more than half of the machine's memory, and more
-/// than a few megabytes only if a sixteenth of it is there.
+/// than a megabyte only if a sixteenth of it is there.
 bool is_bearable_claim(std::uint64_t claimed, std::uint64_t held);
 
 /// Whether the machine can show a picture of this size: it takes at most half of the memory, with

@@ -109,6 +109,8 @@ int fail() {
 }
 
 void read_header(reading_t& reading) {
+    // Texts and profiles aren't looked at, whatever lengths they claim or expand to.
+    png_set_keep_unknown_chunks(reading.png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
     png_set_sig_bytes(reading.png, k_signature_bytes);
     png_read_info(reading.png, reading.info);
     png_get_IHDR(reading.png, reading.info, &reading.width, &reading.height, &reading.depth,

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+// Fuzzes the stream BMP reader.
+#include "codecs/bmpimage.h"
+#include "fuzz/codecrun.h"
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size);
+
+int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    run_codec<libgr::image_bmp_t>(data, size);
+    return 0;
+}
