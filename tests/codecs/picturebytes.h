@@ -28,7 +28,6 @@ inline std::string ramp(unsigned long size, char first = 1) {
     return bytes;
 }
 
-/// An image of unsigned integers.
 inline libgr::image2d_t image_of(unsigned int width, unsigned int height,
                                  libgr::e_image_format_t format, libgr::e_image_bits_t bits,
                                  std::string const& pixels) {

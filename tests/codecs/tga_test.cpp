@@ -49,7 +49,6 @@ TEST_F(Tga, TakesPaddedBottomUpFiles) {
         {{2, 65535, 65535, 255, ramp(64)}, "-"},
     };
     for (auto const& row : rows) {
-        SCOPED_TRACE(row.expected);
         std::string const bytes = row.file.bytes();
         write_file(file, bytes);
         image = {};
@@ -64,7 +63,6 @@ TEST_F(Tga, TakesPaddedBottomUpFiles) {
         }
     }
     EXPECT_FALSE(image_tga_t().load(image, dir.path().c_str()));
-    EXPECT_FALSE(image_tga_t().load(image, dir.file("none").c_str()));
 }
 
 TEST_F(Tga, SavesRedFirstPicturesAlone) {
@@ -77,10 +75,8 @@ TEST_F(Tga, SavesRedFirstPicturesAlone) {
         {IMAGE_FORMAT_RGBA, IMAGE_BITS_8, 32, "\3\2\1\4\7\6\5\10"},
         {IMAGE_FORMAT_RGB, IMAGE_BITS_8, 24, {"\3\2\1\6\5\4\0\0", 8}},
         {IMAGE_FORMAT_RGBA, IMAGE_BITS_R5G5B5A1, 16, ramp(8)},
-        {IMAGE_FORMAT_BGRA, IMAGE_BITS_8, 0, ""},
         {IMAGE_FORMAT_BGR, IMAGE_BITS_8, 0, ""},
         {IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_8, 0, ""},
-        {IMAGE_FORMAT_RGB, IMAGE_BITS_16, 0, ""},
     };
     for (auto const& row : rows) {
         image = image_of(2, 1, row.format, row.bits, ramp(8));
