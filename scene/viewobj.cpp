@@ -9,7 +9,6 @@
 
 #include "codecs/bmpimage2.h"
 #include "codecs/jpegobject.h"
-#include "codecs/jpegobject.h"
 #include "codecs/png.h"
 #include "codecs/tga.h"
 #include "gl/grerror.h"
