@@ -4,7 +4,11 @@ add_library(zv_flags INTERFACE)
 target_include_directories(zv_flags INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(zv_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wcast-qual -Wformat=2
-  -Wnon-virtual-dtor -Woverloaded-virtual -Wduplicated-cond -Wlogical-op)
+  -Wnon-virtual-dtor -Woverloaded-virtual
+  $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond;-Wlogical-op>)
+if(ZV_BUILD_FUZZ)
+  target_compile_options(zv_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 if(ZV_SANITIZE)
   target_compile_options(zv_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
