@@ -90,7 +90,7 @@ class Viewer:
         errors, _, report = errors.partition("\n====")
         ours = [name for name in ("libgr::", "zanolib::", "zanoview2::", "wenk::", "libutils::", "main.cpp")
                 if name in report]
-        assert not ours and "AddressSanitizer: heap" not in report and "runtime error" not in errors, errors + report
+        assert not ours and "ERROR: AddressSanitizer" not in report and "runtime error" not in errors, errors + report
         return output, errors
 
     def key(self, *names):
