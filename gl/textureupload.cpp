@@ -3,13 +3,12 @@
 #include "gl/textureupload.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <iostream>
 #include <limits>
 
-#include "gl/glucalls.h"
 #include "gl/grerror.h"
 #include "gl/pixelstore.h"
+#include "gl/unpackreach.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
 
@@ -21,94 +20,15 @@ constexpr auto s_largest = static_cast<unsigned int>(std::numeric_limits<GLint>:
 constexpr GLenum s_sgis_internalformats[] = {GL_RGB5, GL_RGB8, GL_RGBA8, GL_BGR,
                                              GL_BGRA, GL_RGB,  GL_RGBA};
 
-/// Bits that OpenGL reads for a pixel; 0 for a type that it turns down unread.
-unsigned long long read_bits(gl_loading_format_t const& terms) {
-    // GL_INTENSITY is no pixel format of OpenGL's, but some driver may read it as one component.
-    unsigned long long const components =
-        terms.format == GL_INTENSITY ? 1 : grFormatToComponents(terms.format);
-    switch (terms.type) {
-        case GL_UNSIGNED_BYTE_2_3_3_REV:
-            return 8;
-        case GL_UNSIGNED_SHORT_5_6_5_REV:
-        case GL_UNSIGNED_SHORT_4_4_4_4_REV:
-        case GL_UNSIGNED_SHORT_1_5_5_5_REV:
-            return 16;
-        case GL_UNSIGNED_INT_2_10_10_10_REV:
-        case GL_UNSIGNED_INT_24_8:
-            return 32;
-        case GL_BITMAP:
-            return components;
-        case GL_HALF_FLOAT:
-            return components * 16;
-        default:
-            return components * grTypeToSize(terms.type) * 8;
-    }
-}
-
-unsigned int unpack_parameter(GLenum name) {
-    GLint value = 0;
-    glGetIntegerv(name, &value);
-    return static_cast<unsigned int>(value);
-}
-
-/// OpenGL keeps its alignment where a store names none of those it knows.
-bool sets_alignment(image_store_t const* store) {
-    return store != nullptr && store->alignment <= 8 && libutils::Is_2nSize(store->alignment);
-}
-
-/// Values above a GLint's are turned down by OpenGL, which then reads by older ones.
-bool fit(std::initializer_list<unsigned int> values) {
-    return std::ranges::all_of(values, [](unsigned int value) { return value <= s_largest; });
-}
-
-bool in_reach(image1d_t const& image, unsigned long long bits) {
-    // One row is read as a picture's: row length and skipped rows of earlier pictures hold.
-    image2d_t row;
-    static_cast<image_bytes_t&>(row) = image;
-    row.window = {unpack_parameter(GL_UNPACK_ROW_LENGTH), image.window.skippixels,
-                  unpack_parameter(GL_UNPACK_SKIP_ROWS)};
-    image_store_t const store{false, sets_alignment(image.store)
-                                         ? image.store->alignment
-                                         : unpack_parameter(GL_UNPACK_ALIGNMENT)};
-    row.store = &store;
-    row.m_width = image.m_width;
-    row.m_height = 1;
-    return fit({image.window.skippixels, image.m_width}) && pixels_within(row, bits);
-}
-
-template <typename image_t>
-bool in_reach_aligned(image_t const& image, unsigned long long bits) {
-    if (sets_alignment(image.store)) {
-        return pixels_within(image, bits);
-    }
-    image_store_t const store{false, unpack_parameter(GL_UNPACK_ALIGNMENT)};
-    image_t read = image;
-    read.store = &store;
-    return pixels_within(read, bits);
-}
-
-bool in_reach(image2d_t const& image, unsigned long long bits) {
-    auto const& window = image.window;
-    return fit({window.rowlength, window.skippixels, window.skiprows, image.m_width,
-                image.m_height}) &&
-           in_reach_aligned(image, bits);
-}
-
-bool in_reach(image3d_t const& image, unsigned long long bits) {
-    auto const& window = image.window;
-    return fit({window.rowlength, window.imageheight, window.skippixels, window.skiprows,
-                window.skipimages, image.m_width, image.m_height, image.m_depth}) &&
-           in_reach_aligned(image, bits);
-}
-
-template <typename image_t, typename reach_t>
-std::optional<gl_loading_format_t> resolve_if(image_t const& image, bool compress,
-                                              reach_t reaches) {
+/// `read` is the record as OpenGL reads it.
+template <typename image_t, typename read_t>
+std::optional<gl_loading_format_t> resolve_if_read_within(image_t const& image, bool compress,
+                                                          read_t const& read) {
     gl_loading_format_t terms{};
     if (image.size() == 0 || !grConvertImageFormatToGlFormatFULL(&terms, image.desc, compress)) {
         return std::nullopt;
     }
-    if (!reaches(terms)) {
+    if (!reads_within(read(image), terms)) {
         grReportUnsupportedImage(image.desc);
         return std::nullopt;
     }
@@ -117,13 +37,8 @@ std::optional<gl_loading_format_t> resolve_if(image_t const& image, bool compres
 
 template <typename image_t>
 std::optional<gl_loading_format_t> resolve_image(image_t const& image, bool compress) {
-    return resolve_if(image, compress, [&image](gl_loading_format_t const& terms) {
-        if (image.compressed) {
-            return image.size() <= s_largest;
-        }
-        unsigned long long const bits = read_bits(terms);
-        return bits == 0 || in_reach(image, bits);
-    });
+    return resolve_if_read_within(image, compress,
+                                  [](image_t const& record) { return as_read(record); });
 }
 
 void log_line(char const* name, unsigned int value) {
@@ -163,17 +78,7 @@ std::optional<gl_loading_format_t> resolve(image3d_t const& image, bool compress
 }
 
 std::optional<gl_loading_format_t> resolve_without_unpack(image2d_t const& image, bool compress) {
-    return resolve_if(image, compress, [&image](gl_loading_format_t const& terms) {
-        unsigned long long const bits = read_bits(terms);
-        image_store_t const store{false, unpack_parameter(GL_UNPACK_ALIGNMENT)};
-        image2d_t read = image;
-        read.compressed = false;
-        read.store = &store;
-        read.window = {unpack_parameter(GL_UNPACK_ROW_LENGTH),
-                       unpack_parameter(GL_UNPACK_SKIP_PIXELS),
-                       unpack_parameter(GL_UNPACK_SKIP_ROWS)};
-        return bits == 0 || in_reach(read, bits);
-    });
+    return resolve_if_read_within(image, compress, as_read_without_unpack);
 }
 
 void unpack(image1d_t const& image) {
@@ -241,34 +146,6 @@ void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
                           std::span<unsigned char const> bytes) {
     glCompressedTexImage3DARB(target, level, internalformat, extent[0], extent[1], extent[2],
                               border, static_cast<GLsizei>(bytes.size()), bytes.data());
-}
-
-void build_mipmaps(GLenum target, gl_loading_format_t const& terms, extent_t<1> const& extent,
-                   void const* pixels) {
-    gluBuild1DMipmaps(target, static_cast<GLint>(terms.internalformat), extent[0], terms.format,
-                      terms.type, pixels);
-}
-void build_mipmaps(GLenum target, gl_loading_format_t const& terms, extent_t<2> const& extent,
-                   void const* pixels) {
-    gluBuild2DMipmaps(target, static_cast<GLint>(terms.internalformat), extent[0], extent[1],
-                      terms.format, terms.type, pixels);
-}
-void build_mipmaps(GLenum target, gl_loading_format_t const& terms, extent_t<3> const& extent,
-                   void const* pixels) {
-    gluBuild3DMipmaps(target, static_cast<GLint>(terms.internalformat), extent[0], extent[1],
-                      extent[2], terms.format, terms.type, pixels);
-}
-
-bool glu_can_hold(std::span<GLsizei const> extent) {
-    constexpr long most_texels = 1L << 25;  // of up to 16 bytes, each side scaled up by a third
-    long texels = 1;
-    for (GLsizei const side : extent) {
-        if (side > most_texels / std::max(texels, 1L)) {
-            return false;
-        }
-        texels *= side;
-    }
-    return true;
 }
 
 void report_no_compression() {

@@ -8,6 +8,7 @@
 #include <span>
 
 #include "gl/glformat.h"
+#include "gl/glumipmaps.h"
 #include "gl/palette.h"
 #include "glext/glextloader.h"
 #include "image/image.h"
@@ -74,7 +75,7 @@ void load_palette(grPalette& palette, image_t const& image) {
     }
 }
 
-// One OpenGL or GLU call each, by the number of sides.
+// One OpenGL call each, by the number of sides.
 void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
                extent_t<1> const& extent, GLint border, void const* pixels);
 void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
@@ -96,16 +97,6 @@ void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
 void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
                           extent_t<3> const& extent, GLint border,
                           std::span<unsigned char const> bytes);
-void build_mipmaps(GLenum target, gl_loading_format_t const& terms, extent_t<1> const& extent,
-                   void const* pixels);
-void build_mipmaps(GLenum target, gl_loading_format_t const& terms, extent_t<2> const& extent,
-                   void const* pixels);
-void build_mipmaps(GLenum target, gl_loading_format_t const& terms, extent_t<3> const& extent,
-                   void const* pixels);
-
-/// Whether GLU, which counts the bytes of its scaled copies in 32 bits, can take an image.
-bool glu_can_hold(std::span<GLsizei const> extent);
-
 /// Reports a compressed image that the context has no entry points for.
 void report_no_compression();
 /// Reports a compressed image whose lower levels can't be built.
@@ -131,10 +122,7 @@ void upload_compressed(GLenum target, GLint level, gl_loading_format_t const& te
 /// All levels from pixels by way of GLU.
 template <typename image_t>
 void upload_by_glu(GLenum target, gl_loading_format_t const& terms, image_t const& image) {
-    auto const extent = extent_of(image);
-    if (glu_can_hold(extent)) {
-        build_mipmaps(target, terms, extent, image.begin());
-    } else {
+    if (!build_mipmaps(target, terms, image)) {
         grReportUnsupportedImage(image.desc);
     }
 }

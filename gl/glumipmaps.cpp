@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+// Mipmaps by GLU, kept within the bytes that it is given.
+#include "gl/glumipmaps.h"
+
+#include <array>
+#include <cstring>
+
+#include "gl/glucalls.h"
+#include "gl/unpackreach.h"
+#include "glext/glextloader.h"
+
+namespace libgr {
+namespace {
+
+/// The pixels of a record with room behind them.
+///
+/// GLU weighs the texels behind the last column, row and picture with 0 when it scales, but reads
+/// them all the same. How far it gets was measured: less than the pixels' own span and two rows.
+class glu_pixels_t {
+  public:
+    glu_pixels_t(image3d_t const& read, unsigned long long bits) : m_begin(read.begin()) {
+        read_span_t const span = span_of(read, bits);
+        unsigned long const room = span.end + (span.end - span.first) + 2 * span.stride + 64;
+        if (read.size() >= room) {
+            return;
+        }
+        // The layout stays, since the unpack state does; what is skipped costs no memory.
+        m_begin = nullptr;
+        if (m_copy.resize(room, 0)) {
+            std::memcpy(m_copy.begin() + span.first, read.begin() + span.first,
+                        span.end - span.first);
+            m_begin = m_copy.begin();
+        }
+    }
+
+    /// Null where there was no memory.
+    void const* begin() const { return m_begin; }
+
+  private:
+    image_bytes_t m_copy;
+    void const* m_begin;
+};
+
+/// Default pack state until the end of the block. GLU allocates the levels of a volume without
+/// padding, and then writes them with the padding that the pack state asks for.
+class default_pack_t {
+  public:
+    default_pack_t() {
+        for (std::size_t i = 0; i < s_names.size(); ++i) {
+            glGetIntegerv(s_names[i], &m_former[i]);
+            glPixelStorei(s_names[i], s_names[i] == GL_PACK_ALIGNMENT ? 1 : 0);
+        }
+    }
+    default_pack_t(default_pack_t const&) = delete;
+    default_pack_t& operator=(default_pack_t const&) = delete;
+    ~default_pack_t() {
+        for (std::size_t i = 0; i < s_names.size(); ++i) {
+            glPixelStorei(s_names[i], m_former[i]);
+        }
+    }
+
+  private:
+    static constexpr std::array<GLenum, 6> s_names = {GL_PACK_ALIGNMENT,    GL_PACK_ROW_LENGTH,
+                                                      GL_PACK_SKIP_PIXELS,  GL_PACK_SKIP_ROWS,
+                                                      GL_PACK_IMAGE_HEIGHT, GL_PACK_SKIP_IMAGES};
+    std::array<GLint, s_names.size()> m_former{};
+};
+
+/// GLU counts the bytes of its scaled copies in 32 bits: texels of up to 16 bytes, each side up by
+/// a third.
+bool can_be_counted(image3d_t const& read) {
+    constexpr unsigned long most = 1UL << 25;
+    return read.m_width <= most && read.m_height <= most && read.m_depth <= most &&
+           1UL * read.m_width * read.m_height <= most &&
+           1UL * read.m_width * read.m_height * read.m_depth <= most;
+}
+
+bool is_packed(GLenum type) {
+    return type == GL_UNSIGNED_BYTE_2_3_3_REV || type == GL_UNSIGNED_SHORT_5_6_5_REV ||
+           type == GL_UNSIGNED_SHORT_4_4_4_4_REV || type == GL_UNSIGNED_SHORT_1_5_5_5_REV ||
+           type == GL_UNSIGNED_INT_2_10_10_10_REV;
+}
+
+template <typename image_t, typename call_t>
+bool build_from(gl_loading_format_t const& terms, image_t const& image, call_t const& call) {
+    image3d_t const read = as_read(image);
+    if (!can_be_counted(read)) {
+        return false;
+    }
+    if (read.m_width == 0 || read.m_height == 0 || read.m_depth == 0) {
+        return true;  // GLU turns these down unread
+    }
+    glu_pixels_t const pixels(read, read_bits(terms));
+    if (pixels.begin() == nullptr) {
+        return false;
+    }
+    call(static_cast<GLsizei>(read.m_width), static_cast<GLsizei>(read.m_height), pixels.begin());
+    return true;
+}
+
+}  // namespace
+
+bool build_mipmaps(unsigned int target, gl_loading_format_t const& terms, image1d_t const& image) {
+    return build_from(terms, image, [&](GLsizei width, GLsizei, void const* pixels) {
+        gluBuild1DMipmaps(target, static_cast<GLint>(terms.internalformat), width, terms.format,
+                          terms.type, pixels);
+    });
+}
+
+bool build_mipmaps(unsigned int target, gl_loading_format_t const& terms, image2d_t const& image) {
+    return build_from(terms, image, [&](GLsizei width, GLsizei height, void const* pixels) {
+        gluBuild2DMipmaps(target, static_cast<GLint>(terms.internalformat), width, height,
+                          terms.format, terms.type, pixels);
+    });
+}
+
+bool build_mipmaps(unsigned int target, gl_loading_format_t const& terms, image3d_t const& image) {
+    // Packed texels of a volume that shrinks to a sheet or a line lead GLU far out of its memory.
+    bool const is_cube = image.m_width == image.m_height && image.m_height == image.m_depth;
+    if (is_packed(terms.type) && !is_cube) {
+        return false;
+    }
+    default_pack_t const pack;
+    return build_from(terms, image, [&](GLsizei width, GLsizei height, void const* pixels) {
+        gluBuild3DMipmaps(target, static_cast<GLint>(terms.internalformat), width, height,
+                          static_cast<GLsizei>(image.m_depth), terms.format, terms.type, pixels);
+    });
+}
+
+}  // namespace libgr

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+// Which of a record's bytes OpenGL reads when the record goes up.
+#include "gl/unpackreach.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <limits>
+
+#include "gl/pixelstore.h"
+#include "glext/glextloader.h"
+#include "utils/bits.h"
+
+namespace libgr {
+namespace {
+
+constexpr auto s_largest = static_cast<unsigned int>(std::numeric_limits<GLint>::max());
+
+/// OpenGL's alignments, by the logarithm.
+constexpr image_store_t s_stores[] = {{false, 1}, {false, 2}, {false, 4}, {false, 8}};
+
+bool is_alignment(unsigned int bytes) {
+    return bytes <= 8 && libutils::Is_2nSize(bytes);
+}
+
+unsigned int unpack_parameter(GLenum name) {
+    GLint value = 0;
+    glGetIntegerv(name, &value);
+    return static_cast<unsigned int>(value);
+}
+
+/// OpenGL keeps its alignment where a store is missing or names none of OpenGL's.
+image_store_t const* effective_store(image_store_t const* store) {
+    if (store != nullptr && is_alignment(store->alignment)) {
+        return store;
+    }
+    unsigned int const kept = unpack_parameter(GL_UNPACK_ALIGNMENT);
+    return is_alignment(kept) ? &s_stores[libutils::Get_TopBitPos(kept) - 1] : &s_stores[2];
+}
+
+image3d_t make_read(image_bytes_t const& bytes, image_store_t const* store,
+                    image_window3d_t const& window, unsigned int width, unsigned int height,
+                    unsigned int depth) {
+    image3d_t read;
+    static_cast<image_bytes_t&>(read) = bytes;
+    read.store = effective_store(store);
+    read.window = window;
+    read.m_width = width;
+    read.m_height = height;
+    read.m_depth = depth;
+    return read;
+}
+
+/// OpenGL turns larger values down, and then reads by older ones.
+bool fits_parameters(image3d_t const& read) {
+    auto const& window = read.window;
+    return std::ranges::all_of(
+        std::initializer_list<unsigned int>{window.rowlength, window.imageheight, window.skippixels,
+                                            window.skiprows, window.skipimages, read.m_width,
+                                            read.m_height, read.m_depth},
+        [](unsigned int value) { return value <= s_largest; });
+}
+
+}  // namespace
+
+image3d_t as_read(image1d_t const& image) {
+    // One row is read as a picture's: row length and skipped rows of earlier pictures hold.
+    image3d_t read = make_read(image, image.store,
+                               {unpack_parameter(GL_UNPACK_ROW_LENGTH), 0, image.window.skippixels,
+                                unpack_parameter(GL_UNPACK_SKIP_ROWS), 0},
+                               image.m_width, 1, 1);
+    read.compressed = image.compressed;
+    return read;
+}
+
+image3d_t as_read(image2d_t const& image) {
+    auto const& window = image.window;
+    image3d_t read =
+        make_read(image, image.store, {window.rowlength, 0, window.skippixels, window.skiprows, 0},
+                  image.m_width, image.m_height, 1);
+    read.compressed = image.compressed;
+    return read;
+}
+
+image3d_t as_read(image3d_t const& image) {
+    image3d_t read = image;
+    read.store = effective_store(image.store);
+    return read;
+}
+
+image3d_t as_read_without_unpack(image2d_t const& image) {
+    return make_read(
+        image, nullptr,
+        {unpack_parameter(GL_UNPACK_ROW_LENGTH), 0, unpack_parameter(GL_UNPACK_SKIP_PIXELS),
+         unpack_parameter(GL_UNPACK_SKIP_ROWS), 0},
+        image.m_width, image.m_height, 1);
+}
+
+unsigned long long read_bits(gl_loading_format_t const& terms) {
+    // GL_INTENSITY is no pixel format of OpenGL's, but some driver may read it as one component.
+    unsigned long long const components =
+        terms.format == GL_INTENSITY ? 1 : grFormatToComponents(terms.format);
+    switch (terms.type) {
+        case GL_UNSIGNED_BYTE_2_3_3_REV:
+            return 8;
+        case GL_UNSIGNED_SHORT_5_6_5_REV:
+        case GL_UNSIGNED_SHORT_4_4_4_4_REV:
+        case GL_UNSIGNED_SHORT_1_5_5_5_REV:
+            return 16;
+        case GL_UNSIGNED_INT_2_10_10_10_REV:
+        case GL_UNSIGNED_INT_24_8:
+            return 32;
+        case GL_BITMAP:
+            return components;
+        case GL_HALF_FLOAT:
+            return components * 16;
+        default:
+            return components * grTypeToSize(terms.type) * 8;
+    }
+}
+
+bool reads_within(image3d_t const& read, gl_loading_format_t const& terms) {
+    if (read.compressed) {
+        return read.size() <= s_largest;
+    }
+    unsigned long long const bits = read_bits(terms);
+    return bits == 0 || (fits_parameters(read) && pixels_within(read, bits));
+}
+
+read_span_t span_of(image3d_t const& read, unsigned long long bits) {
+    auto const& window = read.window;
+    auto const length = [](unsigned int own, unsigned int wider) {
+        return wider != 0 ? wider : own;
+    };
+    unsigned long const stride =
+        row_stride(length(read.m_width, window.rowlength), bits, read.store);
+    unsigned long const rows = length(read.m_height, window.imageheight);
+    unsigned long const row = rows * window.skipimages + window.skiprows;
+    unsigned long const last = row + rows * (read.m_depth - 1UL) + read.m_height - 1;
+    unsigned long const tail = (bits * (0UL + window.skippixels + read.m_width) + 7) / 8;
+    return {row * stride, last * stride + tail, stride};
+}
+
+}  // namespace libgr
