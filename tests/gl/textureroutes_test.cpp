@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <map>
 #include <memory>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "gl/texture1d.h"
@@ -207,12 +207,15 @@ constexpr auto s_filters2d = texparameter2d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_
 constexpr auto s_filters3d = texparameter3d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_CLAMP, GL_CLAMP, 1);
 constexpr auto s_filterscubemap = texparametercubemap(GL_NEAREST, GL_LINEAR, 1);
 
-bool has(std::string const& letters, char letter) {
-    return letters.find(letter) != std::string::npos;
+bool has(std::string const& text, auto const& part) {
+    return text.find(part) != std::string::npos;
 }
 
-std::string replaced(std::string const& text, char const* pattern, std::string const& by) {
-    return std::regex_replace(text, std::regex(pattern), by);
+std::string replaced(std::string text, std::string const& what, std::string const& by) {
+    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size())) {
+        text.replace(at, what.size(), by);
+    }
+    return text;
 }
 
 /// The record of a level, "RGB:4x2c"; its bytes are shown as "L<n>".
@@ -297,13 +300,24 @@ std::unique_ptr<grTexturableImageGL> make_texture(setup_t const& setup, gl_recor
 
 /// What was recorded in the short form of the table, a line each.
 std::string taken(gl_recorder_t& gl) {
-    std::string text = replaced(gl.take(), "GL_(TEXTURE_)?", "");
-    text = replaced(text, "gl([A-Z])", "$1");
-    text = replaced(text, "UNSIGNED_BYTE", "UBYTE");
-    text = replaced(text, "TexParameteri.(\\w+), MIN_FILTER, NEAREST.", "Filters($1)");
-    text = replaced(text, "TexParameter[if].\\w+, (MAG_FILTER|WRAP_.|MAX_ANISOTROPY_EXT).*\n", "");
-    text = replaced(text, "TexParameterfv.(\\w+), BORDER_COLOR, .1, 0, 0.5, 1..", "Color($1)");
-    return replaced(text, "TexParameteri.(\\w+), GENERATE_MIPMAP_SGIS", "Sgis($1");
+    std::string text;
+    for (std::string line : std::exchange(gl.lines, {})) {
+        line = replaced(replaced(replaced(line, "GL_TEXTURE_", ""), "GL_", ""), "UNSIGNED_BYTE",
+                        "UBYTE");
+        line = line.starts_with("glu") ? line : line.substr(2);
+        std::string const target =
+            line.substr(line.find('(') + 1, line.find(',') - line.find('(') - 1);
+        if (!line.starts_with("TexParameter")) {
+            text += line + "\n";
+        } else if (has(line, "MIN_FILTER, NEAREST")) {
+            text += "Filters(" + target + ")\n";
+        } else if (has(line, "BORDER_COLOR, {1, 0, 0.5, 1}")) {
+            text += "Color(" + target + ")\n";
+        } else if (has(line, "GENERATE_MIPMAP_SGIS")) {
+            text += "Sgis(" + target + ", " + line.substr(line.size() - 2) + "\n";
+        }
+    }
+    return text;
 }
 
 /// A line of the table as recorded lines.
@@ -317,16 +331,19 @@ std::string spread(std::string const& line) {
                              "4POSITIVE_Z", "5NEGATIVE_Z"}) {
         std::string const one =
             replaced(lines.substr(2), "FACE", std::string("CUBE_MAP_") + &face[1]);
-        text += replaced(one, "\\*", std::string(1, face[0]));
+        text += replaced(one, "*", std::string(1, face[0]));
     }
     return text;
 }
 
-/// An expected line of the error stream; a refused image writes four.
+/// An expected line of the error stream; a refused image, "refused <format> <bits>", writes four.
 std::string error_lines(std::string const& line) {
-    return replaced(line + "\n", "refused (\\w+) (\\w+)",
-                    "Not supported image format!\nimgformat: IMAGE_FORMAT_$1\n"
-                    "imgtype: IMAGE_TYPE_UINT\nimgbits: IMAGE_BITS_$2");
+    if (!line.starts_with("refused ")) {
+        return line + "\n";
+    }
+    auto const bits = line.rfind(' ');
+    return "Not supported image format!\nimgformat: IMAGE_FORMAT_" + line.substr(8, bits - 8) +
+           "\nimgtype: IMAGE_TYPE_UINT\nimgbits: IMAGE_BITS_" + line.substr(bits + 1) + "\n";
 }
 
 void check_route(std::istream& table, std::string const& name) {
