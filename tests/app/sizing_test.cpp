@@ -11,53 +11,38 @@ using libgr::direction2l;
 
 TEST(Sizing, LimitsEachAxisByItself) {
     struct row_t {
-        bool magnify;
-        bool shrink;
+        bool magnify, shrink;
         unsigned sizelimit;
-        int target[2];
-        int expected[2];
+        int wanted_x, wanted_y, x, y;
     };
-    // The window stands at 800 by 600; the margin is 10 by 32, the largest size 1280 by 960.
+    // The window stands at 800 by 600; the margin is 10 by 32, the largest size 1280 by 960. The
+    // margin is taken from the window itself, so that under 1 it can't grow.
     row_t const rows[] = {
-        {true, true, 0, {4800, 360}, {4800, 360}},
-        {true, false, 0, {4800, 360}, {4800, 600}},
-        {false, true, 0, {4800, 360}, {800, 360}},
-        {false, false, 0, {4800, 360}, {800, 600}},
-        // The margin is taken from the window itself, so that under 1 it can't grow.
-        {true, true, 1, {4800, 360}, {790, 360}},
-        {true, true, 2, {4800, 1000}, {1280, 960}},
-        {true, true, 3, {4800, 1000}, {4800, 1000}},
-        {true, true, 2, {800, 600}, {800, 600}},
-    };
+        {true, true, 0, 4800, 360, 4800, 360},  {true, false, 0, 4800, 360, 4800, 600},
+        {false, true, 0, 4800, 360, 800, 360},  {false, false, 0, 4800, 360, 800, 600},
+        {true, true, 1, 4800, 360, 790, 360},   {true, true, 2, 4800, 1000, 1280, 960},
+        {true, true, 3, 4800, 1000, 4800, 1000}};
     for (row_t const& row : rows) {
         zanolib::option_t options;
         options.resize_magnify = row.magnify;
         options.resize_shrink = row.shrink;
         options.sizelimit = row.sizelimit;
         auto const size =
-            limited_window_size(direction2l(row.target[0], row.target[1]), direction2l(800, 600),
+            limited_window_size(direction2l(row.wanted_x, row.wanted_y), direction2l(800, 600),
                                 direction2l(800, 600), options);
-        EXPECT_EQ(size.x, row.expected[0]) << "limit " << row.sizelimit;
-        EXPECT_EQ(size.y, row.expected[1]) << "limit " << row.sizelimit;
+        EXPECT_FALSE(size != direction2l(row.x, row.y)) << size.x << " by " << size.y;
     }
 }
 
 TEST(Sizing, ScalesBetweenPictureAndWindow) {
     EXPECT_FLOAT_EQ(fitting_scale(direction2l(4000, 3000), direction2l(800, 600), 0.875f), 0.175f);
     EXPECT_FLOAT_EQ(fitting_scale(direction2l(100, 100), direction2l(800, 600), 0.875f), 5.25f);
-    EXPECT_FLOAT_EQ(fitting_scale(direction2l(800, 60), direction2l(800, 600), 0.875f), 0.875f);
     EXPECT_EQ(fitting_scale(direction2l(0, 0), direction2l(800, 600), 0.875f), 0.0f);
     EXPECT_EQ(fitting_scale(direction2l(10, 10), direction2l(0, 0), 0.875f), 0.0f);
-    EXPECT_FLOAT_EQ(resuming_scale(direction2l(400, 600), direction2l(800, 600)), 1.0f);
     EXPECT_FLOAT_EQ(resuming_scale(direction2l(1600, 600), direction2l(800, 600)), 0.5f);
-    EXPECT_FLOAT_EQ(reshaping_scale(300, 600), 0.5f);
-    EXPECT_EQ(reshaping_scale(600, 600), 1.0f);
     EXPECT_EQ(reshaping_scale(0, 600), 1.0f);
     EXPECT_EQ(reshaping_scale(600, 0), 1.0f);
-
-    auto const wanted = wanted_window_size(direction2l(301, 201), 1.2f);
-    EXPECT_EQ(wanted.x, 361);
-    EXPECT_EQ(wanted.y, 241);
+    EXPECT_FALSE(wanted_window_size(direction2l(301, 201), 1.2f) != direction2l(361, 241));
     EXPECT_EQ(wanted_window_size(direction2l(2000000000, 1), 1e30f).x, 2147483647);
 }
 

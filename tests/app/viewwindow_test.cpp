@@ -9,7 +9,7 @@
 
 #include "app/zvwfile.h"
 #include "options/option.h"
-#include "tests/support/files/testfiles.h"
+#include "tests/scene/scenefiles.h"
 #include "tests/support/gl/glrecorder.h"
 #include "tests/support/glfw/fakeglfw.h"
 #include "window/glfwymgr4.h"
@@ -18,30 +18,13 @@ namespace {
 
 using zanoview2::ViewWindow;
 
-/// A BMP of 24 bits, all gray.
-std::string gray_bmp(int width, int height) {
-    auto const byte = [](int value, int n) { return static_cast<char>(value >> (8 * n)); };
-    std::string bytes(54 + static_cast<std::size_t>((width * 3 + 3) / 4 * 4 * height), '\x80');
-    bytes.replace(0, 54, 54, '\0');
-    bytes.replace(0, 2, "BM");
-    bytes[10] = 54;
-    bytes[14] = 40;
-    for (int n = 0; n < 4; ++n) {
-        bytes[static_cast<std::size_t>(18 + n)] = byte(width, n);
-        bytes[static_cast<std::size_t>(22 + n)] = byte(height, n);
-    }
-    bytes[26] = 1;
-    bytes[28] = 24;
-    return bytes;
-}
-
 class ViewWindowTest : public ::testing::Test {
   protected:
     ViewWindowTest() {
         zanolib::g_option = zanolib::option_t{};
         setenv("HOME", m_folder.path().c_str(), 1);
         for (char const* name : {"a.bmp", "b.bmp", "c.bmp"}) {
-            write_file(m_folder.file(name), gray_bmp(1200, 900));
+            write_file(m_folder.file(name), test_bmp(1200, 900));
         }
         write_file(m_folder.file("bad.bmp"), "BM");
     }
@@ -53,14 +36,11 @@ class ViewWindowTest : public ::testing::Test {
 
     /// Brings the window up without pictures, then drops these on it.
     void open(std::vector<std::string> const& names = {}) {
-        std::vector<char const*> arguments{"/x/test_viewer.exe", "nothing.bmp"};
-        std::vector<char*> argv;
-        for (char const* argument : arguments) {
-            argv.push_back(const_cast<char*>(argument));
-        }
-        int argc = static_cast<int>(argv.size());
+        std::string words[] = {"/x/test_viewer.exe", "nothing.bmp"};
+        char* argv[] = {words[0].data(), words[1].data()};
+        int argc = 2;
         capture_t const quiet;
-        m_window = std::make_unique<ViewWindow>(&argc, argv.data());
+        m_window = std::make_unique<ViewWindow>(&argc, argv);
         wenk::glfwyMGR4::getSingleton()->addWindow(m_window.get(), "test");
         m_recorder = std::make_unique<gl_recorder_t>();
         m_recorder->integers[GL_MAX_TEXTURE_SIZE] = {16384};
