@@ -108,12 +108,12 @@ Sgis(1D, 0); TexImage1D(1D, 1, RGB8, 6, 1, RGB, UBYTE, null); TexSubImage1D(1D, 
 TexImage1D(1D, 0, RGB8, 2, 1, RGB, UBYTE, null); TexSubImage1D(1D, 0, 0, 3, RGB, UBYTE, L0)
 TexImage1D(1D, 1, RGB8, 2, 1, RGB, UBYTE, null); TexSubImage1D(1D, 1, 0, 1, RGB, UBYTE, L1)
 
-1 c mi 0 ALPHA:4 ALPHA:2 RGB:4c -- 1-D: compression for level 0 alone; compressed bytes
+1 c mi 0 ALPHA:4 ALPHA:2 -- 1-D: compression for level 0 alone
 gluBuild1DMipmaps(1D, COMPRESSED_ALPHA, 4, ALPHA, UBYTE, ptr)
-TexImage1D(1D, 1, ALPHA, 2, 0, ALPHA, UBYTE, L1); CompressedTexImage1DARB(1D, 2, RGB8, 4, 0, 12, L2)
+TexImage1D(1D, 1, ALPHA, 2, 0, ALPHA, UBYTE, L1)
 
-1 c m 0 RGB:4c -- 1-D: compressed level 0 without a word
-CompressedTexImage1DARB(1D, 0, RGB8, 4, 0, 12, L0)
+1 c mb 0 RGB:4c RGB:2c -- 1-D: compressed without a word
+CompressedTexImage1DARB(1D, 0, RGB8, 4, 1, 12, L0); CompressedTexImage1DARB(1D, 1, RGB8, 2, 1, 8, L1)
 
 3 3s mbk 4 RGB:2x2x2 RGB:1x1x1 -- 3-D: cubes, upper levels without the border
 Sgis(3D, 1); TexImage3DEXT(3D, 0, RGB8, 4, 4, 4, 1, RGB, UBYTE, null)
