@@ -17,8 +17,8 @@ namespace libgr {
 /// turn.
 ///
 /// False with a line on std::cerr for a count of 4 or more, which leaves `out` alone, and for bytes
-/// that aren't a good JPEG. After an error `out` is empty; after a mere warning, as about a file
-/// that was cut in its last scan, it holds what could be turned.
+/// that aren't a good and whole JPEG: `out` is then empty after an error, and holds what could be
+/// turned where libjpeg merely warned.
 bool transform(unsigned long rightrotatecount, jpegdata_t& out, jpegdata_t const& in);
 
 }  // namespace libgr
