@@ -15,10 +15,6 @@ namespace {
 
 constexpr int largest_window_side = 16384;
 
-int possible_side(int side) {
-    return std::clamp(side, 1, largest_window_side);
-}
-
 }  // namespace
 
 bool start() {
@@ -57,8 +53,14 @@ libgr::direction2l_t work_area(GLFWwindow*) {
     return size;
 }
 
+libgr::direction2l_t possible_window_size(libgr::direction2l_t const& size) {
+    return libgr::direction2l(std::clamp(size.x, 1, largest_window_side),
+                              std::clamp(size.y, 1, largest_window_side));
+}
+
 void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
-    glfwSetWindowSize(window, possible_side(size.x), possible_side(size.y));
+    libgr::direction2l_t const asked = possible_window_size(size);
+    glfwSetWindowSize(window, asked.x, asked.y);
 }
 
 void set_window_position(GLFWwindow* window, libgr::position2l_t const& position) {
@@ -71,8 +73,7 @@ void set_title(GLFWwindow* window, std::string const& title) {
 
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
     using namespace std::chrono_literals;
-    libgr::direction2l_t const wanted =
-        libgr::direction2l(possible_side(size.x), possible_side(size.y));
+    libgr::direction2l_t const wanted = possible_window_size(size);
     auto const deadline = std::chrono::steady_clock::now() + 100ms;
     while (window_size(window) != wanted && std::chrono::steady_clock::now() < deadline) {
         std::this_thread::sleep_for(1ms);

@@ -3,7 +3,6 @@
 #include "app/sizing.h"
 
 #include <cmath>
-#include <limits>
 
 #include "utils/bits.h"
 
@@ -28,14 +27,6 @@ int limited_axis(int target, int current, int margin_limit, int size_limit,
     }
 }
 
-int truncated(float value) {
-    constexpr auto limit = static_cast<float>(std::numeric_limits<int>::max());
-    if (!(std::fabs(value) < limit)) {
-        return std::isnan(value) ? 0 : std::numeric_limits<int>::max();
-    }
-    return static_cast<int>(value);
-}
-
 }  // namespace
 
 libgr::direction2l_t limited_window_size(libgr::direction2l_t const& target,
@@ -49,14 +40,16 @@ libgr::direction2l_t limited_window_size(libgr::direction2l_t const& target,
 }
 
 libgr::direction2l_t wanted_window_size(libgr::direction2l_t const& image, float ratio) {
-    libgr::direction2_t const wanted = libgr::direction2(image) * ratio;
-    return libgr::direction2l(truncated(wanted.x), truncated(wanted.y));
+    return libgr::direction2l(libgr::direction2(image) * ratio);
 }
 
-float fitting_scale(libgr::direction2l_t const& image, libgr::direction2l_t const& window,
-                    float ratio) {
+std::optional<float> fitting_scale(libgr::direction2l_t const& image,
+                                   libgr::direction2l_t const& window, float ratio) {
     float const tighter = libgr::max1(libgr::direction2(image) / libgr::direction2(window));
-    return tighter != 0.0f && std::isfinite(tighter) ? ratio / tighter : 0.0f;
+    if (tighter == 0.0f || !std::isfinite(tighter)) {
+        return std::nullopt;
+    }
+    return ratio / tighter;
 }
 
 float resuming_scale(libgr::direction2l_t const& saved, libgr::direction2l_t const& window) {

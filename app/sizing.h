@@ -2,6 +2,8 @@
 // The arithmetic by which window and picture adapt to each other, from numbers to numbers.
 #pragma once
 
+#include <optional>
+
 #include "geometry/vector.h"
 #include "options/option.h"
 
@@ -18,13 +20,13 @@ libgr::direction2l_t limited_window_size(libgr::direction2l_t const& target,
                                          zanolib::option_t const& options);
 
 /// The size that a picture of `image` pixels wants for its window: `ratio` times its own,
-/// truncated, and at most what fits into an int.
+/// truncated, and the nearest int where it doesn't fit into one.
 libgr::direction2l_t wanted_window_size(libgr::direction2l_t const& image, float ratio);
 
 /// The scale that makes a picture of `image` pixels take the share `ratio` of its tighter side of
-/// `window`; 0 when there is nothing to fit, because a size is 0.
-float fitting_scale(libgr::direction2l_t const& image, libgr::direction2l_t const& window,
-                    float ratio);
+/// `window`; none when there is nothing to fit, because a size is 0.
+std::optional<float> fitting_scale(libgr::direction2l_t const& image,
+                                   libgr::direction2l_t const& window, float ratio);
 
 /// The scale that brings a view stored in a window of `saved` pixels into one of `window` pixels.
 float resuming_scale(libgr::direction2l_t const& saved, libgr::direction2l_t const& window);

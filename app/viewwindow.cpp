@@ -57,7 +57,6 @@ void ViewWindow::init() {
     GLFWwindow* const win = window();
     native::set_title(
         win, zanolib::make_title(getmsg(MESSAGE_APPLICATION_NAME), getmsg(MESSAGE_NO_PICTURE)));
-    libgr::direction2l_t const created = native::window_size(win);
     native::set_window_size(win, zanolib::g_option.winsize);
     native::await_window_size(win, zanolib::g_option.winsize);
     if (covers_work_area()) {
@@ -70,14 +69,11 @@ void ViewWindow::init() {
         update_title();
         scene.make_graph(dir.data());
     }
-    // The scene needs its projection before the first drawing. A window that has not changed its
-    // size since it was made gets no size event, so nobody else would record the size either.
-    if (native::window_size(win) == created) {
-        set_shape();
-    } else {
-        libgr::direction2l_t const size = get_window_size();
-        scene.Reshape(static_cast<unsigned long>(size.x), static_cast<unsigned long>(size.y));
-    }
+    // The scene needs its projection before the first drawing, and no size event comes when the
+    // window kept the size that it was made with. The size isn't recorded: the first event must not
+    // scale the picture, which has been fitted already.
+    libgr::direction2l_t const size = get_window_size();
+    scene.Reshape(static_cast<unsigned long>(size.x), static_cast<unsigned long>(size.y));
     wenk::glfwyMGR4::getSingleton()->KeyRepeat(true);
 }
 

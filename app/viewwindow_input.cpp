@@ -159,7 +159,9 @@ void ViewWindow::cover_work_area(GLFWwindow* win) {
     winx = position.x;
     winy = position.y;
     native::set_window_position(win, libgr::position2l(0, 0));
-    native::set_window_size(win, area);
+    if (area != 0) {
+        native::set_window_size(win, area);
+    }
 }
 
 void ViewWindow::toggle_work_area() {

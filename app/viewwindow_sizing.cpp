@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How window and picture adapt to each other at a change of picture and at a resize.
 #include <iostream>
+#include <optional>
 #include <utility>
 
 #include "app/nativewindow.h"
@@ -95,7 +96,7 @@ bool ViewWindow::residue_set_window_size(libgr::direction2l_t const& target,
     if (zanolib::g_option.verbose) {
         std::cout << "set window size to: " << target << std::endl;
     }
-    if (!(target != present)) {
+    if (!(native::possible_window_size(target) != present)) {
         set_shape();
         return false;
     }
@@ -115,10 +116,10 @@ void ViewWindow::set_shape() {
 
 void ViewWindow::go_center() {
     scene.Origin();
-    float const scale = fitting_scale(getCurrentImageSize(), get_window_size(),
-                                      zanolib::g_option.image_ratio_of_window);
-    if (scale != 0.0f) {
-        setScale(scale);
+    std::optional<float> const scale = fitting_scale(getCurrentImageSize(), get_window_size(),
+                                                     zanolib::g_option.image_ratio_of_window);
+    if (scale) {
+        setScale(*scale);
     }
 }
 

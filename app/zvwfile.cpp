@@ -4,7 +4,6 @@
 
 #include <unistd.h>
 
-#include <array>
 #include <iostream>
 #include <sstream>
 #include <vector>
@@ -17,13 +16,7 @@
 namespace zanoview2 {
 
 std::string make_zvwpath(char const* picture) {
-    std::array<char, 1025> directory{};
-    std::array<char, 256> stem{};
-    libutils::dirname(directory.data(), picture, directory.size());
-    libutils::basename(stem.data(), picture, stem.size());
-    directory.back() = '\0';
-    stem.back() = '\0';
-    return std::string(directory.data()) + stem.data() + ".zvw";
+    return libutils::path_beside(picture, ".zvw");
 }
 
 bool zvwfile_t::load(char const* picture) {

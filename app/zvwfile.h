@@ -10,9 +10,8 @@
 
 namespace zanoview2 {
 
-/// The path of a picture's view state file: its directory, its stem, ".zvw". Pictures of one
-/// directory that differ only in their extension share one file. The directory is cut at 1024
-/// bytes and the stem at 255.
+/// The path of a picture's view state file, which ends in ".zvw"; see libutils::path_beside.
+/// Pictures of one directory that differ only in their extension share one file.
 std::string make_zvwpath(char const* picture);
 
 /// A stored view. The file holds two values in their text form, `dir2l` and `mtx3w`, in five lines;

@@ -3,7 +3,6 @@
 #include "scene/viewobj.h"
 
 #include <algorithm>
-#include <array>
 #include <climits>
 #include <iostream>
 
@@ -58,16 +57,6 @@ bool has_pixels(libgr::image2d_t const& image) {
            image.m_height <= INT_MAX;
 }
 
-std::string snapshot_path(char const* picture) {
-    std::array<char, 1025> directory{};
-    std::array<char, 256> stem{};
-    libutils::dirname(directory.data(), picture, directory.size());
-    libutils::basename(stem.data(), picture, stem.size());
-    directory.back() = '\0';
-    stem.back() = '\0';
-    return std::string(directory.data()) + stem.data() + ".zvw.jpg";
-}
-
 bool resolve_indices(libgr::image2d_t& image) {
     if (image.desc.format != libgr::IMAGE_FORMAT_INDEX) {
         return true;
@@ -93,8 +82,6 @@ ViewObject::ViewObject()
 
 libgr::image_object_t* ViewObject::find_codec(std::string const& path) {
     static constexpr codec_row_t codecs[] = {
-        {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
-        {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
         {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
         {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
         {".bmp", &m_bmpimgobj, make_codec<libgr::image_bmp2_t>},
@@ -147,7 +134,7 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
 }
 
 bool ViewObject::saveImage(char const* path) {
-    std::string const name = snapshot_path(path);
+    std::string const name = libutils::path_beside(path, ".zvw.jpg");
     libgr::image2d_t image;
     if (!libgr::grReadPixelsRGB(image)) {
         debug_line(name + ": read pixels fail.");

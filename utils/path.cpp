@@ -5,6 +5,7 @@
 #include <strings.h>
 #include <sys/stat.h>
 
+#include <array>
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
@@ -143,6 +144,16 @@ std::string dirname(std::string const& path) {
 
 std::size_t dirname(char* dst, char const* src, std::size_t size) {
     return put_characters(dst, std::string(src, marks(src, size).name), size);
+}
+
+std::string path_beside(char const* path, char const* suffix) {
+    std::array<char, 1025> directory{};
+    std::array<char, 256> stem{};
+    dirname(directory.data(), path, directory.size());
+    basename(stem.data(), path, stem.size());
+    directory.back() = '\0';
+    stem.back() = '\0';
+    return std::string(directory.data()) + stem.data() + suffix;
 }
 
 int extcasecmp(std::string const& s, char const* ext) {

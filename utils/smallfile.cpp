@@ -46,13 +46,16 @@ small_file_t read_small_file(std::vector<char>& buffer, char const* path) {
 
 bool write_small_file(char const* path, std::string const& text) {
     // Without O_NONBLOCK a pipe would wait for its reader.
-    int const fd = open(path, O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
+    constexpr int flags = O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC;
+    int fd = open(path, flags | O_EXCL, 0666);
+    bool const made = fd >= 0;
+    if (!made) {
+        fd = open(path, flags, 0666);
+    }
     if (fd < 0) {
         return false;
     }
-    struct stat before {};
-    bool const was_empty = fstat(fd, &before) == 0 && before.st_size == 0;
-    if (!write_all(fd, text) && was_empty && S_ISREG(before.st_mode)) {
+    if (!write_all(fd, text) && made) {
         unlink(path);
     }
     close(fd);

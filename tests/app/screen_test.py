@@ -115,8 +115,13 @@ class Session(ViewerTest):
             viewer.await_box(230, 130, 629, 429)
             viewer.key("Right", "Up")
             viewer.await_box(220, 140, 619, 439)
-            viewer.key("w")
+            viewer.key("w", "s")
             wait_for("the view state file", lambda: os.path.exists(self.path("a.zvw")))
+            shot = subprocess.run(("convert", self.path("a.zvw.jpg"), "-depth", "8", "rgb:-"),
+                                  capture_output=True).stdout
+            self.assertEqual(len(shot), 800 * 600 * 3)
+            self.assertLess(sum(abs(a - b) for a, b in zip(shot, viewer.look()[2])) / len(shot), 1)
+            os.remove(self.path("a.zvw.jpg"))
             self.drag(viewer, 3, (300, 300), (660, 300))
             viewer.await_box(240, 80, 539, 479, slack=1)
             viewer.key("Return", "2")
