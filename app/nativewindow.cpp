@@ -15,6 +15,16 @@ namespace {
 
 constexpr int largest_window_side = 16384;
 
+/// Waits until something that a window manager does has happened, at most a tenth of a second.
+template <typename Condition>
+void await(Condition has_happened) {
+    using namespace std::chrono_literals;
+    auto const deadline = std::chrono::steady_clock::now() + 100ms;
+    while (!has_happened() && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::sleep_for(1ms);
+    }
+}
+
 }  // namespace
 
 bool start() {
@@ -43,7 +53,7 @@ libgr::position2l_t window_position(GLFWwindow* window) {
     return position;
 }
 
-libgr::direction2l_t work_area(GLFWwindow*) {
+libgr::direction2l_t work_area() {
     int x = 0;
     int y = 0;
     libgr::direction2l_t size{};
@@ -72,16 +82,13 @@ void set_title(GLFWwindow* window, std::string const& title) {
 }
 
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
-    using namespace std::chrono_literals;
     libgr::direction2l_t const wanted = possible_window_size(size);
-    auto const deadline = std::chrono::steady_clock::now() + 100ms;
-    while (window_size(window) != wanted && std::chrono::steady_clock::now() < deadline) {
-        std::this_thread::sleep_for(1ms);
-    }
+    await([&] { return !(window_size(window) != wanted); });
 }
 
 void iconify(GLFWwindow* window) {
     glfwIconifyWindow(window);
+    await([&] { return glfwGetWindowAttrib(window, GLFW_ICONIFIED) == GLFW_TRUE; });
 }
 
 void restore(GLFWwindow* window) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The calls that the application makes on the windowing library itself: sizes, places, titles.
 //
-// Every function but start and stop needs a window that is up, and runs on the main thread.
+// Every function that takes a window needs it to be up; all run on the main thread.
 #pragma once
 
 #include <string>
@@ -24,7 +24,7 @@ libgr::direction2l_t framebuffer_size(GLFWwindow* window);
 /// The place of the window's upper left corner on the virtual screen.
 libgr::position2l_t window_position(GLFWwindow* window);
 /// The size of the primary monitor's area that no panel covers; 0, 0 without a monitor.
-libgr::direction2l_t work_area(GLFWwindow* window);
+libgr::direction2l_t work_area();
 
 /// A size that a window can have: each side from 1 to 16384. A side of 0 ends an X program, and
 /// larger ones have been seen to crash software drivers.
@@ -40,8 +40,10 @@ void set_title(GLFWwindow* window, std::string const& title);
 /// window manager answers late, and what is fitted into the window needs the size it will have.
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
 
-/// Takes the window down and brings it up again.
+/// Takes the window down, and waits a tenth of a second at most until it is: a window that is told
+/// to come up before the window manager has put it away stays away.
 void iconify(GLFWwindow* window);
+/// Brings the window up again.
 void restore(GLFWwindow* window);
 
 /// True while a Shift key is held down.

@@ -61,7 +61,7 @@ void ViewWindow::init() {
     native::await_window_size(win, zanolib::g_option.winsize);
     if (covers_work_area()) {
         cover_work_area(win);
-        native::await_window_size(win, native::work_area(win));
+        native::await_window_size(win, native::work_area());
     }
 
     if (initial_load()) {

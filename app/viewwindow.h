@@ -124,6 +124,7 @@ class ViewWindow : public wenk::glutyAPI4 {
     void serve_key(key_row_t const* begin, key_row_t const* end, int key);
     unsigned long paging_step() const;
     void set_zoom(int digit);
+    void go_to(bool (ViewWindow::*end)());
     bool settle(walk_t walk);
     void announce(std::string const& path) const;
     void show_new_picture();

@@ -153,7 +153,7 @@ bool ViewWindow::covers_work_area() {
 void ViewWindow::cover_work_area(GLFWwindow* win) {
     libgr::direction2l_t const size = native::window_size(win);
     libgr::position2l_t const position = native::window_position(win);
-    libgr::direction2l_t const area = native::work_area(win);
+    libgr::direction2l_t const area = native::work_area();
     winwidth = size.x;
     winheight = size.y;
     winx = position.x;

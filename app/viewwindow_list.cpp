@@ -130,22 +130,22 @@ void ViewWindow::backward(unsigned long n) {
     }
 }
 
-void ViewWindow::first() {
+/// Goes to an end of the list and has the picture there drawn with the next pass of the loop.
+void ViewWindow::go_to(bool (ViewWindow::*end)()) {
     scene.free_graph();
-    first_image();
+    (this->*end)();
     residue(true);
     update_title();
     scene.make_graph(dir.data());
     request_redisplay();
 }
 
+void ViewWindow::first() {
+    go_to(&ViewWindow::first_image);
+}
+
 void ViewWindow::last() {
-    scene.free_graph();
-    last_image();
-    residue(true);
-    update_title();
-    scene.make_graph(dir.data());
-    request_redisplay();
+    go_to(&ViewWindow::last_image);
 }
 
 void ViewWindow::reload() {

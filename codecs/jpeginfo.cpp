@@ -11,6 +11,7 @@
 #include "codecs/claims.h"
 #include "codecs/jpegmanagers.h"
 #include "utils/bits.h"
+#include "utils/diagnostics.h"
 
 namespace libgr {
 
@@ -74,6 +75,11 @@ void read_header(decoding_t& decoding) {
     decoding.source->in_header = false;
 }
 
+void report(jpegdata_t const& data, char const* text) {
+    libutils::error();
+    std::cerr << (data.name != nullptr ? data.name : "") << text << std::endl;
+}
+
 /// Decodes the rows, the file's first into the highest place.
 void read_rows(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
@@ -95,14 +101,9 @@ void read_rows(decoding_t& decoding) {
         }
     }
     if (decoding.fell_short) {
-        std::cerr << (decoding.data.name != nullptr ? decoding.data.name : "")
-                  << ": decompress fail." << std::endl;
+        report(decoding.data, ": decompress fail.");
     }
     jpeg_finish_decompress(cinfo);
-}
-
-void report(jpegdata_t const& data, char const* text) {
-    std::cerr << (data.name != nullptr ? data.name : "") << text << std::endl;
 }
 
 jpeg_info_desc_t const* row_of(jpeg_decompress_struct const& cinfo) {

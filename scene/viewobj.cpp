@@ -15,6 +15,7 @@
 #include "glext/glextloader.h"
 #include "image/pixelconvert.h"
 #include "options/option.h"
+#include "utils/diagnostics.h"
 #include "utils/path.h"
 
 namespace zanolib {
@@ -137,11 +138,13 @@ bool ViewObject::saveImage(char const* path) {
     std::string const name = libutils::path_beside(path, ".zvw.jpg");
     libgr::image2d_t image;
     if (!libgr::grReadPixelsRGB(image)) {
+        libutils::error();
         debug_line(name + ": read pixels fail.");
         return false;
     }
     libgr::image_jpeg1_t codec;
     if (!codec.save(image, name.c_str())) {
+        libutils::error();
         debug_line(name + ": jpeg1 save fail.");
         return false;
     }

@@ -93,6 +93,9 @@ bool ViewScene::addImage(char const* path, char const* datapath) {
         std::cerr << path << ": image file not found." << std::endl;
         return false;
     }
+    if (!S_ISREG(status.st_mode)) {
+        return false;  // opening a pipe would wait for its writer
+    }
     obj_t& added = m_objlist.emplace_back();
     if (!added.load(path, datapath)) {
         m_objlist.pop_back();

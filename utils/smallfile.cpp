@@ -13,6 +13,12 @@ namespace libutils {
 
 namespace {
 
+/// Whether the disk has room for the text, so that what is there can be given up for it.
+bool has_room(int fd, std::string const& text) {
+    int const error = text.empty() ? 0 : posix_fallocate(fd, 0, static_cast<off_t>(text.size()));
+    return error != ENOSPC && error != EFBIG && error != EDQUOT;
+}
+
 bool write_all(int fd, std::string const& text) {
     for (std::size_t done = 0; done < text.size();) {
         ssize_t const written = write(fd, text.data() + done, text.size() - done);
@@ -55,7 +61,8 @@ bool write_small_file(char const* path, std::string const& text) {
     if (fd < 0) {
         return false;
     }
-    if (!write_all(fd, text) && made) {
+    bool const written = has_room(fd, text) && write_all(fd, text);
+    if (!written && made) {
         unlink(path);
     }
     close(fd);

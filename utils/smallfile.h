@@ -21,9 +21,8 @@ enum class small_file_t {
 small_file_t read_small_file(std::vector<char>& buffer, char const* path);
 
 /// Writes `text` as the whole content of the file at `path`, over what is there: links and
-/// permissions stay, and where the disk is full an old file of the same length or more still takes
-/// the new content. A file that was made for it and can't be filled is removed again. False when
-/// the file can't be opened.
+/// permissions stay. Where the disk has no room for it an old file keeps its content, and a file
+/// that was made for it is removed again. False when the file can't be opened, and only then.
 bool write_small_file(char const* path, std::string const& text);
 
 }  // namespace libutils
