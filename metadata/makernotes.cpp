@@ -104,11 +104,10 @@ bool read_copied_note(tiff_header_t& header, maker_row_t const& row, jpeg_bytes_
     }
     jpeg_bytes_t& ifd = header.ifd_maker_note;
     ifd = part_of(note, row.start, ifd_size(n));
-    // A signed note is only asked for the IFD's size, not for what stands before the IFD: entries
-    // that the end of such a note cuts off read as 0. Any other copy shows how far the note goes,
-    // and the reader refuses it.
-    bool const fills_up = row.start != 0 && note.size() >= ifd_size(n);
-    return ifd.resize(fills_up ? ifd_size(n) : ifd.size(), 0) && header.parse_olympus_ifd(ifd);
+    // The note is only asked for the IFD's size, not for what stands before the IFD: entries that
+    // its end then cuts off read as 0. A shorter note is refused by the reader.
+    bool const is_enough = note.size() >= ifd_size(n);
+    return ifd.resize(is_enough ? ifd_size(n) : ifd.size(), 0) && header.parse_olympus_ifd(ifd);
 }
 
 bool read_note_in_place(tiff_header_t& header, maker_row_t const& row, jpeg_bytes_t const& note) {
