@@ -72,7 +72,8 @@ void set_pair(option_entity_t const& row, char const* text) {
         if (!numbers.read(number)) {
             return;
         }
-        if (auto const value = static_cast<std::int32_t>(number); value >= 0) {
+        auto const value = static_cast<std::int32_t>(number);
+        if (number >= 0 && value >= 0) {
             *field = value;
         }
     }
@@ -171,9 +172,7 @@ int option_each_analyze(char const** arguments) {
 }
 
 void option_enter_argument(int* argc, char*** argv) {
-    if (option_entity_table[0].length == 0) {
-        option_init();
-    }
+    option_init_once();
     // The user default file must not bring the help up.
     g_option.h = false;
     int count = *argc - 1;

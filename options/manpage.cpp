@@ -108,7 +108,9 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (present != page) {
-        std::cerr << argv[2] << ": not what its template and the option table make." << std::endl;
+        std::cerr << argv[2]
+                  << ": not what its template and the option table make; make it again with "
+                  << argv[0] << " " << argv[1] << " > " << argv[2] << std::endl;
         return 1;
     }
     return 0;

@@ -17,8 +17,6 @@ namespace zanolib {
 
 namespace {
 
-constexpr char const* site_directory = "/usr/site/share/zanolib/";
-
 std::vector<char> s_msgbuf;
 std::vector<char const*> s_tablebuf;
 
@@ -86,6 +84,7 @@ std::string init_message(char const* dir, char const* prog) {
     std::string path;
     if (!load_from_places(path, prog + suffix + ".msg", dir)) {
         if (g_option.debug) {
+            libutils::error();
             std::cerr << path << ": can't load message file." << std::endl;
         }
         if (!load_from_places(path, prog + std::string(".msg"), dir)) {

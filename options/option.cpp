@@ -94,7 +94,14 @@ void option_init() {
     }
 }
 
+void option_init_once() {
+    if (option_entity_table[0].length == 0) {
+        option_init();
+    }
+}
+
 void option_list(char const* prog) {
+    option_init_once();
     std::size_t width = 0;
     for (option_entity_t const& row : option_entity_table) {
         width = std::max(width, row.length);

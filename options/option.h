@@ -74,6 +74,9 @@ struct option_entity_t {
     char const* comment;  ///< as the help prints it
 };
 
+/// The last place where messages and the frame's data files are looked for, with its separator.
+inline constexpr char const* site_directory = "/usr/site/share/zanolib/";
+
 inline constexpr std::size_t option_count = 25;
 
 /// One row for each field of `g_option`, in that order. Parser, help, user default file and manual

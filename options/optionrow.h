@@ -13,6 +13,9 @@ namespace zanolib {
 /// is none, 1 for a flag, else 2. The table's lengths must be filled.
 int option_each_analyze(char const** arguments);
 
+/// Fills the lengths of all rows where nobody has yet.
+void option_init_once();
+
 /// The field of a row, read as a value of its type.
 template <typename T>
 T option_field(option_entity_t const& row) {

@@ -26,12 +26,6 @@ std::string user_default_path(char const* prog, char const* dir) {
     return path + "." + prog;
 }
 
-void init_options_once() {
-    if (option_entity_table[0].length == 0) {
-        option_init();
-    }
-}
-
 void apply_line(std::string line) {
     libutils::chop(line);
     std::list<std::string> tokens;
@@ -79,7 +73,7 @@ void put_value(std::ostream& out, option_entity_t const& row) {
 }  // namespace
 
 void option_load_user_default(char const* prog, char const* dir) {
-    init_options_once();
+    option_init_once();
     std::string const path = user_default_path(prog, dir);
     if (g_option.verbose) {
         std::cout << "load user default: " << path << std::endl;
@@ -91,7 +85,7 @@ void option_save_user_default(char const* prog, char const* dir) {
     if (g_option.debug) {
         std::cout << "prog: " << prog << ", dir: " << dir << std::endl;
     }
-    init_options_once();
+    option_init_once();
     std::string const path = user_default_path(prog, dir);
     if (g_option.verbose) {
         std::cout << "save user default: " << path << std::endl;

@@ -35,6 +35,13 @@ bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const&
     return true;
 }
 
+/// Whether the tiles' textures, which a strip fills for a small part only, are in keeping with the
+/// picture.
+bool is_bearable(tile_plan_t const& plan, libgr::image2d_t const& in) {
+    std::uint64_t const texels = std::uint64_t{plan.cols()} * plan.lines() * plan.tile * plan.tile;
+    return texels <= harmless_texels || texels / 8 <= std::uint64_t{in.m_width} * in.m_height;
+}
+
 }  // namespace
 
 tile_window_t tile_plan_t::window(std::uint32_t row, std::uint32_t col) const {
@@ -107,13 +114,13 @@ bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsig
     out.m_bits = in.desc.bits;
     out.m_cols = plan.cols();
     out.m_rows = plan.lines();
-    if (plan.tile == 0 || !out.allocate()) {
+    float const scale = plan.tile != 0 ? 1.0f / static_cast<float>(plan.tile) : 0.0f;
+    out.m_size = libgr::direction2(static_cast<float>(in.m_width) * scale,
+                                   static_cast<float>(in.m_height) * scale);
+    if (plan.tile == 0 || !is_bearable(plan, in) || !out.allocate()) {
         out.clear();
         return refuse(": outimg allocate failed.");
     }
-    float const scale = 1.0f / static_cast<float>(plan.tile);
-    out.m_size = libgr::direction2(static_cast<float>(in.m_width) * scale,
-                                   static_cast<float>(in.m_height) * scale);
     for (std::uint32_t row = 0; row < out.m_rows; ++row) {
         for (std::uint32_t col = 0; col < out.m_cols; ++col) {
             libgr::image2d_t& tile = out.m_squares[std::size_t{row} * out.m_cols + col];

@@ -17,6 +17,9 @@ namespace zanolib {
 /// it.
 inline constexpr std::uint64_t max_tiles = std::uint64_t{1} << 18;
 
+/// The most texels that a picture's textures may have when it fills less than an eighth of them.
+inline constexpr std::uint64_t harmless_texels = std::uint64_t{1} << 27;
+
 /// How one axis of a picture is cut.
 struct axis_plan_t {
     std::uint32_t full = 0;     ///< tiles that the picture fills

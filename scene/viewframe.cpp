@@ -188,7 +188,7 @@ void ViewFrame::begin_combiners(libgr::color3a_t const& color) {
 }
 
 void ViewFrame::end_combiners() {
-    glDisable(GL_TEXTURE_2D);
+    glDisable(GL_TEXTURE_2D);  // of unit 1, which is still the active one
     glActiveTextureARB(GL_TEXTURE0);
     glClientActiveTextureARB(GL_TEXTURE0);
     glDisable(GL_TEXTURE_CUBE_MAP);

@@ -21,8 +21,8 @@ enum e_frametype_t : unsigned int {
     FRAMETYPE_FLOWER = 4,      ///< a blended band with the flower texture
 };
 
-/// The frame of one picture. All frames share their textures and programs, which are made when a
-/// picture's graph is made and live as long as the program.
+/// The frame of one picture. All frames share their textures, which live as long as the program,
+/// and the programs of the GL, which live from `make_graph` to `free_graph`: draw only in between.
 ///
 /// The bump-mapped looks are drawn by the first path that the context has: vertex and fragment
 /// programs (ARB_vertex_program, ARB_fragment_program), texture combiners with a normalising cube

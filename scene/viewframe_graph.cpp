@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What the photo frames share: their files, textures and programs.
-#include <fstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <iostream>
 #include <string>
 #include <vector>
@@ -10,6 +12,7 @@
 #include "gl/texture.h"
 #include "image/normalmap.h"
 #include "image/pixelconvert.h"
+#include "options/option.h"
 #include "scene/viewframe.h"
 #include "utils/diagnostics.h"
 #include "utils/smallfile.h"
@@ -32,8 +35,6 @@ bool ViewFrame::s_fragment_program_loaded = false;
 
 namespace {
 
-constexpr char const* site_directory = "/usr/site/share/zanolib/";
-
 libgr::color3a_t const s_bordercolor = libgr::white * 0.18f;
 
 libgr::texparameter2d_t const s_textureparameter =
@@ -49,7 +50,10 @@ std::string find_data_file(char const* name, char const* datapath) {
     for (std::string const& directory :
          {std::string(), std::string(datapath), std::string(site_directory)}) {
         path = directory + name;
-        if (std::ifstream(path).is_open()) {
+        // A pipe would wait for its writer, and a directory opens, too.
+        struct stat status {};
+        if (stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+            access(path.c_str(), R_OK) == 0) {
             break;
         }
     }

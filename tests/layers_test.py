@@ -7,7 +7,7 @@ import sys
 ROOT = pathlib.Path(sys.argv[1])
 BELOW = {"utils": "", "geometry": "utils", "image": "geometry", "metadata": "image",
          "codecs": "metadata", "glext": "", "gl": "image glext", "options": "geometry",
-         "window": "utils", "scene": "gl codecs options", "app": "scene window"}
+         "window": "", "scene": "gl codecs options", "app": "scene window"}
 FOREIGN = {"GLFW/": r"(window|app)/\w+\.cpp", "jpeglib.h": r"codecs/\w*(jpeg|transform)\w*\.(cpp|h)",
            "jerror.h": r"codecs/\w*jpeg\w*\.cpp", "png.h": r"codecs/png\w*\.cpp",
            "GL/glu.h": r"gl/glucalls\.cpp", "GL/gl": r"$^"}

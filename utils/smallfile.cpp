@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <fstream>
 
 namespace libutils {
 
@@ -17,6 +16,20 @@ namespace {
 bool has_room(int fd, std::string const& text) {
     int const error = text.empty() ? 0 : posix_fallocate(fd, 0, static_cast<off_t>(text.size()));
     return error != ENOSPC && error != EFBIG && error != EDQUOT;
+}
+
+bool read_all(int fd, std::vector<char>& buffer) {
+    for (std::size_t done = 0; done < buffer.size();) {
+        ssize_t const got = read(fd, buffer.data() + done, buffer.size() - done);
+        if (got < 0 && errno == EINTR) {
+            continue;
+        }
+        if (got <= 0) {
+            return false;
+        }
+        done += static_cast<std::size_t>(got);
+    }
+    return true;
 }
 
 bool write_all(int fd, std::string const& text) {
@@ -36,18 +49,23 @@ bool write_all(int fd, std::string const& text) {
 }  // namespace
 
 small_file_t read_small_file(std::vector<char>& buffer, char const* path) {
-    struct stat status {};
-    // Opening a pipe would wait for its writer.
-    if (::stat(path, &status) != 0 || !S_ISREG(status.st_mode)) {
+    // Without O_NONBLOCK a pipe would wait for its writer.
+    int const fd = open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
         return small_file_t::UNREADABLE;
     }
-    if (status.st_size > static_cast<off_t>(small_file_limit)) {
-        return small_file_t::TOO_LONG;
+    struct stat status {};
+    small_file_t outcome = small_file_t::UNREADABLE;
+    if (fstat(fd, &status) == 0 && S_ISREG(status.st_mode)) {
+        if (status.st_size > static_cast<off_t>(small_file_limit)) {
+            outcome = small_file_t::TOO_LONG;
+        } else {
+            buffer.resize(static_cast<std::size_t>(status.st_size));
+            outcome = read_all(fd, buffer) ? small_file_t::READ : small_file_t::UNREADABLE;
+        }
     }
-    buffer.resize(static_cast<std::size_t>(status.st_size));
-    std::ifstream file(path, std::ios::binary);
-    file.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
-    return file ? small_file_t::READ : small_file_t::UNREADABLE;
+    close(fd);
+    return outcome;
 }
 
 bool write_small_file(char const* path, std::string const& text) {
