@@ -3,12 +3,11 @@
 // has nothing to destroy.
 #include "codecs/jpeginfo.h"
 
-#include <jerror.h>
-
 #include <cstring>
 #include <iostream>
 
 #include "codecs/claims.h"
+#include "codecs/jpeglimits.h"
 #include "codecs/jpegmanagers.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
@@ -27,13 +26,6 @@ namespace {
 constexpr image_store_t s_image_store{false, 4};
 
 constexpr unsigned int k_saved_length = 65535;  // bytes of a marker
-
-/// A file of more scans is made to keep a decoder busy, not to be looked at.
-constexpr int k_most_scans = 100;
-
-/// The smallest files that encoders make of one colour hold some 3000 times their size in pixels.
-constexpr std::uint64_t k_densest_ratio = 4096;
-constexpr std::uint64_t k_harmless_claim = std::uint64_t{64} << 20;  // bytes
 
 /// What the decoding steps work on.
 struct decoding_t {
@@ -54,18 +46,11 @@ struct decoding_t {
     ~decoding_t() { jpeg_destroy_decompress(&cinfo); }
 };
 
-void limit_scans(j_common_ptr cinfo) {
-    if (reinterpret_cast<j_decompress_ptr>(cinfo)->input_scan_number > k_most_scans) {
-        ERREXIT(cinfo, JERR_BAD_PROGRESSION);
-    }
-}
-
 void read_header(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
     cinfo->err = use_error_mgr(decoding.error, decoding.data);
     jpeg_create_decompress(cinfo);
-    decoding.progress.progress_monitor = limit_scans;
-    cinfo->progress = &decoding.progress;
+    use_scan_limit(cinfo, decoding.progress);
     decoding.source = use_memory_source(cinfo, decoding.data);
     jpeg_save_markers(cinfo, JPEG_COM, k_saved_length);
     for (int n = 0; n < 16; ++n) {
@@ -121,13 +106,9 @@ jpeg_info_desc_t const* row_of(jpeg_decompress_struct const& cinfo) {
 bool is_possible(decoding_t& decoding, image_desc_t const& desc) {
     jpeg_decompress_struct& cinfo = decoding.cinfo;
     auto const components = static_cast<std::uint64_t>(cinfo.num_components);
-    std::uint64_t const pixel_bits = desc.getPixelBits();
     std::uint64_t const coefficient_bits =
         jpeg_has_multiple_scans(&cinfo) ? components * sizeof(JCOEF) * 8 : 0;
-    std::uint64_t const claimed =
-        std::uint64_t{cinfo.image_width} * cinfo.image_height * pixel_bits / 8;
-    return fits_in_memory(cinfo.image_width, cinfo.image_height, pixel_bits + coefficient_bits) &&
-           (claimed <= k_harmless_claim || claimed / k_densest_ratio <= decoding.data.size());
+    return is_possible_picture(cinfo, desc.getPixelBits(), coefficient_bits, decoding.data.size());
 }
 
 void keep_markers(std::list<marker_t>& markers, jpeg_decompress_struct const& cinfo, bool whole) {
