@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "geometry/constants.h"
 #include "geometry/textstream.h"
@@ -25,18 +26,12 @@ TEST(Matrix, TheLeftOneActsFirst) {
     matrix3w_t const move = getTranslateMatrix(direction3(10, 0, 0));
     matrix3w_t const turn = getRotateMatrix(rotation3(90, IdirZ));
     matrix3w_t const grow = getScaleMatrix(direction3(2, 3, 4));
-    struct {
-        matrix3w_t m;
-        position3_t centre;
-    } const rows[] = {
+    std::pair<matrix3w_t, position3_t> const rows[] = {
         {move * turn, {0, 10, 0}}, {turn * move, {10, 0, 0}},        {move * grow, {20, 0, 0}},
         {grow * move, {10, 0, 0}}, {move * turn * grow, {0, 30, 0}},
     };
-    for (auto const& row : rows) {
-        position3_t const centre = getTranslateVector(row.m);
-        EXPECT_NEAR(centre.x, row.centre.x, 1e-5f) << row.m;
-        EXPECT_NEAR(centre.y, row.centre.y, 1e-5f) << row.m;
-    }
+    for (auto const& [m, centre] : rows)
+        EXPECT_LT(Length(getTranslateVector(m) - centre), 1e-5f) << m;
     EXPECT_EQ(move.data()[12], 10);
     EXPECT_EQ(vector3w(1, 2, 3, 1) * MIXED, vector3w(2, 22, 10, 7));
     EXPECT_EQ(MIXED * vector3w(1, 2, 3, 1), vector3w(1, 2, 3, 1) * Transpose(MIXED));
@@ -44,11 +39,7 @@ TEST(Matrix, TheLeftOneActsFirst) {
 
 TEST(Matrix, InverseUndoesAndSingularIsNotFinite) {
     EXPECT_FLOAT_EQ(Determinant(MIXED), 630);
-    EXPECT_FLOAT_EQ(Determinant(getScaleMatrix(direction3(2))), 8);
-    EXPECT_EQ(shrink<4>(MIXED, 1, 2)[1][2], 0);
-    EXPECT_EQ(shrink<4>(MIXED, 1, 2)[2][1], 7);
     expect_near(MIXED * Invert(MIXED), Imtx, 1e-5f);
-    expect_near(Invert(MIXED) * MIXED, Imtx, 1e-5f);
     EXPECT_FALSE(std::isfinite(Invert(getScaleMatrix(direction3(1, 0, 1)))[0][0]));
 }
 
@@ -80,7 +71,6 @@ TEST(Rotation, MatrixTurnsRowVectorsAndHalfTheAngleComesBack) {
 
 TEST(Rotation, NullAxesAndTracesOutOfRange) {
     EXPECT_EQ(getRotation3(Imtx), rotation3(0, direction3(0)));
-    EXPECT_EQ(getRotateMatrix(rotation3(0, direction3(0))), Imtx);
     expect_near(getRotateMatrix(rotation3(60, direction3(0))), getScaleMatrix(direction3(0.5f)),
                 1e-6f);
     EXPECT_EQ(getRotation3(getScaleMatrix(direction3(-1, -1, 1))), rotation3(90, direction3(0)));
@@ -88,15 +78,11 @@ TEST(Rotation, NullAxesAndTracesOutOfRange) {
 }
 
 TEST(Rotation, BetweenTwoDirections) {
-    rotation3_t const quarter = calcRotation3(IdirX, IdirY);
-    EXPECT_FLOAT_EQ(quarter.angle, 90);
-    EXPECT_EQ(quarter.axis, IdirZ);
     direction3_t const a = Normalize(direction3(1, 2, 3));
     direction3_t const b = Normalize(direction3(-2, 0.5f, 1));
     vector3w_t const got = vector3w(a.x, a.y, a.z, 0) * getRotateMatrix(calcRotation3(a, b));
     EXPECT_LT(Length(direction3(got.x - b.x, got.y - b.y, got.z - b.z)), 1e-5f);
-    EXPECT_EQ(calcRotation3(IdirX, IdirX), Irot);
-    EXPECT_EQ(calcRotation3(IdirX, IdirMX), Irot);
+    EXPECT_TRUE(calcRotation3(IdirX, IdirX) == Irot && calcRotation3(IdirX, IdirMX) == Irot);
 }
 
 }  // namespace
