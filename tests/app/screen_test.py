@@ -170,6 +170,11 @@ class UnderAWindowManager(ViewerTest):
             wait_for("the work area", lambda: viewer.look()[0] > 1200)
             viewer.key("f")
             wait_for("the old size", lambda: viewer.look()[:2] == (800, 300))
+            for key in "r", "R":
+                viewer.key(key)
+                wait_for("the window to be up again", lambda: "IsViewable" in subprocess.run(
+                    ("xwininfo", "-id", viewer.window), capture_output=True, text=True).stdout)
+                xdotool("windowfocus", "--sync", viewer.window)
             viewer.key("alt+F4")
             viewer.process.wait(20)
         self.assertEqual((viewer.output, viewer.errors), ("", ""))

@@ -162,9 +162,9 @@ class ViewerTest(unittest.TestCase):
                    pass_fds=(writing,))
         former = os.environ["DISPLAY"]
         self.addCleanup(os.environ.update, DISPLAY=former)
-        os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
-        os.close(reading)
         os.close(writing)
+        with open(reading) as number:
+            os.environ["DISPLAY"] = ":" + number.readline().strip()
 
     def path(self, name):
         return os.path.join(self.folder.name, name)

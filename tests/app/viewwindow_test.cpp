@@ -27,6 +27,7 @@ class ViewWindowTest : public ::testing::Test {
             write_file(m_folder.file(name), test_bmp(1200, 900));
         }
         write_file(m_folder.file("bad.bmp"), "BM");
+        write_file(m_folder.file(".test_viewer"), "-h+\n-maxsize 700x500\n-maxmargin 1x1\n");
     }
     ~ViewWindowTest() override {
         m_recorder.reset();
@@ -36,9 +37,9 @@ class ViewWindowTest : public ::testing::Test {
 
     /// Brings the window up without pictures, then drops these on it.
     void open(std::vector<std::string> const& names = {}) {
-        std::string words[] = {"/x/test_viewer.exe", "nothing.bmp"};
-        char* argv[] = {words[0].data(), words[1].data()};
-        int argc = 2;
+        std::string words[] = {"/x/test_viewer.exe", "-maxmargin", "2x2", "nothing.bmp"};
+        char* argv[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data()};
+        int argc = 4;
         capture_t const quiet;
         m_window = std::make_unique<ViewWindow>(&argc, argv);
         wenk::glfwyMGR4::getSingleton()->addWindow(m_window.get(), "test");
@@ -74,6 +75,8 @@ class ViewWindowTest : public ::testing::Test {
 
 TEST_F(ViewWindowTest, FitsTheFirstPictureAndFollowsTheWindowsHeight) {
     open({"a.bmp", "b.bmp"});
+    EXPECT_EQ(zanolib::g_option.maxsize.x, 700);  // from the user's default file
+    EXPECT_EQ(zanolib::g_option.maxmargin.x, 2);  // from the command line
     EXPECT_EQ(m_glfw.window().title, m_folder.file("a.bmp") + " (1/2) - message not loaded.");
     float const fit = 0.875f * 800.0f / 1200.0f;
     expect_view(0, fit, 0, 0);
