@@ -4,6 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "options/userdefault.h"
@@ -22,8 +28,29 @@ std::string const built_in =
     "-doubleclick_interval 300\n-frametype 1\n-framewidth 32\n-framecolor \xff,\xff,\xff,\xff\n"
     "-reproduce+\n-resetview+\n-menu+\n-single-\n";
 
-std::string with(std::string const& before, std::string const& after) {
-    return std::string(built_in).replace(built_in.find(before), before.size(), after);
+using words_t = std::vector<std::string>;
+
+/// The words of a line; '' stands for an empty one.
+words_t words_of(std::string const& line) {
+    words_t words;
+    std::istringstream in(line);
+    for (std::string word; in >> word;) {
+        words.push_back(word == "''" ? "" : word);
+    }
+    return words;
+}
+
+/// What is saved when these settings, written like "-menu-, -winsize 7x8", have changed.
+std::string with(std::string const& settings) {
+    std::string all = built_in;
+    for (std::size_t at = 0; at < settings.size();) {
+        std::size_t const end = std::min(settings.find(", -", at), settings.size());
+        std::string const setting = settings.substr(at, end - at);
+        std::size_t const line = all.find(setting.substr(0, setting.find_first_of(" +-", 1)));
+        all.replace(line, all.find('\n', line) - line, setting);
+        at = end + 2;
+    }
+    return all;
 }
 
 /// The user's home is a directory of its own.
@@ -39,9 +66,9 @@ struct Option : testing::Test {
         return read_file(path);
     }
 
-    /// Enters a command line behind the program's name and returns what is left of it. Behind the
-    /// last argument stands one that doesn't count, in place of a null.
-    static std::string enter(std::vector<std::string> words) {
+    /// Enters a command line behind the program's name and returns what is left of it there. Behind
+    /// the last argument stands one that doesn't count, in place of a null.
+    static words_t enter(words_t words) {
         words.insert(words.begin(), "prog");
         words.emplace_back("77");
         std::vector<char*> elements;
@@ -51,11 +78,7 @@ struct Option : testing::Test {
         int argc = static_cast<int>(elements.size()) - 1;
         char** argv = elements.data();
         zanolib::option_enter_argument(&argc, &argv);
-        std::string rest;
-        for (int i = 0; i < argc; ++i) {
-            rest += std::string(argv[i]) + " ";
-        }
-        return rest;
+        return {argv + 1, argv + argc};
     }
 
     temp_dir_t home;
@@ -63,40 +86,19 @@ struct Option : testing::Test {
 };
 
 TEST_F(Option, LeadingOptionsAreAppliedAndTakenOut) {
-    // clang-format off
-    static struct {
-        std::vector<std::string> words;
-        char const *rest, *before, *after;
-    } const rows[] = {
-        {{}, "prog ", "", ""}, {{""}, "prog  ", "", ""}, {{"+menu"}, "prog +menu ", "", ""},
-        {{"-verbos", "-menu-"}, "prog -verbos -menu- ", "", ""}, {{"-hx"}, "prog -hx ", "", ""},
-        {{"-menu-+"}, "prog -menu-+ ", "", ""}, {{"-VERBOSE"}, "prog ", "verbose-", "verbose+"},
-        {{"-MENU-", "-single+"}, "prog ", "menu+\n-single-", "menu-\n-single+"},
-        {{"-h", "-h-", "a"}, "prog a ", "", ""}, {{"a", "-menu-"}, "prog a -menu- ", "", ""},
-        {{"-winsize", "1024x768", "p.jpg"}, "prog p.jpg ", "800x600", "1024x768"},
-        {{"-winsize", "800,601"}, "prog ", "600", "601"}, {{"-winsize"}, "prog ", "", ""},
-        {{"-winsize", "-5x601"}, "prog ", "600", "601"}, {{"-winsize", "64"}, "prog ", "800", "64"},
-        {{"-winsize", "0x20x010"}, "prog ", "800x600", "32x8"},
-        {{"-winsize", "640x"}, "prog ", "800", "640"}, {{"-winsize", ""}, "prog ", "800", "0"},
-        {{"-winsize", "wide"}, "prog ", "800x600", "0x0"},
-        {{"-winsize", "4294967295x99999999999999999999"}, "prog ", "", ""},
-        {{"-winsize=640x480"}, "prog -winsize=640x480 ", "", ""},
-        {{"-resizetype", "-menu-", "a"}, "prog a ", "resizetype 1", "resizetype 0"},
-        {{"-frametype", "-0x9", "-FrameWidth", "0x10"}, "prog ", "1\n-framewidth 32",
-         "-9\n-framewidth 16"},
-        {{"-doubleclick_interval", "0"}, "prog ", "", ""},
-        {{"-doubleclick_interval", "4294967297"}, "prog ", "300", "1"},
-        {{"-image_ratio_of_window", "100"}, "prog ", "1063256064", "100"},
-        {{"-framecolor", "65,0x42:67 324"}, "prog ", "\xff,\xff,\xff,\xff", "A,B,C,D"},
-        {{"-framecolor", "65,66,"}, "prog ", "\xff,\xff,", "A,B,"},
-        {{"-framecolor"}, "prog ", "", ""},
-    };
-    // clang-format on
-    for (auto const& row : rows) {
+    std::ifstream in(COMMAND_LINES);
+    std::string line;
+    std::getline(in, line);
+    int rows = 0;
+    for (std::string rest, changes; std::getline(in, line, '|'); ++rows) {
+        std::getline(std::getline(in, rest, '|'), changes);
         g_option = {};
-        EXPECT_EQ(enter(row.words), row.rest);
-        EXPECT_EQ(saved(), with(row.before, row.after)) << testing::PrintToString(row.words);
+        EXPECT_EQ(enter(words_of(line)), words_of(rest)) << line;
+        EXPECT_EQ(saved(), with(changes)) << line;
     }
+    EXPECT_EQ(rows, 28);
+    enter({"-framecolor", "65,66,"});
+    EXPECT_EQ(g_option.framecolor, libgr::color3aub(65, 66, 255, 255));
     enter({"-image_ratio_of_window", "1067030938"});
     EXPECT_EQ(g_option.image_ratio_of_window, 1.2f);
     int argc = 0;
@@ -124,16 +126,14 @@ TEST_F(Option, HelpListsTheTableAndEndsTheProcess) {
     zanolib::option_list("./zanoview3");
     std::string const help = capture.out();
     EXPECT_EQ(std::count(help.begin(), help.end(), '\n'), 29);
-    for (char const* const piece :
-         {"usage: ./zanoview3 [option] file...\n\noption                 format  comment.\n"
-          "---------------------------------------\n"
-          "-h                     bool    print help and exit(if commend-line).\n",
-          "\n-wintype               enum    window type (0:window 1:maximize 2:fullscreen).\n",
-          "\n-image_ratio_of_window percent   image size factor of window.\n",
-          "\n-maxsize               XXXxYYY 1:value, maximum window size.\n",
-          "\n-framewidth            ulong   drawing photo-frame width (in pixel).\n"
-          "-framecolor            R,G,B   frame color.\n"}) {
-        EXPECT_NE(help.find(piece), std::string::npos) << piece << help;
+    EXPECT_TRUE(help.starts_with(
+        "usage: ./zanoview3 [option] file...\n\noption                 format  comment.\n"
+        "---------------------------------------\n"
+        "-h                     bool    print help and exit(if commend-line).\n"));
+    for (char const* const line :
+         {"\n-image_ratio_of_window percent   image size factor of window.\n",
+          "\n-maxsize               XXXxYYY 1:value, maximum window size.\n"}) {
+        EXPECT_NE(help.find(line), std::string::npos) << line << help;
     }
 }
 
@@ -152,17 +152,15 @@ TEST_F(Option, TheUserDefaultFileReadsBackButForTheColour) {
 }
 
 TEST_F(Option, TheUserDefaultFileStandsInHomeOrBesideTheProgram) {
-    static struct {
-        char const *home, *dir, *path;
-    } const rows[] = {{"/", "/usr/bin/", "/.prog"}, {"/no\\", "", "/no\\.prog"},
-                      {"/no", "", "/no/.prog"},     {nullptr, "/no/", "/no/.prog"},
-                      {nullptr, "", ".prog"},       {"", "/usr/bin/", ".prog"}};
+    std::tuple<char const*, char const*, char const*> const rows[] = {
+        {"/", "/usr/bin/", "/.prog"},   {"/no\\", "", "/no\\.prog"}, {"/no", "", "/no/.prog"},
+        {nullptr, "/no/", "/no/.prog"}, {nullptr, "", ".prog"},      {"", "/usr/bin/", ".prog"}};
     capture_t capture;
     g_option.verbose = true;
-    for (auto const& row : rows) {
-        row.home != nullptr ? ::setenv("HOME", row.home, 1) : ::unsetenv("HOME");
-        zanolib::option_load_user_default("prog", row.dir);
-        EXPECT_EQ(capture.out(), std::string("load user default: ") + row.path + "\n");
+    for (auto const& [home_dir, dir, file] : rows) {
+        home_dir != nullptr ? ::setenv("HOME", home_dir, 1) : ::unsetenv("HOME");
+        zanolib::option_load_user_default("prog", dir);
+        EXPECT_EQ(capture.out(), std::string("load user default: ") + file + "\n");
     }
     g_option.debug = true;
     ::setenv("HOME", "/no/such", 1);
@@ -174,27 +172,21 @@ TEST_F(Option, TheUserDefaultFileStandsInHomeOrBesideTheProgram) {
 
 TEST_F(Option, LinesThatAreNoOptionsAreIgnored) {
     std::string random(100000, '\0');
-    for (unsigned i = 0, state = 1; i < random.size(); ++i) {
-        state = state * 1664525 + 1013904223;
-        random[i] = static_cast<char>(state >> 24);
-    }
-    static struct {
-        std::string bytes;
-        char const *before, *after;
-    } const rows[] = {
-        {"", "", ""},
-        {"# comment\r\n\n-RESIZETYPE\t2 -menu-\n", "resizetype 1", "resizetype 2"},
-        {"-single\r\n", "single-", "single+"},
-        {" -menu-\nmenu-\n-menu- -single", "menu+", "menu-"},
-        {"-winsize\n-winsize", "", ""},
-        {"-winsize  640x480\n", "800x600", "0x600"},
-        {std::string("-winsize\0007x8\0\n", 14), "800x600", "7x8"},
-        {"-" + random + "\n-menu-", "menu+", "menu-"},
+    std::generate(random.begin(), random.end(), std::mt19937(1));
+    std::pair<std::string, char const*> const rows[] = {
+        {"", ""},
+        {"# comment\r\n\n-RESIZETYPE\t2 -menu-\n", "-resizetype 2"},
+        {"-single\r\n", "-single+"},
+        {" -menu-\nmenu-\n-menu- -single", "-menu-"},
+        {"-winsize\n-winsize", ""},
+        {"-winsize  640x480\n", "-winsize 0x600"},
+        {std::string("-winsize\0007x8\0\n", 14), "-winsize 7x8"},
+        {"-" + random + "\n-menu-", "-menu-"},
     };
-    for (auto const& row : rows) {
+    for (auto const& [bytes, changes] : rows) {
         g_option = {};
-        EXPECT_TRUE(zanolib::option_load(write_file(path, row.bytes).c_str()));
-        EXPECT_EQ(saved(), with(row.before, row.after)) << row.bytes.substr(0, 40);
+        EXPECT_TRUE(zanolib::option_load(write_file(path, bytes).c_str()));
+        EXPECT_EQ(saved(), with(changes)) << bytes.substr(0, 40);
     }
     EXPECT_FALSE(zanolib::option_load(write_file(path, std::string(1048577, '\n')).c_str()));
     EXPECT_TRUE(zanolib::option_load(home.path().c_str()));
