@@ -70,8 +70,8 @@ void read_rows(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
     jpeg_start_decompress(cinfo);
     // A file of several scans has been read whole by now, and every row comes out of what there is.
-    unsigned const fills_before_rows = decoding.source->fills;
-    decoding.fell_short = decoding.source->has_run_out();
+    decoding.fell_short = decoding.source->has_run_out() || decoding.error.ran_dry;
+    decoding.error.ran_dry = false;
     JSAMPARRAY const elsewhere = (*cinfo->mem->alloc_sarray)(
         reinterpret_cast<j_common_ptr>(cinfo), JPOOL_IMAGE,
         cinfo->output_width * static_cast<JDIMENSION>(cinfo->output_components), 1);
@@ -80,7 +80,7 @@ void read_rows(decoding_t& decoding) {
         JSAMPROW row = target < decoding.stored_rows ? decoding.bottom + decoding.row_size * target
                                                      : elsewhere[0];
         bool const delivered = jpeg_read_scanlines(cinfo, &row, 1) == 1;
-        if (!delivered || decoding.source->fills != fills_before_rows) {
+        if (!delivered || decoding.error.ran_dry) {
             decoding.fell_short = true;
             break;
         }

@@ -26,7 +26,7 @@ struct jpeg_info_desc_t {
 extern jpeg_info_desc_t const jpeg_info_desc_table[3];
 
 /// Decodes and encodes. An error in the data never ends the process. All messages go to std::cerr
-/// and begin with the data's name.
+/// and begin with the data's name, if it has one; libjpeg's own words follow them.
 class jpeginfo_t {
   public:
     unsigned long width = 0;      ///< pixels, from the last header read
@@ -48,7 +48,8 @@ class jpeginfo_t {
 
     /// Encodes `image`, whose description must be in the table, into new bytes of `data`, behind
     /// the markers; `quality` from 1 to 100, with `force_baseline` kept to 8-bit quantisation.
-    /// False, silently, for another description or an image that lacks bytes.
+    /// False, silently, for another description or an image that lacks bytes, and with a line where
+    /// libjpeg finds an error.
     bool compress(jpegdata_t& data, image2d_t const& image, int quality, bool force_baseline);
 
     /// Reads the header alone, for sizes and markers, cut ones included. False with a line when it

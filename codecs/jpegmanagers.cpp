@@ -20,6 +20,16 @@ jpeg_memory_source_t& source_of(j_decompress_ptr cinfo) {
     return *reinterpret_cast<jpeg_memory_source_t*>(cinfo->src);
 }
 
+/// libjpeg warns of a marker within the data at the very moment from which its entropy decoder
+/// makes up what is missing.
+void notice_message(j_common_ptr cinfo, int level) {
+    auto* const error = reinterpret_cast<my_error_mgr*>(cinfo->err);
+    if (level < 0 && error->base.msg_code == JWRN_HIT_MARKER) {
+        error->ran_dry = true;
+    }
+    error->emit_default(cinfo, level);
+}
+
 void src_init(j_decompress_ptr cinfo) {
     cinfo->src->next_input_byte = nullptr;
     cinfo->src->bytes_in_buffer = 0;
@@ -109,6 +119,9 @@ void my_error_exit(j_common_ptr cinfo) {
 jpeg_error_mgr* use_error_mgr(my_error_mgr& error, jpegdata_t const& data) {
     jpeg_std_error(&error.base);
     error.base.error_exit = my_error_exit;
+    error.emit_default = error.base.emit_message;
+    error.base.emit_message = notice_message;
+    error.ran_dry = false;
     error.data = &data;
     return &error.base;
 }

@@ -17,6 +17,8 @@ struct my_error_mgr {
     jpeg_error_mgr base;
     std::jmp_buf jump;
     jpegdata_t const* data;  ///< whose name the messages bear
+    bool ran_dry;            ///< the entropy decoder goes on without data since it was set
+    void (*emit_default)(j_common_ptr cinfo, int level);
 };
 
 /// The error manager's exit: writes the file's name and ": error detected." on std::cerr, then

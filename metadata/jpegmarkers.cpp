@@ -103,7 +103,7 @@ void sof0_marker_t::dump() const {
 
 bool dqt_marker_t::parse() {
     unsigned long const tables = size() / dqt_unit;
-    if (empty() || size() % dqt_unit != 0 || tables > table.size()) {
+    if (size() == 0 || size() % dqt_unit != 0 || tables > table.size()) {
         return broken();
     }
     n = static_cast<unsigned char>(tables);
