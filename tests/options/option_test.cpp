@@ -101,11 +101,6 @@ TEST_F(Option, LeadingOptionsAreAppliedAndTakenOut) {
     EXPECT_EQ(g_option.framecolor, libgr::color3aub(65, 66, 255, 255));
     enter({"-image_ratio_of_window", "1067030938"});
     EXPECT_EQ(g_option.image_ratio_of_window, 1.2f);
-    int argc = 0;
-    char* none[] = {nullptr};
-    char** argv = none;
-    zanolib::option_enter_argument(&argc, &argv);
-    EXPECT_EQ(argc, 0);
 }
 
 TEST_F(Option, DebugShowsTheFlagsFromThenOn) {
@@ -130,11 +125,8 @@ TEST_F(Option, HelpListsTheTableAndEndsTheProcess) {
         "usage: ./zanoview3 [option] file...\n\noption                 format  comment.\n"
         "---------------------------------------\n"
         "-h                     bool    print help and exit(if commend-line).\n"));
-    for (char const* const line :
-         {"\n-image_ratio_of_window percent   image size factor of window.\n",
-          "\n-maxsize               XXXxYYY 1:value, maximum window size.\n"}) {
-        EXPECT_NE(help.find(line), std::string::npos) << line << help;
-    }
+    std::string const line = "\n-maxsize               XXXxYYY 1:value, maximum window size.\n";
+    EXPECT_NE(help.find(line), std::string::npos) << help;
 }
 
 TEST_F(Option, TheUserDefaultFileReadsBackButForTheColour) {
@@ -162,12 +154,9 @@ TEST_F(Option, TheUserDefaultFileStandsInHomeOrBesideTheProgram) {
         zanolib::option_load_user_default("prog", dir);
         EXPECT_EQ(capture.out(), std::string("load user default: ") + file + "\n");
     }
-    g_option.debug = true;
     ::setenv("HOME", "/no/such", 1);
     zanolib::option_save_user_default("prog", "d/");
-    EXPECT_EQ(capture.out(), "prog: prog, dir: d/\nsave user default: /no/such/.prog\n");
-    EXPECT_EQ(capture.err(), "");
-    EXPECT_TRUE(zanolib::option_save("/no/such/.prog"));
+    EXPECT_EQ(capture.out() + capture.err(), "save user default: /no/such/.prog\n");
 }
 
 TEST_F(Option, LinesThatAreNoOptionsAreIgnored) {
