@@ -73,6 +73,13 @@ void write(writing_t& writing) {
     jpeg_finish_compress(cinfo);
 }
 
+/// Takes the place of the source's fill hook behind the header: the whole file has been delivered
+/// by then, and its coefficients are wanted all or not at all.
+boolean refuse_to_fill(j_decompress_ptr cinfo) {
+    ERREXIT(cinfo, JERR_INPUT_EOF);
+    return FALSE;
+}
+
 /// Reads, and writes within it: an error of either struct comes back to its own step.
 void read_and_write(reading_t& reading) {
     j_decompress_ptr const cinfo = &reading.cinfo;
@@ -82,16 +89,13 @@ void read_and_write(reading_t& reading) {
     jpeg_memory_source_t* const source = use_memory_source(cinfo, reading.data);
     jcopy_markers_setup(cinfo, reading.option);
     jpeg_read_header(cinfo, TRUE);
-    source->in_header = false;
+    source->base.fill_input_buffer = refuse_to_fill;
     if (!is_possible(reading)) {
         ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
     }
     reading.is_perfect = jtransform_request_workspace(cinfo, &reading.info);
     if (!reading.is_perfect || !run_jpeg_step(write, reading.writing)) {
         return;
-    }
-    if (source->has_run_out()) {
-        WARNMS(cinfo, JWRN_JPEG_EOF);  // a file cut between two scans makes no other warning
     }
     jpeg_finish_decompress(cinfo);
     reading.is_written = true;

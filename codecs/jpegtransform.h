@@ -17,8 +17,8 @@ namespace libgr {
 /// turn.
 ///
 /// False with a line on std::cerr for a count of 4 or more, which leaves `out` alone, and for bytes
-/// that aren't a good and whole JPEG: `out` is then empty after an error, and holds what could be
-/// turned where libjpeg merely warned.
+/// that aren't a good and whole JPEG: `out` is empty after an error, and holds what could be turned
+/// where libjpeg merely warned of damage.
 bool transform(unsigned long rightrotatecount, jpegdata_t& out, jpegdata_t const& in);
 
 }  // namespace libgr
