@@ -3,6 +3,8 @@
 #include "tests/support/gl/glrecorder.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <type_traits>
 #include <utility>
@@ -183,57 +185,25 @@ std::map<GLenum, std::string> with_names(const std::vector<GLenum>& values,
     return table;
 }
 
-// Values below 0x100 mean something else in each call and stay numbers.
-const std::map<GLenum, std::string> g_names = NAMED(
-    GL_ADD, GL_ADD_SIGNED, GL_ALPHA, GL_ALPHA12, GL_ALPHA16, GL_ALPHA4, GL_ALPHA8, GL_ALPHA_TEST,
-    GL_AMBIENT, GL_AMBIENT_AND_DIFFUSE, GL_BACK, GL_BGR, GL_BGRA, GL_BITMAP, GL_BLEND, GL_BLUE,
-    GL_BYTE, GL_CCW, GL_CLAMP, GL_CLAMP_TO_EDGE, GL_COLOR, GL_COLOR_INDEX, GL_COLOR_MATRIX,
-    GL_COLOR_MATRIX_STACK_DEPTH, GL_COMBINE, GL_COMBINE_ALPHA, GL_COMBINE_RGB, GL_COMPILE,
-    GL_COMPRESSED_ALPHA, GL_CONSTANT, GL_CULL_FACE, GL_DECAL, GL_DEPTH_COMPONENT,
-    GL_DEPTH_COMPONENT16, GL_DEPTH_COMPONENT24, GL_DEPTH_COMPONENT32, GL_DEPTH_TEST, GL_DIFFUSE,
-    GL_DOT3_RGB, GL_DOUBLE, GL_EXTENSIONS, GL_FASTEST, GL_FILL, GL_FLOAT, GL_FRAGMENT_PROGRAM_ARB,
-    GL_FRONT, GL_FRONT_AND_BACK, GL_FUNC_ADD, GL_GENERATE_MIPMAP_SGIS, GL_GREEN, GL_HALF_FLOAT,
-    GL_INT, GL_INTENSITY, GL_INTENSITY12, GL_INTENSITY16, GL_INTENSITY4, GL_INTENSITY8,
-    GL_INTERPOLATE, GL_INVALID_ENUM, GL_INVALID_OPERATION, GL_INVALID_VALUE, GL_LIGHT0, GL_LIGHTING,
-    GL_LINEAR, GL_LINEAR_ATTENUATION, GL_LINEAR_MIPMAP_LINEAR, GL_LINE_SMOOTH_HINT, GL_LUMINANCE,
-    GL_LUMINANCE12, GL_LUMINANCE16, GL_LUMINANCE16_ALPHA16, GL_LUMINANCE4, GL_LUMINANCE8,
-    GL_LUMINANCE8_ALPHA8, GL_LUMINANCE_ALPHA, GL_MAP_COLOR, GL_MATRIX_MODE,
-    GL_MAX_COLOR_MATRIX_STACK_DEPTH, GL_MAX_MODELVIEW_STACK_DEPTH, GL_MAX_PROJECTION_STACK_DEPTH,
-    GL_MAX_TEXTURE_SIZE, GL_MAX_TEXTURE_STACK_DEPTH, GL_MAX_VIEWPORT_DIMS, GL_MODELVIEW,
-    GL_MODELVIEW_MATRIX, GL_MODELVIEW_STACK_DEPTH, GL_MODULATE, GL_NEAREST, GL_NICEST, GL_NORMALIZE,
-    GL_NUM_EXTENSIONS, GL_OBJECT_LINEAR, GL_ONE_MINUS_SRC_ALPHA, GL_OPERAND0_ALPHA, GL_OPERAND0_RGB,
-    GL_OPERAND1_ALPHA, GL_OPERAND1_RGB, GL_PACK_ALIGNMENT, GL_PACK_IMAGE_HEIGHT, GL_PACK_ROW_LENGTH,
-    GL_PACK_SKIP_IMAGES, GL_PACK_SKIP_PIXELS, GL_PACK_SKIP_ROWS, GL_PACK_SWAP_BYTES,
-    GL_PIXEL_MAP_I_TO_B, GL_PIXEL_MAP_I_TO_G, GL_PIXEL_MAP_I_TO_R, GL_POINT_SMOOTH_HINT,
-    GL_POLYGON_SMOOTH_HINT, GL_POSITION, GL_PREVIOUS, GL_PRIMARY_COLOR, GL_PROGRAM_FORMAT_ASCII_ARB,
-    GL_PROJECTION, GL_PROJECTION_MATRIX, GL_PROJECTION_STACK_DEPTH, GL_R8, GL_READ_ONLY, GL_RED,
-    GL_REPEAT, GL_REPLACE, GL_RESCALE_NORMAL_EXT, GL_RGB, GL_RGB10_A2, GL_RGB12, GL_RGB16,
-    GL_RGB16F, GL_RGB32F, GL_RGB4, GL_RGB5, GL_RGB5_A1, GL_RGB8, GL_RGBA, GL_RGBA12, GL_RGBA16,
-    GL_RGBA16F, GL_RGBA32F, GL_RGBA4, GL_RGBA8, GL_RGB_SCALE, GL_SHININESS, GL_SHORT,
-    GL_SIGNED_NORMALIZED, GL_SMOOTH, GL_SOURCE0_ALPHA, GL_SOURCE0_RGB, GL_SOURCE1_ALPHA,
-    GL_SOURCE1_RGB, GL_SPECULAR, GL_SRC_ALPHA, GL_SRC_COLOR, GL_STENCIL_TEST, GL_SUBTRACT,
-    GL_TEXTURE, GL_TEXTURE0, GL_TEXTURE1, GL_TEXTURE_1D, GL_TEXTURE_2D, GL_TEXTURE_3D,
-    GL_TEXTURE_BORDER_COLOR, GL_TEXTURE_COORD_ARRAY, GL_TEXTURE_CUBE_MAP,
-    GL_TEXTURE_CUBE_MAP_NEGATIVE_X, GL_TEXTURE_CUBE_MAP_NEGATIVE_Y, GL_TEXTURE_CUBE_MAP_NEGATIVE_Z,
-    GL_TEXTURE_CUBE_MAP_POSITIVE_X, GL_TEXTURE_CUBE_MAP_POSITIVE_Y, GL_TEXTURE_CUBE_MAP_POSITIVE_Z,
-    GL_TEXTURE_ENV, GL_TEXTURE_ENV_COLOR, GL_TEXTURE_ENV_MODE, GL_TEXTURE_GEN_MODE,
-    GL_TEXTURE_GEN_Q, GL_TEXTURE_GEN_R, GL_TEXTURE_GEN_S, GL_TEXTURE_GEN_T, GL_TEXTURE_HEIGHT,
-    GL_TEXTURE_MAG_FILTER, GL_TEXTURE_MATRIX, GL_TEXTURE_MAX_ANISOTROPY_EXT, GL_TEXTURE_MIN_FILTER,
-    GL_TEXTURE_RECTANGLE, GL_TEXTURE_RED_SIZE, GL_TEXTURE_RED_TYPE, GL_TEXTURE_STACK_DEPTH,
-    GL_TEXTURE_WIDTH, GL_TEXTURE_WRAP_R, GL_TEXTURE_WRAP_S, GL_TEXTURE_WRAP_T, GL_UNPACK_ALIGNMENT,
-    GL_UNPACK_IMAGE_HEIGHT, GL_UNPACK_ROW_LENGTH, GL_UNPACK_SKIP_IMAGES, GL_UNPACK_SKIP_PIXELS,
-    GL_UNPACK_SKIP_ROWS, GL_UNPACK_SWAP_BYTES, GL_UNSIGNED_BYTE, GL_UNSIGNED_BYTE_2_3_3_REV,
-    GL_UNSIGNED_INT, GL_UNSIGNED_INT_2_10_10_10_REV, GL_UNSIGNED_NORMALIZED, GL_UNSIGNED_SHORT,
-    GL_UNSIGNED_SHORT_1_5_5_5_REV, GL_UNSIGNED_SHORT_5_6_5_REV, GL_VERSION, GL_VERTEX_ARRAY,
-    GL_VERTEX_PROGRAM_ARB, GL_VIEWPORT, GL_S, GL_T, GL_R);
+/// The names by value, the first that the header of the enumerants gives, but for these.
+std::map<GLenum, std::string> read_names() {
+    auto names =
+        NAMED(GL_GENERATE_MIPMAP_SGIS, GL_RESCALE_NORMAL_EXT, GL_TEXTURE_MAX_ANISOTROPY_EXT);
+    std::ifstream header(GL_ENUMS);
+    for (std::string word, name, value; header >> word;) {
+        if (word == "#define" && header >> name >> value && value.starts_with("0x")) {
+            names.emplace(static_cast<GLenum>(std::stoull(value, nullptr, 16)), name);
+        }
+    }
+    for (const GLenum number : {GL_EMISSION, GL_REFLECTION_MAP, GL_PROGRAM_ERROR_POSITION_ARB,
+                                GL_PROGRAM_ERROR_STRING_ARB}) {
+        names.erase(number);  // numbers in the transcripts on file
+    }
+    return names;
+}
 constexpr const char* g_primitives[] = {
     "GL_POINTS",         "GL_LINES",        "GL_LINE_LOOP", "GL_LINE_STRIP", "GL_TRIANGLES",
     "GL_TRIANGLE_STRIP", "GL_TRIANGLE_FAN", "GL_QUADS",     "GL_QUAD_STRIP", "GL_POLYGON"};
-
-std::string name_of(GLenum value) {
-    const auto found = g_names.find(value);
-    return found != g_names.end() ? found->second : std::to_string(value);
-}
 
 std::string mask_name(GLbitfield mask) {
     static const auto bits = NAMED(GL_COLOR_BUFFER_BIT, GL_DEPTH_BUFFER_BIT, GL_STENCIL_BUFFER_BIT);
@@ -248,6 +218,12 @@ std::string mask_name(GLbitfield mask) {
 }
 
 }  // namespace
+
+std::string gl_enum_name(GLenum value) {
+    static const auto names = read_names();
+    const auto found = names.find(value);
+    return value >= 0x100 && found != names.end() ? found->second : std::to_string(value);
+}
 
 gl_recorder_t::gl_recorder_t() {
     integers = {{GL_MATRIX_MODE, {GL_MODELVIEW}},
@@ -282,13 +258,13 @@ void gl_recorder_t::put(char kind, GLuint value) {
     } else if (kind == 'b' && value < 2) {
         m_line += value == 0 ? "GL_ZERO" : "GL_ONE";
     } else {
-        m_line += kind == 'c' ? mask_name(value) : name_of(value);
+        m_line += kind == 'c' ? mask_name(value) : gl_enum_name(value);
     }
 }
 
 void gl_recorder_t::put(char kind, GLint value) {
     m_count = value;
-    m_line += kind == 'e' ? name_of(static_cast<GLenum>(value)) : std::to_string(value);
+    m_line += kind == 'e' ? gl_enum_name(static_cast<GLenum>(value)) : std::to_string(value);
 }
 
 void gl_recorder_t::put(char, double value) {
@@ -315,4 +291,13 @@ void gl_recorder_t::put(char, const void* pointer) {
             m_line += std::to_string(address - found->begin);
         }
     }
+}
+
+bool same_as_file(const std::string& text, const std::string& path) {
+    std::ostringstream expected;
+    expected << std::ifstream(path, std::ios::binary).rdbuf();
+    if (text != expected.str()) {
+        std::ofstream(std::filesystem::path(path).filename().string() + ".new") << text;
+    }
+    return text == expected.str();
 }
