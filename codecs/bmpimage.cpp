@@ -32,8 +32,8 @@ constexpr depth_row_t k_depths[] = {
 };
 
 /// Bytes of one row. The bits are cut to whole bytes before the padding, so that the rows of a
-/// 1- or 4-bit picture that end within a byte may come out shorter than the file's; pictures
-/// written by this program are made to be read this way.
+/// 1- or 4-bit picture that end within a byte may come out shorter than the file's: such pictures
+/// come back with too few bytes.
 std::uint32_t row_bytes(libutils::tagBITMAPINFOHEADER const& header) {
     std::uint32_t const bytes = (std::uint32_t{header.biBitCount} * header.biWidth) >> 3;
     return (bytes + 3) & ~std::uint32_t{3};

@@ -4,6 +4,8 @@
 
 #include <unistd.h>
 
+#include <limits>
+
 #include "utils/bits.h"
 
 namespace libgr {
@@ -18,7 +20,7 @@ std::uint64_t physical_memory() {
     long const page_size = sysconf(_SC_PAGESIZE);
     return pages > 0 && page_size > 0
                ? static_cast<std::uint64_t>(pages) * static_cast<std::uint64_t>(page_size)
-               : 0;
+               : std::numeric_limits<std::uint64_t>::max();
 }
 
 }  // namespace

@@ -63,8 +63,7 @@ void grReportUnsupportedImage(image_desc_t desc) {
     std::cerr << "Not supported image format!" << std::endl;
     std::cerr << "imgformat: " << desc.format << std::endl;
     std::cerr << "imgtype: " << desc.type << std::endl;
-    // Readers of the error stream see hexadecimal numbers from here on; that is how it has always
-    // been.
+    // Readers of the error stream see hexadecimal numbers from here on: the stream stays so.
     std::cerr << std::hex << "imgbits: " << desc.bits << std::endl;
 }
 

@@ -22,8 +22,7 @@ constexpr gl_pixelformat_row_t s_image_format_to_glformat_list[] = {
 };
 
 // Signed RGBA of packed kinds, depth as a pixel type, unsized formats for the BGR families and the
-// other cells that look wrong are what pictures have always gone up as; a change here is seen on
-// the screen.
+// other cells that look wrong are meant so: a change here is seen on the screen.
 constexpr gl_typebits_row_t s_GRAYSCALE_typebits_to_glintfmttype_list[] = {
     {IMAGE_TYPE_SINT, IMAGE_BITS_4, GL_LUMINANCE4, GL_BYTE},
     {IMAGE_TYPE_SINT, IMAGE_BITS_8, GL_LUMINANCE8, GL_BYTE},

@@ -21,7 +21,7 @@ void grDspListMgr::Release() {
 }
 
 unsigned int grDspListMgr::listname() const {
-    // The number of an error stands for no name; users have come to know it.
+    // The number of an error stands for no name; it is part of the interface.
     return m_generated ? m_listname : static_cast<unsigned int>(GL_INVALID_VALUE);
 }
 

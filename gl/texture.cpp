@@ -93,7 +93,8 @@ bool grTextureObject::isResident() const {
     if (mgr == nullptr || glAreTexturesResidentEXT == nullptr) {
         return false;
     }
-    GLboolean resident = GL_FALSE;
+    // The GL writes its answers only where one of them is false.
+    GLboolean resident = GL_TRUE;
     glAreTexturesResidentEXT(1, &mgr->name, &resident);
     return resident == GL_TRUE;
 }
@@ -187,7 +188,17 @@ bool describe_level(const query_t& query, image2d_t& img, GLint& redtype) {
 
 }  // namespace
 
+/// Whether a level of the target is one picture; of others the GL would write every slice.
+static bool is_flat(unsigned int target) {
+    return target == GL_TEXTURE_1D || target == GL_TEXTURE_2D || target == GL_TEXTURE_RECTANGLE ||
+           (target >= GL_TEXTURE_CUBE_MAP_POSITIVE_X && target <= GL_TEXTURE_CUBE_MAP_NEGATIVE_Z);
+}
+
 bool grTextureObject::GetTexImage(unsigned int target, int level, image2d_t& img) const {
+    if (!is_flat(target)) {
+        img.clear();
+        return false;
+    }
     const auto query = [target, level](GLenum pname, GLint* value) {
         glGetTexLevelParameteriv(target, level, pname, value);
     };
@@ -252,7 +263,7 @@ void grTexParameter(const texparameter2d_t* parameter) {
                             {GL_TEXTURE_MAG_FILTER, parameter->magfilter},
                             {GL_TEXTURE_WRAP_S, parameter->wrap_s},
                             {GL_TEXTURE_WRAP_T, parameter->wrap_t}});
-        // Unlike the forms below, this one has always set it whether or not the extension is there.
+        // Unlike the forms below, this one sets it whether or not the extension is there.
         set_anisotropy(GL_TEXTURE_2D, parameter->anisotropy);
     }
 }

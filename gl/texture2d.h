@@ -11,9 +11,10 @@ namespace libgr {
 
 /// The images of a GL_TEXTURE_2D, one record a level, row 0 at the bottom.
 ///
-/// The pixels are never copied: a record's window goes to OpenGL as unpack parameters, which stay
-/// as the last level set them. A record without bytes is passed over in silence; one that OpenGL
-/// has no terms for, or whose bytes end before what OpenGL would read, is reported and left out.
+/// The pixels are not copied, but for GLU, which may look past their end: a record's window goes to
+/// OpenGL as unpack parameters, which stay as the last level set them. A record without bytes is
+/// passed over in silence; one that OpenGL has no terms for, or whose bytes end before what OpenGL
+/// would read, is reported and left out.
 class grTexture2D : public grTexturableLevels<image2d_t, texparameter2d_t> {
   public:
     /// Makes `image` the picture of mipmap level `level` and drops the levels above it.

@@ -52,13 +52,22 @@ class grTexturableLevels : public grTexturableImageGL {
     }
 
   protected:
+    /// No texture has as many levels; images for them are left aside.
+    static constexpr unsigned long s_most_records = 6 * 32;
+
     /// Makes the vector exactly `first + images.size()` long and puts the images at its end.
     void replace_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
+        if (first >= s_most_records) {
+            return;
+        }
         m_images.resize(first + images.size());
         assign_at(first, images, size);
     }
     /// Makes the vector at least `first + images.size()` long and puts the images at `first`.
     void overwrite_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
+        if (first >= s_most_records) {
+            return;
+        }
         if (m_images.size() < first + images.size()) {
             m_images.resize(first + images.size());
         }
