@@ -195,9 +195,9 @@ std::map<GLenum, std::string> read_names() {
             names.emplace(static_cast<GLenum>(std::stoull(value, nullptr, 16)), name);
         }
     }
-    for (const GLenum number : {GL_EMISSION, GL_REFLECTION_MAP, GL_PROGRAM_ERROR_POSITION_ARB,
-                                GL_PROGRAM_ERROR_STRING_ARB}) {
-        names.erase(number);  // numbers in the transcripts on file
+    for (const int number : {GL_EMISSION, GL_REFLECTION_MAP, GL_PROGRAM_ERROR_POSITION_ARB,
+                             GL_PROGRAM_ERROR_STRING_ARB}) {
+        names.erase(static_cast<GLenum>(number));  // numbers in the transcripts on file
     }
     return names;
 }
