@@ -20,7 +20,44 @@ char const* const memory_error = "can't alloc memory.\n";
 
 namespace {
 
-constexpr unsigned long large_block = 4UL << 20;  // bytes
+/// The anonymous block that was given back last, kept since the next picture of a list needs one
+/// like it: fresh pages cost more than the decoder's writing to them. The system may take the pages
+/// back whenever it is short of memory.
+class spare_block_t {
+  public:
+    /// The spare block made `size` bytes long and 0 throughout, or null where there is none.
+    void* take(unsigned long size) {
+        if (m_begin == nullptr || size < smallest) {
+            return nullptr;
+        }
+        void* const block = ::mremap(m_begin, m_size, size, MREMAP_MAYMOVE);
+        if (block == MAP_FAILED) {
+            return nullptr;
+        }
+        std::memset(block, 0, min2(m_size, size));
+        m_begin = nullptr;
+        return block;
+    }
+
+    bool keep(void* block, unsigned long size) {
+        if (m_begin != nullptr || size < smallest || size > largest) {
+            return false;
+        }
+        ::madvise(block, size, MADV_FREE);
+        m_begin = block;
+        m_size = size;
+        return true;
+    }
+
+  private:
+    static constexpr unsigned long smallest = 4UL << 20;  // bytes
+    static constexpr unsigned long largest = 512UL << 20;
+
+    void* m_begin = nullptr;
+    unsigned long m_size = 0;
+};
+
+spare_block_t s_spare;
 
 unsigned char* new_bytes(unsigned long bytes) {
     return bytes <= PTRDIFF_MAX ? new (std::nothrow) unsigned char[bytes] : nullptr;
@@ -114,12 +151,10 @@ void* alloc_mmap_unix::allocate(unsigned long& bytes, char const* path, e_prot_t
         flags = MAP_ANON | MAP_PRIVATE;
     }
     size = bytes;
-    void* const storage = ::mmap(nullptr, size, prot, flags, fd, static_cast<off_t>(offset));
-    if (path == nullptr && size >= large_block && !failed(storage)) {
-        // A picture is filled from end to end: large pages spare most of its page faults.
-        ::madvise(storage, size, MADV_HUGEPAGE);
+    if (void* const spare = fd == -1 ? s_spare.take(size) : nullptr) {
+        return spare;
     }
-    return storage;
+    return ::mmap(nullptr, size, prot, flags, fd, static_cast<off_t>(offset));
 }
 
 void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long long offset) {
@@ -151,7 +186,8 @@ void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long 
 }
 
 void alloc_mmap_unix::deallocate(void* p) {
-    if (!failed(p)) {
+    bool const is_kept = (flags & MAP_ANON) != 0 && !failed(p) && s_spare.keep(p, size);
+    if (!is_kept && !failed(p)) {
         ::munmap(p, size);
     }
     if (fd != -1) {

@@ -44,7 +44,8 @@ struct alloc_new {
 };
 
 /// Storage by mmap: a file's own pages, or anonymous pages, which read as 0 and cost nothing until
-/// they are touched. A failed mmap is handed on as the system's failed-map pointer, not as null; a
+/// they are touched. One large anonymous block that was given back is kept for the next to come.
+/// A failed mmap is handed on as the system's failed-map pointer, not as null; a
 /// mapping of 0 bytes always is one.
 struct alloc_mmap_unix {
     int fd = -1;             ///< the open file, -1 for an anonymous mapping

@@ -120,6 +120,25 @@ TEST(mapped_array, windows_of_any_type_stay_inside_a_short_file) {
     EXPECT_TRUE(quads.resize(3, 0) && quads[0][1] == '3' && quads[0][2] == 0) << "2 bytes, not 8";
 }
 
+TEST(mapped_array, a_large_block_is_used_again_and_reads_as_0) {
+    constexpr unsigned long mebi = 1UL << 20;
+    mapped_t first;
+    ASSERT_TRUE(first.resize(8 * mebi, 0));
+    unsigned char* const begin = first.begin();
+    std::fill(begin, first.end(), 0xff);
+    first.clear();
+    mapped_t next;
+    mapped_t beside;
+    ASSERT_TRUE(next.resize(6 * mebi, 0) && beside.resize(6 * mebi, 0));
+    EXPECT_TRUE(next.begin() == begin && beside.begin() != begin);
+    std::fill(next.begin(), next.end(), 0xff);
+    next.clear();
+    ASSERT_TRUE(next.resize(9 * mebi, 0));
+    for (mapped_t const* array : {&next, &beside}) {
+        EXPECT_EQ(std::count(array->begin(), array->end(), 0), array->end() - array->begin());
+    }
+}
+
 TEST(shared_array, base_resize_changes_the_block_for_all_handles) {
     temp_dir_t const dir;
     std::string const path = write_file(dir.file("ten"), "0123456789");
