@@ -2,6 +2,7 @@
 // Normals from heights, and normals for directions.
 #include "image/normalmap.h"
 
+#include <array>
 #include <cmath>
 #include <iostream>
 
@@ -46,10 +47,20 @@ direction3_t normal_of(unsigned char here, unsigned char right, unsigned char ab
     return normal;
 }
 
-/// What a texel of a face looks at; `s` maps an index of 0 to 255, or its negative, to a
-/// coordinate.
+constexpr int last_index = static_cast<int>(cube_map_side) - 1;
+
+/// The coordinates of the indices -255 to 255.
+constexpr auto coordinates = [] {
+    std::array<float, 2 * last_index + 1> all{};
+    for (int n = -last_index; n <= last_index; ++n) {
+        all[static_cast<std::size_t>(n + last_index)] = static_cast<float>(n / 127.0 - 1.0);
+    }
+    return all;
+}();
+
+/// What the texel of a face at column `i` and row `j` looks at.
 direction3_t face_direction(int face, int i, int j) {
-    auto const s = [](int n) { return static_cast<float>(n / 127.0 - 1.0); };
+    auto const s = [](int n) { return coordinates[static_cast<std::size_t>(n + last_index)]; };
     switch (face) {
         case 0:
             return direction3(1.0f, s(-j), s(-i));
