@@ -80,7 +80,7 @@ image_t make_image(std::string const& level, gl_recorder_t& gl, std::string cons
     unsigned long const row = row_stride(side[0], image.desc.getPixelBits(), &s_store);
     unsigned long const bytes = row * std::max(side[1], 1U) * std::max(side[2], 1U);
     image.resize(level.back() == 's' ? bytes - 1 : level.back() == 'r' ? 4 * bytes + 64 : bytes, 0);
-    gl.name_region(image.begin(), image.size(), std::string("L").append(n));
+    gl.regions.push_back({image.begin(), image.size(), std::string("L").append(n)});
     image.palette.resize(level.starts_with("INDEX") ? 2 : 0);
     return image;
 }

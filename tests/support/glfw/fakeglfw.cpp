@@ -4,14 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <iostream>
 #include <sstream>
+#include <stdexcept>
 #include <utility>
 
 namespace {
-
-fake_glfw_t* s_fake = nullptr;
 
 GLFWwindow& live(GLFWwindow* window) {
     EXPECT_FALSE(window->destroyed) << window->name << " is used after its end";
@@ -24,18 +21,10 @@ void record(char const* function, T const&... arguments) {
     [[maybe_unused]] char const* separator = "";
     line << function << "(";
     ((line << separator << arguments, separator = ", "), ...);
-    s_fake->calls.push_back(line.str() + ")");
+    fake_glfw_t::current->calls.push_back(line.str() + ")");
 }
 
 }  // namespace
-
-fake_glfw_t::fake_glfw_t() {
-    s_fake = this;
-}
-
-fake_glfw_t::~fake_glfw_t() {
-    s_fake = nullptr;
-}
 
 std::string fake_glfw_t::take_calls(std::string const& prefix) {
     std::string text;
@@ -69,29 +58,16 @@ void fake_glfw_t::fire_drop(std::vector<char const*> paths) {
     fire(&GLFWwindow::drop, static_cast<int>(paths.size()), paths.data());
 }
 
-int glfwInit() {
-    record("glfwInit");
-    return s_fake->can_start ? GLFW_TRUE : GLFW_FALSE;
-}
-
-void glfwTerminate() {
-    record("glfwTerminate");
-    for (auto const& window : s_fake->windows) {
-        window->destroyed = true;
-    }
-}
-
 GLFWwindow* glfwCreateWindow(int width, int height, char const* title, GLFWmonitor* monitor,
                              GLFWwindow* share) {
     record("glfwCreateWindow", width, height, title, monitor == nullptr ? "null" : "monitor",
            share == nullptr ? "null" : share->name.c_str());
-    if (!s_fake->can_create) {
+    if (!fake_glfw_t::current->can_create) {
         return nullptr;
     }
-    auto& windows = s_fake->windows;
-    GLFWwindow& window = *windows.emplace_back(std::make_unique<GLFWwindow>());
-    window.name.push_back('w');
-    window.name += std::to_string(windows.size());
+    auto& windows = fake_glfw_t::current->windows;
+    GLFWwindow& window = windows.emplace_back();
+    window.name.append("w").append(std::to_string(windows.size()));
     window.title = title;
     window.width = width;
     window.height = height;
@@ -103,51 +79,52 @@ void glfwDestroyWindow(GLFWwindow* window) {
     window->destroyed = true;
 }
 
-void glfwMakeContextCurrent(GLFWwindow* window) {
-    record("glfwMakeContextCurrent", window == nullptr ? "null" : live(window).name.c_str());
-}
-
-void glfwSwapBuffers(GLFWwindow* window) {
-    record("glfwSwapBuffers", live(window).name);
-}
-
 void glfwWaitEvents() {
     record("glfwWaitEvents");
-    for (auto const& arrive : std::exchange(s_fake->sizes_under_way, {})) {
-        arrive();
-    }
-    if (std::exchange(s_fake->empty_event, false)) {
+    fake_glfw_t& glfw = *fake_glfw_t::current;
+    if (std::exchange(glfw.empty_event, false)) {
         return;
     }
-    if (!s_fake->script.empty()) {
-        auto const step = std::move(s_fake->script.front());
-        s_fake->script.pop_front();
-        step();
-        return;
+    if (!glfw.script.empty()) {
+        auto const step = std::move(glfw.script.front());
+        glfw.script.pop_front();
+        return step();
     }
-    for (auto const& window : s_fake->windows) {
-        window->should_close = true;
-    }
-    if (++s_fake->waits_past_script > 100) {
-        std::cerr << "the program goes on waiting behind its last event" << std::endl;
-        std::abort();
+    for (GLFWwindow& window : glfw.windows) {
+        if (std::exchange(window.should_close, true) && !window.destroyed) {
+            throw std::runtime_error("the program goes on waiting behind its last event");
+        }
     }
 }
 
 void glfwPostEmptyEvent() {
     record("glfwPostEmptyEvent");
-    s_fake->empty_event = true;
+    fake_glfw_t::current->empty_event = true;
 }
 
 int glfwWindowShouldClose(GLFWwindow* window) {
     return live(window).should_close ? GLFW_TRUE : GLFW_FALSE;
 }
 
+// Functions that are recorded and do no more, that bind an event, and that ask for two numbers.
+#define RECORD(function)                      \
+    void function(GLFWwindow* window) {       \
+        record(#function, live(window).name); \
+    }
 #define BIND(function, type, event)                    \
     type function(GLFWwindow* window, type callback) { \
         record(#function, live(window).name);          \
         return std::exchange(window->event, callback); \
     }
+#define ASK(function, type, first, second)                      \
+    void function(GLFWwindow* window, type* one, type* other) { \
+        *one = live(window).first;                              \
+        *other = window->second;                                \
+    }
+RECORD(glfwMakeContextCurrent)
+RECORD(glfwSwapBuffers)
+RECORD(glfwIconifyWindow)
+RECORD(glfwRestoreWindow)
 BIND(glfwSetWindowRefreshCallback, GLFWwindowrefreshfun, refresh)
 BIND(glfwSetWindowSizeCallback, GLFWwindowsizefun, size)
 BIND(glfwSetKeyCallback, GLFWkeyfun, key)
@@ -155,36 +132,23 @@ BIND(glfwSetMouseButtonCallback, GLFWmousebuttonfun, button)
 BIND(glfwSetScrollCallback, GLFWscrollfun, scroll)
 BIND(glfwSetCursorPosCallback, GLFWcursorposfun, cursor)
 BIND(glfwSetDropCallback, GLFWdropfun, drop)
-#undef BIND
+ASK(glfwGetWindowSize, int, width, height)
+ASK(glfwGetFramebufferSize, int, width * window->pixel_ratio, height * window->pixel_ratio)
+ASK(glfwGetWindowPos, int, x, y)
+ASK(glfwGetCursorPos, double, cursor_x, cursor_y)
 
 void glfwSetWindowTitle(GLFWwindow* window, char const* title) {
     record("glfwSetWindowTitle", live(window).name, title);
     window->title = title;
 }
 
-void glfwGetWindowSize(GLFWwindow* window, int* width, int* height) {
-    *width = live(window).width;
-    *height = window->height;
-}
-
 void glfwSetWindowSize(GLFWwindow* window, int width, int height) {
     record("glfwSetWindowSize", live(window).name, width, height);
-    if (window->width == width && window->height == height) {
-        return;
-    }
-    auto const arrive = [window, width, height] {
+    if (window->width != width || window->height != height) {
         window->width = width;
         window->height = height;
-        if (window->size != nullptr && !window->destroyed) {
-            window->size(window, width, height);
-        }
-    };
-    s_fake->sizes_at_once ? arrive() : s_fake->sizes_under_way.push_back(arrive);
-}
-
-void glfwGetWindowPos(GLFWwindow* window, int* x, int* y) {
-    *x = live(window).x;
-    *y = window->y;
+        window->size(window, width, height);
+    }
 }
 
 void glfwSetWindowPos(GLFWwindow* window, int x, int y) {
@@ -193,38 +157,17 @@ void glfwSetWindowPos(GLFWwindow* window, int x, int y) {
     window->y = y;
 }
 
-void glfwGetFramebufferSize(GLFWwindow* window, int* width, int* height) {
-    *width = live(window).width * window->pixel_ratio;
-    *height = window->height * window->pixel_ratio;
-}
-
-void glfwIconifyWindow(GLFWwindow* window) {
-    record("glfwIconifyWindow", live(window).name);
-}
-
 int glfwGetWindowAttrib(GLFWwindow*, int) {
     return GLFW_TRUE;  // iconified, as it was told to be
 }
 
-void glfwRestoreWindow(GLFWwindow* window) {
-    record("glfwRestoreWindow", live(window).name);
-}
-
 GLFWmonitor* glfwGetPrimaryMonitor() {
-    static char monitor;
-    return s_fake->has_monitor ? reinterpret_cast<GLFWmonitor*>(&monitor) : nullptr;
+    return reinterpret_cast<GLFWmonitor*>(fake_glfw_t::current);
 }
 
-void glfwGetMonitorWorkarea(GLFWmonitor*, int* x, int* y, int* width, int* height) {
-    *x = s_fake->area_x;
-    *y = s_fake->area_y;
-    *width = s_fake->area_width;
-    *height = s_fake->area_height;
-}
-
-void glfwGetCursorPos(GLFWwindow* window, double* x, double* y) {
-    *x = live(window).cursor_x;
-    *y = window->cursor_y;
+void glfwGetMonitorWorkarea(GLFWmonitor*, int*, int*, int* width, int* height) {
+    *width = 1920;
+    *height = 1056;
 }
 
 int glfwGetKey(GLFWwindow* window, int key) {

@@ -7,7 +7,6 @@
 
 #include <deque>
 #include <functional>
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -31,33 +30,28 @@ struct GLFWwindow {
     GLFWdropfun drop = nullptr;
 };
 
-/// The library's whole state. A test makes one first; GLFW's functions act on it until its block
-/// ends. glfwWaitEvents never blocks: it delivers the sizes under way, then returns for an empty
-/// event that was posted, or runs the next step of the script. When the script has run out it sets
-/// the close flag of all windows; a program that waits on and on after that is aborted.
+/// The library's whole state behind glfwInit, with a work area of 1920 by 1056. A test makes one
+/// first; GLFW's functions act on it until its block ends. A size that the program sets arrives,
+/// with its event, within the call. glfwWaitEvents never blocks: it returns for an empty event that
+/// was posted, or runs the next step of the script. When the script has run out it sets the close
+/// flag of all windows; a program that waits with open windows after that gets an exception.
 struct fake_glfw_t {
-    fake_glfw_t();
-    fake_glfw_t(fake_glfw_t const&) = delete;
-    fake_glfw_t& operator=(fake_glfw_t const&) = delete;
-    ~fake_glfw_t();
+    fake_glfw_t() { current = this; }
+    fake_glfw_t& operator=(fake_glfw_t&&) = delete;
+    ~fake_glfw_t() { current = nullptr; }
 
-    bool can_start = true;
     bool can_create = true;
-    bool has_monitor = true;
-    int area_x = 0, area_y = 24, area_width = 1920, area_height = 1056;  ///< the work area
-    /// Whether a size that the program sets arrives, with its event, within the call, or else in
-    /// the next glfwWaitEvents, as under a window manager.
-    bool sizes_at_once = true;
+    bool empty_event = false;
     std::deque<std::function<void()>> script;
 
     /// One line for each call that is no mere question: "glfwSetWindowSize(w1, 800, 600)".
     std::vector<std::string> calls;
-    std::vector<std::unique_ptr<GLFWwindow>> windows;
+    std::deque<GLFWwindow> windows;
 
     /// The calls since the last time, one a line; only those that begin with `prefix`.
     std::string take_calls(std::string const& prefix = "");
 
-    GLFWwindow& window(std::size_t index = 0) { return *windows.at(index); }
+    GLFWwindow& window(std::size_t index = 0) { return windows.at(index); }
 
     /// Reports an event as it stands, like `fire(&GLFWwindow::scroll, 0.0, 1.0)`.
     template <typename F, typename... T>
@@ -73,7 +67,5 @@ struct fake_glfw_t {
     void fire_size(int width, int height);
     void fire_drop(std::vector<char const*> paths);
 
-    bool empty_event = false;
-    std::deque<std::function<void()>> sizes_under_way;
-    int waits_past_script = 0;
+    static inline fake_glfw_t* current = nullptr;
 };
