@@ -7,10 +7,10 @@
 namespace libgr {
 
 // The destination gets half the source's width and height, truncated, with the source's
-// description; its store and window stay. Rows are read from the source's window, and components
-// are taken to be bytes. Sums are truncated. A format that isn't supported is refused with a line
-// on the error stream, a source whose pixels don't lie in its bytes, are compressed or are smaller
-// than its components' bytes without.
+// description; its store and window stay. It must be another record than the source. Rows are read
+// from the source's window, and components are taken to be bytes. Sums are truncated. A format that
+// isn't supported is refused with a line on the error stream, a source whose pixels don't lie in
+// its bytes, are compressed or are smaller than its components' bytes without.
 //
 // Two sampling rules differ from the plain box of 2 by 2 pixels. With four components the second
 // pixel of a pair is read 3 bytes behind the first. A grayscale source moves one pixel, not two,
