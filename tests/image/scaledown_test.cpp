@@ -75,7 +75,7 @@ TEST(scaledown, samples_each_format_at_its_own_places) {
         ASSERT_TRUE(dst.palette.resize(1));
         dst.compressed = true;
         ASSERT_TRUE(how.reduce(dst, src) && dst.desc == how.desc && !dst.compressed);
-        ASSERT_TRUE(dst.m_width == 3 && dst.m_height == 3 && dst.palette.empty());
+        ASSERT_TRUE(dst.m_width == 3 && dst.m_height == 3 && dst.palette.size == 0);
         for (unsigned int y = 0; y < 3; ++y) {
             row_t const row = expected_row(how, src, y);
             EXPECT_TRUE(std::equal(row.begin(), row.end(), pixel_row(dst, y)))
