@@ -4,16 +4,18 @@
 // Three things to know of the libraries: bytes are shared windows (`jpeg_bytes_t`), so that passing
 // a segment on copies nothing; failure is a bool, with a line on the error stream where it needs
 // one; and nothing that a file says is believed before it is compared with the file's size.
+#include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <iomanip>
 #include <iostream>
+#include <iterator>
 #include <string>
 #include <vector>
 
 #include "codecs/jpegdata.h"
 #include "codecs/jpeginfo.h"
-#include "codecs/jpegtransform.h"
-#include "codecs/orientation.h"
+#include "codecs/jtransform.h"
 #include "metadata/exif.h"
 #include "metadata/jpegmarkers.h"
 
@@ -84,24 +86,38 @@ std::string name_of(unsigned char code) {
 /// Reads a segment by its class and prints what it says. Each class has the same operations, but
 /// for the name of the one that takes the bytes.
 template <typename marker_t>
-void describe(jpeg_bytes_t const& payload, void (marker_t::*set_buffer)(jpeg_bytes_t const&)) {
+bool describe(jpeg_bytes_t const& payload, void (marker_t::*set_buffer)(jpeg_bytes_t const&)) {
     marker_t marker;
     (marker.*set_buffer)(payload);
-    if (marker.parse()) {
+    bool const good = marker.parse();
+    if (good) {
         marker.dump();
     }
+    return good;
 }
 
-void print_exif(jpeg_bytes_t const& payload) {
+/// A text of the file up to its first NUL, fit for a terminal.
+std::string printable(std::string const& text) {
+    std::string shown = text.c_str();
+    std::ranges::replace_if(
+        shown, [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
+    return shown;
+}
+
+bool print_exif(jpeg_bytes_t const& payload) {
+    auto const* const begin = payload.begin();
+    if (std::string(begin, begin + std::min(payload.size(), 4UL)) != "Exif") {
+        return true;  // APP1 carries XMP as well
+    }
     app1_marker_t app1;
     app1.set_app1_buffer(payload);
     if (!app1.parse()) {
-        return;
+        return false;
     }
-    // An absent value is an empty vector or text. Texts may end in NULs, so print up to the first.
+    // An absent value is an empty vector or text.
     auto const print_text = [](char const* name, std::string const& text) {
         if (!text.empty()) {
-            std::cout << name << ": " << text.c_str() << "\n";
+            std::cout << name << ": " << printable(text) << "\n";
         }
     };
     auto const print_number = [](char const* name, auto const& values) {
@@ -125,74 +141,125 @@ void print_exif(jpeg_bytes_t const& payload) {
     print_ratio("f-number", shot.FNumber);
     print_number("sensitivity", shot.ISOSpeedRatings);
     print_ratio("focal length", shot.FocalLength);
+    return true;
 }
 
-bool list(jpegdata_t const& data) {
-    std::vector<segment_t> const segments = segments_of(data);
-    // The classes read sequential 8-bit pictures. Of others, frame and scans are only named.
-    bool is_baseline = false;
-    for (segment_t const& segment : segments) {
-        is_baseline = is_baseline || segment.code == 0xC0;
-        std::cout << std::setw(9) << segment.at << "  " << std::left << std::setw(6)
-                  << name_of(segment.code) << std::right << std::setw(6) << segment.payload.size()
-                  << " bytes\n";
-        switch (segment.code) {
-            case 0xC0:
-                describe(segment.payload, &sof0_marker_t::set_sof0_buffer);
-                break;
-            case 0xC4:
-                describe(segment.payload, &dht_marker_t::set_dht_buffer);
-                break;
-            case 0xDA:
-                if (is_baseline) {
-                    describe(segment.payload, &sos_marker_t::set_sos_buffer);
-                }
-                break;
-            case 0xDB:
-                describe(segment.payload, &dqt_marker_t::set_dqt_buffer);
-                break;
-            case 0xDD:
-                describe(segment.payload, &dri_marker_t::set_dri_buffer);
-                break;
-            case 0xE1:
-                print_exif(segment.payload);
-                break;
-            default:
-                break;
-        }
+/// What the segment's class says. The classes of frame, scan and Huffman tables read baseline
+/// pictures alone; those of other pictures are only named.
+bool print_contents(segment_t const& segment, bool is_baseline) {
+    switch (segment.code) {
+        case 0xC0:
+            return describe(segment.payload, &sof0_marker_t::set_sof0_buffer);
+        case 0xC4:
+            return !is_baseline || describe(segment.payload, &dht_marker_t::set_dht_buffer);
+        case 0xDA:
+            return !is_baseline || describe(segment.payload, &sos_marker_t::set_sos_buffer);
+        case 0xDB:
+            return describe(segment.payload, &dqt_marker_t::set_dqt_buffer);
+        case 0xDD:
+            return describe(segment.payload, &dri_marker_t::set_dri_buffer);
+        case 0xE1:
+            return print_exif(segment.payload);
+        default:
+            return true;
     }
-    return !segments.empty() && segments.back().code == 0xD9;
 }
 
-/// The clockwise quarter turns that make a picture stand upright by its Exif orientation.
-unsigned long turns_to_upright(jpegdata_t const& data) {
+int list(char const* path, jpegdata_t const& data) {
+    std::vector<segment_t> const segments = segments_of(data);
+    bool const is_baseline =
+        std::ranges::any_of(segments, [](segment_t const& one) { return one.code == 0xC0; });
+    bool good = true;
+    for (auto segment = segments.begin(); segment != segments.end();) {
+        // Restart markers stand between the pieces of a scan: one line for all of them.
+        auto const last = std::find_if(segment, segments.end(), [](segment_t const& one) {
+            return one.code < 0xD0 || one.code > 0xD7;
+        });
+        auto const next = last == segment ? std::next(segment) : last;
+        std::cout << std::setw(9) << segment->at << "  " << std::left << std::setw(6)
+                  << name_of(segment->code) << std::right << std::setw(6) << segment->payload.size()
+                  << " bytes";
+        if (next - segment > 1) {
+            std::cout << ", and " << next - segment - 1 << " more";
+        }
+        std::cout << "\n";
+        if (!print_contents(*segment, is_baseline)) {
+            std::cerr << path << ": the " << name_of(segment->code) << " at " << segment->at
+                      << " can't be read\n";
+            good = false;
+        }
+        segment = next;
+    }
+    if (segments.empty() || segments.back().code != 0xD9) {
+        std::cerr << path << ": not a whole JPEG file\n";
+        good = false;
+    }
+    return good && std::cout.flush() ? 0 : 1;
+}
+
+/// Does to the picture what the request says and writes it to `path`. Of its segments the colour
+/// profile goes with it; the rest, Exif and its orientation among it, is left behind.
+int write_changed(JXFORM_CODE change, char const* from, jpegdata_t const& data, char const* path) {
+    namespace fs = std::filesystem;
+    std::error_code none;
+    fs::file_status const status = fs::symlink_status(path, none);
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        std::cerr << path << ": is there already, and isn't a file that can be replaced\n";
+        return 1;
+    }
+    jpeg_transform_info request;
+    request.transform = change;
+    jpegdata_t changed;
+    if (!transform(request, JCOPY_ICC, changed, data)) {
+        std::cerr << from << ": not a whole JPEG file, nothing is written\n";
+        return 1;
+    }
+    // The old file is kept until the new one stands, since both may be the same.
+    std::string const written = std::string(path) + ".part";
+    std::error_code failed;
+    if (changed.save(written.c_str(), nullptr)) {
+        fs::rename(written, path, failed);
+    } else {
+        failed = std::make_error_code(std::errc::io_error);
+    }
+    if (failed) {
+        fs::remove(written, none);
+        std::cerr << path << ": can't be written\n";
+        return 1;
+    }
+    return 0;
+}
+
+/// What makes a picture stand upright, by its Exif orientation.
+JXFORM_CODE upright_change(jpegdata_t const& data) {
+    // By the values 1 to 8 (Exif 2.3, tag 0x0112).
+    constexpr JXFORM_CODE k_changes[] = {JXFORM_NONE,       JXFORM_FLIP_H,    JXFORM_ROT_180,
+                                         JXFORM_FLIP_V,     JXFORM_TRANSPOSE, JXFORM_ROT_90,
+                                         JXFORM_TRANSVERSE, JXFORM_ROT_270};
     jpeginfo_t info;  // reads through libjpeg, here the header alone, and keeps APPn and COM
     app1_marker_t app1;
     if (!info.analyze_markers(data)) {
-        return 0;
+        return JXFORM_NONE;
     }
     app1.set_app1_buffer(info.get_marker(MARKER_APP1));
-    bool const has_orientation = app1.parse() && !app1.tiff_header.tag_0th_ifd.Orientation.empty();
-    return has_orientation
-               ? mixorientandrightrotatecount(0, app1.tiff_header.tag_0th_ifd.Orientation[0])
-               : 0;
-}
-
-bool turn(unsigned long count, jpegdata_t const& data, char const* path) {
-    jpegdata_t turned;
-    return transform(count, turned, data) && turned.save(path, nullptr);
+    auto const& orientation = app1.tiff_header.tag_0th_ifd.Orientation;
+    bool const is_known = app1.parse() && !orientation.empty() && orientation[0] >= 1 &&
+                          orientation[0] <= std::size(k_changes);
+    return is_known ? k_changes[orientation[0] - 1] : JXFORM_NONE;
 }
 
 int usage() {
     std::cerr << "usage: jpegtool list FILE          what the file is made of\n"
                  "       jpegtool turn N FILE OUT    N quarter turns to the right, 0 to 3\n"
-                 "       jpegtool upright FILE OUT   as many as the Exif orientation says\n";
+                 "       jpegtool upright FILE OUT   as the Exif orientation says\n"
+                 "OUT may be FILE. It keeps the colour profile, and no other APPn or comment.\n";
     return 2;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    constexpr JXFORM_CODE k_turns[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180, JXFORM_ROT_270};
     std::vector<char const*> const words(argv + 1, argv + argc);
     std::string const command = words.empty() ? "" : words[0];
     bool const lists = command == "list" && words.size() == 2;
@@ -208,16 +275,9 @@ int main(int argc, char** argv) {
         std::cerr << path << ": can't be read\n";
         return 1;
     }
-    bool good = false;
     if (lists) {
-        good = list(data);
-    } else {
-        unsigned long const count =
-            turns ? static_cast<unsigned long>(words[1][0] - '0') : turns_to_upright(data);
-        good = turn(count, data, words.back());
+        return list(path, data);
     }
-    if (!good) {
-        std::cerr << path << ": not a whole JPEG file, or the output can't be written\n";
-    }
-    return good ? 0 : 1;
+    return write_changed(turns ? k_turns[words[1][0] - '0'] : upright_change(data), path, data,
+                         words.back());
 }

@@ -41,12 +41,18 @@ bool invalid() {
     return refuse("invalid JPEG data.");
 }
 
-/// One line on standard output, numbers in decimal. A byte is written as a number: give it as +x.
+/// Text on standard output, numbers in decimal. A byte is written as a number: give it as +x.
 template <typename... Parts>
-void put_line(Parts const&... parts) {
+void put(Parts const&... parts) {
     libutils::keepflag const keep(std::cout);
     std::cout << std::dec;
-    (std::cout << ... << parts) << std::endl;
+    (std::cout << ... << parts);
+}
+
+template <typename... Parts>
+void put_line(Parts const&... parts) {
+    put(parts...);
+    std::cout << std::endl;
 }
 
 }  // namespace
@@ -66,6 +72,8 @@ bool sof0_marker_t::parse() {
     if (size() < 6UL + 3UL * colors) {
         return broken();
     }
+    jpeg_bytes_t onwards = *this;  // a selector is read behind the segment, too
+    onwards.count = to_end;
     components.resize(colors);
     max_horiz = 0;
     max_verts = 0;
@@ -73,7 +81,7 @@ bool sof0_marker_t::parse() {
     for (element_t& element : components) {
         unsigned char const factors = (*this)[at + 1];
         element = {(*this)[at], high_nibble(factors), low_nibble(factors),
-                   at + 4 < size() ? (*this)[at + 4] : static_cast<unsigned char>(0)};
+                   at + 4 < onwards.size() ? onwards[at + 4] : static_cast<unsigned char>(0)};
         max_horiz = libutils::max2<unsigned short>(max_horiz, element.horiz_factor);
         max_verts = libutils::max2<unsigned short>(max_verts, element.verts_factor);
         at += 3;
@@ -129,9 +137,9 @@ void dqt_marker_t::dump() const {
     put_line("dqt n: ", +n);
     for (unsigned long i = 0; i < n; ++i) {
         for (unsigned char const value : table[destination[i]]) {
-            std::cout << +value << ", ";
+            put(+value, ", ");
         }
-        put_line();
+        std::cout << std::endl;
     }
 }
 
@@ -156,7 +164,7 @@ bool dht_marker_t::parse_table(jpeg_iterator& cursor) {
     if (which.th >= dc.size() || which.tc > 1) {
         return broken();
     }
-    table_t& table = which.tc == 0 ? dc[which.th] : ac[which.th];
+    table_t& table = (which.tc == 0 ? dc : ac)[which.th];
     for (unsigned char& count_of_length : table.counts) {
         if (!(cursor < end())) {
             return broken();
@@ -188,21 +196,17 @@ bool dht_marker_t::parse_table(jpeg_iterator& cursor) {
     return true;
 }
 
-dht_marker_t::table_t const& dht_marker_t::table_of(class_and_destination_t which) const {
-    return which.tc == 0 ? dc[which.th] : ac[which.th];
-}
-
 void dht_marker_t::dump() const {
     put_line("dht length: ", length);
     for (unsigned long i = 0; i < table_count; ++i) {
         put_line("tc: ", +tables[i].tc, ", th: ", +tables[i].th);
-        std::cout << "entries: ";
-        char const* separator = "";
-        for (unsigned char const count_of_length : table_of(tables[i]).counts) {
-            std::cout << separator << +count_of_length;
+        char const* separator = "entries: ";
+        for (unsigned char const count_of_length :
+             (tables[i].tc == 0 ? dc : ac)[tables[i].th].counts) {
+            put(separator, +count_of_length);
             separator = ", ";
         }
-        put_line();
+        std::cout << std::endl;
     }
 }
 

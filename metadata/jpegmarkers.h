@@ -28,8 +28,8 @@ class sof0_marker_t : public jpeg_bytes_t {
         unsigned char component_id;
         unsigned char horiz_factor;
         unsigned char verts_factor;
-        /// Read two bytes behind its place in the standard, and 0 where that lies behind the
-        /// segment.
+        /// Read two bytes behind its place in the standard, so that the last component's lies
+        /// behind the segment; 0 where the shared bytes end there.
         unsigned char quatable_sel;
     };
 
@@ -92,7 +92,6 @@ class dht_marker_t : public jpeg_bytes_t {
 
   private:
     bool parse_table(jpeg_iterator& cursor);
-    table_t const& table_of(class_and_destination_t which) const;
 };
 
 /// The restart interval.
