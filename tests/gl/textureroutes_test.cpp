@@ -26,11 +26,11 @@ namespace {
 // stand the calls of Load, those of Reload where they differ, and the error stream's lines.
 //
 // Set-up: target (R: rectangle, C: cube map); context (3: OpenGL 3.0, s: SGIS_generate_mipmap, c:
-// texture compression; unpack state left behind, 8: alignment, w: row length, x: a skipped pixel,
-// y: a skipped row; u: unpack calls are shown; e: errors are pending); options (m: mipmaps, b:
-// border, i: compression, p: filters, k: border colour); size; levels with last letters for their
-// bytes (c: compressed, s: one too few, r: room behind them, n: no store, w: a window of half the
-// sides), "-" for one never set, "^" ahead of a new level 0. Rows are padded to 4 bytes.
+// texture compression, a: anisotropy; unpack state left behind, 8: alignment, w: row length, x: a
+// skipped pixel, y: a skipped row; u: unpack calls are shown; e: errors are pending); options (m:
+// mipmaps, b: border, i: compression, p: filters, k: border colour); size; levels with last letters
+// for their bytes (c: compressed, s: one too few, r: room behind them, n: no store, w: a window of
+// half the sides), "-" for one never set, "^" ahead of a new level 0. Rows are padded to 4 bytes.
 
 std::map<std::string, image_desc_t> const s_descs = {
     {"RGB", {IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
@@ -45,9 +45,10 @@ std::map<std::string, image_desc_t> const s_descs = {
 constexpr image_store_t s_store{false, 4};
 constexpr color3a_t s_color{1, 0, 0.5F, 1};
 constexpr auto s_filters1d = texparameter1d(GL_NEAREST, GL_LINEAR, GL_CLAMP);
-constexpr auto s_filters2d = texparameter2d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_CLAMP, 1);
-constexpr auto s_filters3d = texparameter3d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_CLAMP, GL_CLAMP, 1);
-constexpr auto s_filterscubemap = texparametercubemap(GL_NEAREST, GL_LINEAR, 1);
+constexpr auto s_filters2d = texparameter2d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_REPEAT, 2);
+constexpr auto s_filters3d =
+    texparameter3d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_REPEAT, GL_CLAMP, 8);
+constexpr auto s_filterscubemap = texparametercubemap(GL_NEAREST, GL_LINEAR, 4);
 
 struct setup_t {
     std::string target, context, options;
@@ -158,6 +159,7 @@ std::string route_calls(std::string const& line) {
     gl_flag_t const gl3(is_GL_VERSION_3_0_supported, has(setup.context, '3'));
     gl_flag_t const sgis(is_GL_SGIS_generate_mipmap_supported, has(setup.context, 's'));
     gl_flag_t const arb(is_GL_ARB_texture_compression_supported, has(setup.context, 'c'));
+    gl_flag_t const aniso(is_GL_EXT_texture_filter_anisotropic_supported, has(setup.context, 'a'));
     auto const texture = make_texture(setup, gl);
     std::deque<GLenum> const pending(has(setup.context, 'e') ? 2 : 0, GL_INVALID_VALUE);
     capture_t capture;
