@@ -4,14 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <iterator>
 #include <map>
 #include <set>
 #include <sstream>
 #include <string>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -45,18 +43,22 @@ void set_driver(char const* version, char const* list) {
     g_version = version;
     g_list = list;
     g_names.assign(std::istream_iterator<std::string>(words), {});
-    g_asked.clear();
-    g_reads = 0;
     for (auto const& [name, flag] : g_flags)
         *flag = 0;
     while (extension_node_t* node = extension_linkedlist) {
         extension_linkedlist = node->next;
         std::free(node);
     }
-    AGL_init(), AGL_init_additional(), g_asked.clear();
+    AGL_init();
+    AGL_init_additional();
+    g_asked.clear();
+    g_reads = 0;
 }
 
-names_t set_flags() {
+/// The flags that are set, in the order of loading.
+names_t load(char const* version, char const* list) {
+    set_driver(version, list);
+    gl_extloader_init();
     names_t set;
     for (auto const& [name, flag] : g_flags)
         if (*flag == 1)
@@ -67,17 +69,59 @@ names_t set_flags() {
 }  // namespace
 
 void* __gl_GetProcAddress(char const* symbol) {
-    static std::map<std::string, void*> const mine = {
-        {"glGetString", reinterpret_cast<void*>(get_string)},
-        {"glGetStringi", reinterpret_cast<void*>(get_stringi)},
-        {"glGetIntegerv", reinterpret_cast<void*>(get_integerv)}};
-    auto const found = mine.find(g_asked.emplace_back(symbol));
-    return found == mine.end() ? nullptr : found->second;
+    std::string const& name = g_asked.emplace_back(symbol);
+    return name == "glGetString"     ? reinterpret_cast<void*>(get_string)
+           : name == "glGetStringi"  ? reinterpret_cast<void*>(get_stringi)
+           : name == "glGetIntegerv" ? reinterpret_cast<void*>(get_integerv)
+                                     : nullptr;
 }
 
+TEST(glextloader, sets_the_versions_that_the_context_reaches) {
+    std::pair<char const*, std::size_t> const rows[] = {
+        {nullptr, 0},  {"1.1.0 x", 0},   {"1.4 Mesa", 3}, {"2.1", 5},  {"2.1 Mesa", 6},
+        {"4.4.9", 15}, {"4.5 Mesa", 16}, {"4.6.0", 17},   {"10.0", 17}};
+    for (auto const& [version, count] : rows) {
+        names_t const set = load(version, "");
+        names_t listed;
+        for (extension_node_t const* node = extension_linkedlist; node; node = node->next)
+            listed.insert(listed.begin(), node->name);
+        EXPECT_EQ(listed.size(), count);
+        EXPECT_EQ(set, listed) << "newest at the head, each once";
+    }
+}
+
+TEST(glextloader, loads_all_once_in_order_from_one_reading_of_the_list) {
+    std::string all;
+    for (auto const& row : g_flags)
+        all.append(row.first).append(" ");
+    EXPECT_EQ(load("4.6", all.c_str()).size(), 633U);
+    EXPECT_EQ(g_reads, 633);
+    ASSERT_EQ(g_asked.size(), 334U + 4 + 2090);
+    EXPECT_EQ(std::set(g_asked.begin(), g_asked.end()).size(), g_asked.size());
+    EXPECT_EQ(g_asked[0] + g_asked[333] + g_asked[338], "glAccumglViewportglTbufferMask3DFX");
+    g_asked.clear();
+    init_GL_VERSION_1_0();
+    EXPECT_EQ(g_asked.size(), 48U);
+}
+
+TEST(glextloader, a_name_sets_its_flag_and_resolves_its_own_entry_points_alone) {
+    std::map<std::string, std::size_t> members;
+    for (auto const& row : g_flags) {
+        EXPECT_EQ(load("1.1", row.first), names_t{row.first});
+        if (g_asked.size() > 338)
+            members[row.first] = g_asked.size() - 338;
+    }
+    EXPECT_EQ(members.size(), 256U);
+    EXPECT_EQ(members["GL_EXT_direct_state_access"], 255U);
+    EXPECT_EQ(members["GL_VERSION_4_5"], 122U);
+}
+
+// Outside of a loading, so the list is read up to the answer.
 TEST(glextloader, looks_for_whole_words_on_the_route_of_the_version) {
-    // Version, list, name, answer, reads of the list or of its items.
-    std::tuple<char const*, char const*, char const*, int, int> const rows[] = {
+    struct {
+        char const *version, *list, *name;
+        int supported, reads;  ///< of the list or of its items
+    } const rows[] = {
         {"1.4", "AB A", "A", 1, 1},     {"1.4", "AB ", "A", 0, 1},     {"1.4", "BA ", "A", 0, 1},
         {"1.4", "A B", "A", 1, 1},      {"1.4", "ABAC", "A", 0, 1},    {"1.4", "ABAB", "AB", 1, 1},
         {"1.4", "A", "", 0, 0},         {"1.4", "A B", "A B", 0, 0},   {"3.0", "AB A B", "A", 1, 2},
@@ -88,53 +132,4 @@ TEST(glextloader, looks_for_whole_words_on_the_route_of_the_version) {
         EXPECT_EQ(isExtensionSupported(name), supported) << (list ? list : "null");
         EXPECT_EQ(g_reads, reads) << (list ? list : "null");
     }
-}
-
-TEST(glextloader, sets_the_versions_that_the_context_reaches) {
-    std::pair<char const*, std::size_t> const rows[] = {
-        {nullptr, 0},  {"1.1.0 x", 0},   {"1.4 Mesa", 3}, {"2.1", 5},  {"2.1 Mesa", 6},
-        {"4.4.9", 15}, {"4.5 Mesa", 16}, {"4.6.0", 17},   {"10.0", 17}};
-    for (auto const& [version, count] : rows) {
-        set_driver(version, "");
-        gl_extloader_init();
-        names_t listed;
-        for (extension_node_t const* node = extension_linkedlist; node; node = node->next)
-            listed.emplace_back(node->name);
-        std::ranges::reverse(listed);
-        EXPECT_EQ(listed.size(), count);
-        EXPECT_EQ(set_flags(), listed) << "newest at the head, each once";
-    }
-}
-
-TEST(glextloader, loads_all_once_in_order_from_one_reading_of_the_list) {
-    std::string all;
-    for (auto const& row : g_flags)
-        all.append(row.first).append(" ");
-    set_driver("4.6", all.c_str());
-    gl_extloader_init();
-    EXPECT_EQ(g_reads, 633);
-    EXPECT_EQ(set_flags().size(), 633U);
-    ASSERT_EQ(g_asked.size(), 334U + 4 + 2090);
-    EXPECT_EQ(std::set(g_asked.begin(), g_asked.end()).size(), g_asked.size());
-    EXPECT_EQ(g_asked[0] + g_asked[333] + g_asked[338], "glAccumglViewportglTbufferMask3DFX");
-    g_asked.clear(), init_GL_VERSION_1_0();
-    EXPECT_EQ(g_asked.size(), 48U);
-    EXPECT_EQ(isExtensionSupported("GL_3DFX_multisample"), 1);
-    EXPECT_EQ(g_reads, 633 + 1) << "outside of that run a question reads up to its answer";
-}
-
-TEST(glextloader, a_name_sets_its_flag_and_resolves_its_own_entry_points_alone) {
-    std::map<std::string, std::size_t> members;
-    for (auto const& [name, flag] : g_flags) {
-        set_driver("1.1", name);
-        gl_extloader_init();
-        EXPECT_EQ(set_flags(), names_t{name});
-        if (g_asked.size() > 338)
-            members[name] = g_asked.size() - 338;
-    }
-    EXPECT_EQ(members.size(), 256U);
-    for (addext_t const* row = addexts; row->name; ++row)
-        EXPECT_EQ(members.contains(row->name), std::string(row->name) > "GL_VERSION_4_1");
-    EXPECT_EQ(members["GL_EXT_direct_state_access"], 255U);
-    EXPECT_EQ(members["GL_VERSION_4_5"], 122U);
 }

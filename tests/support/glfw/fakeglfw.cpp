@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <stdexcept>
 #include <utility>
 
@@ -13,15 +12,6 @@ namespace {
 GLFWwindow& live(GLFWwindow* window) {
     EXPECT_FALSE(window->destroyed) << window->name << " is used after its end";
     return *window;
-}
-
-template <typename... T>
-void record(char const* function, T const&... arguments) {
-    std::ostringstream line;
-    [[maybe_unused]] char const* separator = "";
-    line << function << "(";
-    ((line << separator << arguments, separator = ", "), ...);
-    fake_glfw_t::current->calls.push_back(line.str() + ")");
 }
 
 }  // namespace
@@ -60,8 +50,8 @@ void fake_glfw_t::fire_drop(std::vector<char const*> paths) {
 
 GLFWwindow* glfwCreateWindow(int width, int height, char const* title, GLFWmonitor* monitor,
                              GLFWwindow* share) {
-    record("glfwCreateWindow", width, height, title, monitor == nullptr ? "null" : "monitor",
-           share == nullptr ? "null" : share->name.c_str());
+    record_call("glfwCreateWindow", width, height, title, monitor == nullptr ? "null" : "monitor",
+                share == nullptr ? "null" : share->name.c_str());
     if (!fake_glfw_t::current->can_create) {
         return nullptr;
     }
@@ -75,12 +65,12 @@ GLFWwindow* glfwCreateWindow(int width, int height, char const* title, GLFWmonit
 }
 
 void glfwDestroyWindow(GLFWwindow* window) {
-    record("glfwDestroyWindow", live(window).name);
+    record_call("glfwDestroyWindow", live(window).name);
     window->destroyed = true;
 }
 
 void glfwWaitEvents() {
-    record("glfwWaitEvents");
+    record_call("glfwWaitEvents");
     fake_glfw_t& glfw = *fake_glfw_t::current;
     if (std::exchange(glfw.empty_event, false)) {
         return;
@@ -98,7 +88,7 @@ void glfwWaitEvents() {
 }
 
 void glfwPostEmptyEvent() {
-    record("glfwPostEmptyEvent");
+    record_call("glfwPostEmptyEvent");
     fake_glfw_t::current->empty_event = true;
 }
 
@@ -107,13 +97,13 @@ int glfwWindowShouldClose(GLFWwindow* window) {
 }
 
 // Functions that are recorded and do no more, that bind an event, and that ask for two numbers.
-#define RECORD(function)                      \
-    void function(GLFWwindow* window) {       \
-        record(#function, live(window).name); \
+#define RECORD(function)                           \
+    void function(GLFWwindow* window) {            \
+        record_call(#function, live(window).name); \
     }
 #define BIND(function, type, event)                    \
     type function(GLFWwindow* window, type callback) { \
-        record(#function, live(window).name);          \
+        record_call(#function, live(window).name);     \
         return std::exchange(window->event, callback); \
     }
 #define ASK(function, type, first, second)                      \
@@ -138,12 +128,12 @@ ASK(glfwGetWindowPos, int, x, y)
 ASK(glfwGetCursorPos, double, cursor_x, cursor_y)
 
 void glfwSetWindowTitle(GLFWwindow* window, char const* title) {
-    record("glfwSetWindowTitle", live(window).name, title);
+    record_call("glfwSetWindowTitle", live(window).name, title);
     window->title = title;
 }
 
 void glfwSetWindowSize(GLFWwindow* window, int width, int height) {
-    record("glfwSetWindowSize", live(window).name, width, height);
+    record_call("glfwSetWindowSize", live(window).name, width, height);
     if (window->width != width || window->height != height) {
         window->width = width;
         window->height = height;
@@ -152,7 +142,7 @@ void glfwSetWindowSize(GLFWwindow* window, int width, int height) {
 }
 
 void glfwSetWindowPos(GLFWwindow* window, int x, int y) {
-    record("glfwSetWindowPos", live(window).name, x, y);
+    record_call("glfwSetWindowPos", live(window).name, x, y);
     window->x = x;
     window->y = y;
 }

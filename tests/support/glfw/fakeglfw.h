@@ -8,6 +8,7 @@
 #include <deque>
 #include <functional>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -69,3 +70,13 @@ struct fake_glfw_t {
 
     static inline fake_glfw_t* current = nullptr;
 };
+
+/// Puts a line among the calls; tests do so with what is reported to them.
+template <typename... T>
+void record_call(char const* function, T const&... arguments) {
+    std::ostringstream line;
+    [[maybe_unused]] char const* separator = "";
+    line << function << "(";
+    ((line << separator << arguments, separator = ", "), ...);
+    fake_glfw_t::current->calls.push_back(line.str() + ")");
+}
