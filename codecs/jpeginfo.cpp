@@ -31,7 +31,7 @@ constexpr unsigned int k_saved_length = 65535;  // bytes of a marker
 struct decoding_t {
     jpeg_decompress_struct cinfo{};
     my_error_mgr error{};
-    jpeg_progress_mgr progress{};
+    work_limit_t limit{};
     jpegdata_t const& data;
     jpeg_memory_source_t* source = nullptr;
     unsigned int app_length = k_saved_length;
@@ -50,7 +50,7 @@ void read_header(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
     cinfo->err = use_error_mgr(decoding.error, decoding.data);
     jpeg_create_decompress(cinfo);
-    use_scan_limit(cinfo, decoding.progress);
+    use_work_limit(cinfo, decoding.limit, decoding.data.size());
     decoding.source = use_memory_source(cinfo, decoding.data);
     jpeg_save_markers(cinfo, JPEG_COM, k_saved_length);
     for (int n = 0; n < 16; ++n) {

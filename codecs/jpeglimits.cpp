@@ -16,17 +16,55 @@ constexpr int k_most_scans = 100;
 constexpr std::uint64_t k_densest_ratio = 4096;
 constexpr std::uint64_t k_harmless_claim = std::uint64_t{64} << 20;  // bytes
 
-void limit_scans(j_common_ptr cinfo) {
-    if (reinterpret_cast<j_decompress_ptr>(cinfo)->input_scan_number > k_most_scans) {
+/// A block of a picture of one colour takes some bits in one scan at least, but for arithmetic
+/// coding, and a picture for viewing has some ten scans.
+constexpr std::uint64_t k_blocks_of_a_byte = 64;
+constexpr std::uint64_t k_harmless_blocks = std::uint64_t{16} << 20;
+
+/// Blocks that the present scan reads in a row of iMCUs.
+std::uint64_t blocks_of_row(jpeg_decompress_struct const& cinfo) {
+    std::uint64_t blocks = 0;
+    for (int i = 0; i < cinfo.comps_in_scan; ++i) {
+        jpeg_component_info const& component = *cinfo.cur_comp_info[i];
+        blocks += std::uint64_t{component.width_in_blocks} *
+                  static_cast<std::uint64_t>(component.v_samp_factor);
+    }
+    return blocks;
+}
+
+std::uint64_t blocks_of_picture(jpeg_decompress_struct const& cinfo) {
+    std::uint64_t blocks = 0;
+    for (int i = 0; i < cinfo.num_components; ++i) {
+        jpeg_component_info const& component = cinfo.comp_info[i];
+        blocks += std::uint64_t{component.width_in_blocks} * component.height_in_blocks;
+    }
+    return blocks;
+}
+
+/// libjpeg's progress hook: comes round at each row of iMCUs that is read, and at each row of
+/// samples that is given out.
+void limit_work(j_common_ptr any) {
+    auto* const cinfo = reinterpret_cast<j_decompress_ptr>(any);
+    auto& limit = *reinterpret_cast<work_limit_t*>(cinfo->progress);
+    if (cinfo->input_scan_number == limit.scan && cinfo->input_iMCU_row == limit.row) {
+        return;
+    }
+    limit.scan = cinfo->input_scan_number;
+    limit.row = cinfo->input_iMCU_row;
+    limit.blocks += blocks_of_row(*cinfo);
+    std::uint64_t const most =
+        k_harmless_blocks + k_blocks_of_a_byte * limit.held + 2 * blocks_of_picture(*cinfo);
+    if (limit.scan > k_most_scans || limit.blocks > most) {
         ERREXIT(cinfo, JERR_BAD_PROGRESSION);
     }
 }
 
 }  // namespace
 
-void use_scan_limit(j_decompress_ptr cinfo, jpeg_progress_mgr& progress) {
-    progress.progress_monitor = limit_scans;
-    cinfo->progress = &progress;
+void use_work_limit(j_decompress_ptr cinfo, work_limit_t& limit, std::uint64_t held) {
+    limit.held = held;
+    limit.base.progress_monitor = limit_work;
+    cinfo->progress = &limit.base;
 }
 
 bool is_possible_picture(jpeg_decompress_struct const& cinfo, std::uint64_t pixel_bits,

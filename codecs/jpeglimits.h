@@ -8,9 +8,19 @@
 
 namespace libgr {
 
-/// Has the decompressor, which must have been created, call `progress`, which makes a file of more
-/// than 100 scans an error: such a file is made to keep a decoder busy, not to be looked at.
-void use_scan_limit(j_decompress_ptr cinfo, jpeg_progress_mgr& progress);
+/// Counts the blocks that a decompressor reads of a file of several scans.
+struct work_limit_t {
+    jpeg_progress_mgr base{};
+    std::uint64_t held = 0;    ///< bytes of the file
+    std::uint64_t blocks = 0;  ///< read so far, in all scans
+    int scan = 0;              ///< the last row that was counted
+    JDIMENSION row = 0;
+};
+
+/// Has the decompressor, which must have been created, make it an error when the scans of a file of
+/// `held` bytes come to more than 100, or read more blocks than scans made for viewing do: such a
+/// file is made to keep a decoder busy, not to be looked at.
+void use_work_limit(j_decompress_ptr cinfo, work_limit_t& limit, std::uint64_t held);
 
 /// Whether a picture of the header's size can come out of a file of `held` bytes and be held in
 /// memory, with `pixel_bits` for each of its pixels and `other_bits` of what is kept beside them.

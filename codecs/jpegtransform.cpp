@@ -4,9 +4,11 @@
 
 #include <jerror.h>
 
+#include <algorithm>
 #include <iostream>
 #include <iterator>
 
+#include "codecs/claims.h"
 #include "codecs/jpeglimits.h"
 #include "codecs/jtransform.h"
 #include "utils/diagnostics.h"
@@ -21,6 +23,7 @@ struct reading_t;
 struct writing_t {
     jpeg_compress_struct cinfo{};
     my_error_mgr error{};
+    jpeg_scan_info scans[MAX_COMPONENTS]{};
     reading_t& reading;
     jpegdata_t& data;
 
@@ -33,7 +36,7 @@ struct writing_t {
 struct reading_t {
     jpeg_decompress_struct cinfo{};
     my_error_mgr error{};
-    jpeg_progress_mgr progress{};
+    work_limit_t limit{};
     jpegdata_t data;  ///< shares the bytes, so that the output may take their place
     jpeg_transform_info& info;
     JCOPY_OPTION option;
@@ -49,11 +52,67 @@ struct reading_t {
     ~reading_t() { jpeg_destroy_decompress(&cinfo); }
 };
 
+/// Bits of a pixel's coefficients.
+std::uint64_t coefficient_bits(int components) {
+    return static_cast<std::uint64_t>(components) * sizeof(JCOEF) * 8;
+}
+
 /// Whether the picture that the header promises can be held as coefficients, before and after.
 bool is_possible(reading_t const& reading) {
-    auto const components = static_cast<std::uint64_t>(reading.cinfo.num_components);
-    return is_possible_picture(reading.cinfo, components * 8, components * 2 * sizeof(JCOEF) * 8,
-                               reading.data.size());
+    int const components = reading.cinfo.num_components;
+    return is_possible_picture(reading.cinfo, static_cast<std::uint64_t>(components) * 8,
+                               2 * coefficient_bits(components), reading.data.size());
+}
+
+/// The same of the output, which a crop may have made larger.
+bool is_possible(jpeg_transform_info const& info) {
+    return fits_in_memory(info.output_width, info.output_height,
+                          2 * coefficient_bits(info.num_components));
+}
+
+/// Whether a block's AC coefficients, and the steps between DC coefficients from `low` to `high`,
+/// surely have codes in the usual Huffman tables. Widens that range by the block's own.
+bool is_codable(JCOEF const* block, int& low, int& high) {
+    constexpr int k_most_ac = 1023;
+    constexpr int k_most_step = 2047;
+    low = std::min<int>(low, block[0]);
+    high = std::max<int>(high, block[0]);
+    auto const has_code = [](JCOEF value) { return value >= -k_most_ac && value <= k_most_ac; };
+    return high - low <= k_most_step && std::all_of(block + 1, block + DCTSIZE2, has_code);
+}
+
+bool is_codable(j_decompress_ptr cinfo, jvirt_barray_ptr* arrays) {
+    for (int i = 0; i < cinfo->num_components; ++i) {
+        jpeg_component_info const& component = cinfo->comp_info[i];
+        int low = 0;
+        int high = 0;
+        for (JDIMENSION y = 0; y < component.height_in_blocks; ++y) {
+            JBLOCKROW const row = (*cinfo->mem->access_virt_barray)(
+                reinterpret_cast<j_common_ptr>(cinfo), arrays[i], y, 1, FALSE)[0];
+            for (JDIMENSION x = 0; x < component.width_in_blocks; ++x) {
+                if (!is_codable(row[x], low, high)) {
+                    return false;
+                }
+            }
+        }
+    }
+    return true;
+}
+
+/// Gives each component a scan of its own where one scan can't hold them all (ITU-T T.81, B.2.3).
+void separate_scans(writing_t& writing) {
+    jpeg_compress_struct& cinfo = writing.cinfo;
+    int blocks = 0;
+    for (int i = 0; i < cinfo.num_components; ++i) {
+        blocks += cinfo.comp_info[i].h_samp_factor * cinfo.comp_info[i].v_samp_factor;
+        writing.scans[i] = {1, {i}, 0, DCTSIZE2 - 1, 0, 0};
+    }
+    bool const fit_together =
+        cinfo.num_components <= MAX_COMPS_IN_SCAN && blocks <= C_MAX_BLOCKS_IN_MCU;
+    if (cinfo.num_components > 1 && !fit_together) {
+        cinfo.scan_info = writing.scans;
+        cinfo.num_scans = cinfo.num_components;
+    }
 }
 
 void write(writing_t& writing) {
@@ -65,6 +124,10 @@ void write(writing_t& writing) {
     jpeg_copy_critical_parameters(&reading.cinfo, cinfo);
     jvirt_barray_ptr* const written =
         jtransform_adjust_parameters(&reading.cinfo, cinfo, arrays, &reading.info);
+    separate_scans(writing);
+    // libjpeg doesn't look whether the usual tables have a code, only whether tables of the
+    // picture's own can have one.
+    cinfo->optimize_coding = is_codable(&reading.cinfo, arrays) ? FALSE : TRUE;
     writing.data.clear();
     use_memory_destination(cinfo, writing.data);
     jpeg_write_coefficients(cinfo, written);
@@ -85,7 +148,7 @@ void read_and_write(reading_t& reading) {
     j_decompress_ptr const cinfo = &reading.cinfo;
     cinfo->err = use_error_mgr(reading.error, reading.data);
     jpeg_create_decompress(cinfo);
-    use_scan_limit(cinfo, reading.progress);
+    use_work_limit(cinfo, reading.limit, reading.data.size());
     jpeg_memory_source_t* const source = use_memory_source(cinfo, reading.data);
     jcopy_markers_setup(cinfo, reading.option);
     jpeg_read_header(cinfo, TRUE);
@@ -94,6 +157,9 @@ void read_and_write(reading_t& reading) {
         ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
     }
     reading.is_perfect = jtransform_request_workspace(cinfo, &reading.info);
+    if (reading.is_perfect && !is_possible(reading.info)) {
+        ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
+    }
     if (!reading.is_perfect || !run_jpeg_step(write, reading.writing)) {
         return;
     }
@@ -107,6 +173,7 @@ bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
                jpegdata_t const& in) {
     reading_t reading(in, out, info, option);
     bool const is_turned = run_jpeg_step(read_and_write, reading) && reading.is_written;
+    info.workspace = nullptr;  // it goes with the decompressor
     if (!reading.is_perfect) {
         libutils::error();
         std::cerr << ": transformation is not perfect" << std::endl;
