@@ -37,7 +37,7 @@ struct level_t {
 /// Bytes that no shift by a pixel, a row or a component maps to themselves.
 void paint(image_bytes_t& bytes, unsigned int seed) {
     for (unsigned int i = 0; i < bytes.size(); ++i) {
-        bytes[i] = static_cast<unsigned char>(seed + i * 37 + i / 7 * 5);
+        bytes[i] = static_cast<unsigned char>(seed + i * 37 + i / 7 * 6);
     }
 }
 

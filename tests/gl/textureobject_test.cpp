@@ -33,7 +33,7 @@ TEST_F(TextureObject, CopiesOfATextureShareOneNameUntilTheLast) {
         first.Preload(&images);
         note("dimension", dimension, "is", first.Dimension());
     }
-    const grTextureObject second(first);
+    grTextureObject second(first);
     first.clear();
     note("cleared; loaded:", first.isPreload(), first.Dimension());
     second.Reload();
@@ -46,6 +46,8 @@ TEST_F(TextureObject, CopiesOfATextureShareOneNameUntilTheLast) {
         second.Unload();
         note("OpenGL 3.0:", modern);
     }
+    second.clear();
+    note("cleared");
 }
 
 TEST_F(TextureObject, ReadBackDescribesWhatTheLevelHolds) {
@@ -112,7 +114,7 @@ TEST_F(TextureObject, ReadPixelsLooksBehindABlackFront) {
         const std::vector<int> bytes(image.begin(), image.begin() + std::min(image.size(), 12UL));
         note(what, good, image.size(), testing::PrintToString(bytes));
     };
-    gl.integers[GL_VIEWPORT] = {3, 4, 2, 2};
+    gl.integers[GL_VIEWPORT] = {3, 4, 1, 4};
     gl.pixels[GL_FRONT] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
     gl.pixels[GL_BACK] = {13};
     read("as shown", grReadPixelsRGB);
