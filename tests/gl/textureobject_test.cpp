@@ -55,17 +55,16 @@ TEST_F(TextureObject, ReadBackDescribesWhatTheLevelHolds) {
     const images_t images;
     grTextureObject object;
     object.Preload(&images);
-    const struct {
-        GLint type, bits, width;
-    } rows[] = {{GL_FLOAT, 32, 3},
-                {GL_FLOAT, 16, 3},
-                {GL_INT, 8, 3},
-                {GL_UNSIGNED_INT, 64, 3},
-                {GL_SIGNED_NORMALIZED, 12, 3},
-                {GL_NONE, 8, 3},
-                {GL_FLOAT, 0, 3},
-                {GL_FLOAT, 5, 3},
-                {GL_FLOAT, 8, 0}};
+    // Type and size of red, width.
+    const GLint rows[][3] = {{GL_FLOAT, 32, 3},
+                             {GL_FLOAT, 16, 3},
+                             {GL_INT, 8, 3},
+                             {GL_UNSIGNED_INT, 64, 3},
+                             {GL_SIGNED_NORMALIZED, 12, 3},
+                             {GL_NONE, 8, 3},
+                             {GL_FLOAT, 0, 3},
+                             {GL_FLOAT, 5, 3},
+                             {GL_FLOAT, 8, 0}};
     for (const auto& [type, bits, width] : rows) {
         gl.integers[GL_TEXTURE_RED_TYPE] = {type};
         gl.integers[GL_TEXTURE_RED_SIZE] = {bits};

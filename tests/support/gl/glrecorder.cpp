@@ -15,18 +15,17 @@ namespace {
 
 gl_recorder_t* g_recorder = nullptr;
 
-/// The names by value, the first that the header of the enumerants gives, but for these.
+/// The names by value, the first that the header of the enumerants gives, but for these. Some stand
+/// as numbers in the transcripts on file.
 std::map<GLenum, std::string> read_names() {
 #define NAMED(value) {value, #value}
-    std::map<GLenum, std::string> names = {NAMED(GL_GENERATE_MIPMAP_SGIS),
-                                           NAMED(GL_RESCALE_NORMAL_EXT),
-                                           NAMED(GL_TEXTURE_MAX_ANISOTROPY_EXT),
-                                           NAMED(GL_DEPTH_BUFFER_BIT | GL_COLOR_BUFFER_BIT),
-                                           // Numbers in the transcripts on file.
-                                           {GL_EMISSION, "5632"},
-                                           {GL_REFLECTION_MAP, "34066"},
-                                           {GL_PROGRAM_ERROR_POSITION_ARB, "34379"},
-                                           {GL_PROGRAM_ERROR_STRING_ARB, "34932"}};
+    std::map<GLenum, std::string> names = {
+        NAMED(GL_GENERATE_MIPMAP_SGIS), NAMED(GL_RESCALE_NORMAL_EXT),
+        NAMED(GL_TEXTURE_MAX_ANISOTROPY_EXT), NAMED(GL_DEPTH_BUFFER_BIT | GL_COLOR_BUFFER_BIT)};
+    for (const int number : {GL_EMISSION, GL_REFLECTION_MAP, GL_PROGRAM_ERROR_POSITION_ARB,
+                             GL_PROGRAM_ERROR_STRING_ARB}) {
+        names[static_cast<GLenum>(number)] = std::to_string(number);
+    }
     std::ifstream header(GL_ENUMS);
     for (std::string word, name, value; header >> word;) {
         if (word == "#define" && header >> name >> value && value.starts_with("0x")) {
