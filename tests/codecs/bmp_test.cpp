@@ -34,9 +34,7 @@ std::string const k_far(4096, 'p');
 std::string const k_srgb = "BGRs" + std::string(64, 'h') + "rgb0";
 struct {
     bmp_t file;
-    char const* mapped;    // by image_bmp2_t
-    char const* streamed;  // by image_bmp_t
-    char const* known;     // by BmpLoad as RGB
+    char const *mapped, *streamed, *known;  // by image_bmp2_t, image_bmp_t, and BmpLoad as RGB
 } const k_rows[] = {
     {{4, 2, 24, ramp(24)}, "4x2 BGR 8 0: 24", "4x2 BGR 8 0: 24", "4x2 RGB 8 0: 24"},
     {{1, 1, 24, ramp(4), k_quads}, "1x1 BGR 8 0: 4", "1x1 BGR 8 0: 4", "1x1 RGB 8 0: 3"},
@@ -83,23 +81,23 @@ TEST_F(Bmp, ReadersTakeOrRefuseTheSameFiles) {
 }
 
 TEST_F(Bmp, ReadersShowACutFileAsFarAsItGoes) {
-    std::string const whole = bmp_t{3, 3, 8, ramp(12), ramp(8)}.bytes();
-    constexpr std::size_t k_offset = 62;
+    std::string const pixel_bytes = ramp(12), whole = bmp_t{3, 3, 8, pixel_bytes, ramp(8)}.bytes();
+    std::size_t const offset = whole.size() - 12;
     for (std::size_t size = 0; size <= whole.size(); ++size) {
         SCOPED_TRACE(size);
         write_file(file, whole.substr(0, size));
-        std::string shown = whole.substr(0, size).substr(std::min(size, k_offset));
+        std::string shown = pixel_bytes.substr(0, std::max(size, offset) - offset);
         shown.resize(12);
-        ASSERT_EQ(image_bmp2_t().load(image, path), size >= k_offset + 3);
-        if (size >= k_offset + 3) {
+        ASSERT_EQ(image_bmp2_t().load(image, path), size >= offset + 3);
+        if (size >= offset + 3) {
             EXPECT_EQ(pixels(), shown);
             EXPECT_EQ(image.is_writable(), size < whole.size()) << "pixels stay in the mapping";
-            EXPECT_EQ(image.palette.red[1], 7 * 257);
-            EXPECT_EQ(image.palette.green[1], 6 * 257);
-            EXPECT_EQ(image.palette.blue[1], 5 * 257);
+            palette_t const& colors = image.palette;
+            EXPECT_EQ(std::tuple(colors.red[1], colors.green[1], colors.blue[1]),
+                      std::tuple(7 * 257, 6 * 257, 5 * 257));
         }
-        ASSERT_EQ(image_bmp_t().load(image, path), size >= k_offset);
-        EXPECT_TRUE(size < k_offset || pixels() == shown);
+        ASSERT_EQ(image_bmp_t().load(image, path), size >= offset);
+        EXPECT_TRUE(size < offset || pixels() == shown);
         image = {};
     }
     // Unpadded sizes with padded steps: the second row's swap of colours would leave the block.
@@ -109,24 +107,20 @@ TEST_F(Bmp, ReadersShowACutFileAsFarAsItGoes) {
 }
 
 TEST_F(Bmp, WriterTakesGrayAndBgrAsTheyLie) {
-    struct {
-        e_image_format_t format;
-        e_image_bits_t bits;
-        unsigned int depth;  // 0 where it is refused
-    } const rows[] = {
+    // With the depth in the file, 0 where it is refused.
+    std::vector<std::tuple<e_image_format_t, e_image_bits_t, unsigned int>> const rows = {
         {IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_1, 1},  {IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_4, 4},
         {IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_8, 8},  {IMAGE_FORMAT_BGR, IMAGE_BITS_8, 24},
         {IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_16, 0}, {IMAGE_FORMAT_RGB, IMAGE_BITS_8, 0},
     };
-    for (auto const& row : rows) {
-        bool const saved = row.depth != 0;
-        image = image_of(4, 2, row.format, row.bits, ramp(24));
+    for (auto const& [format, bits, depth] : rows) {
+        image = image_of(4, 2, format, bits, ramp(24));
         write_file(file, "old");
         capture_t capture;
-        EXPECT_EQ(image_bmp_t().save(image, path), saved);
-        std::string const written = bmp_t{4, 2, row.depth, ramp(24)}.bytes();
-        EXPECT_EQ(read_file(file), saved ? written : "old");
-        EXPECT_EQ(capture.err(), saved ? "" : "convert(to bmp): not supported format.\n");
+        EXPECT_EQ(image_bmp_t().save(image, path), depth != 0);
+        std::string const written = bmp_t{4, 2, depth, ramp(24)}.bytes();
+        EXPECT_EQ(read_file(file), depth != 0 ? written : "old");
+        EXPECT_EQ(capture.err(), depth != 0 ? "" : "convert(to bmp): not supported format.\n");
         EXPECT_FALSE(image_bmp_t().save(image, dir.path().c_str()));
         EXPECT_FALSE(image_bmp_t().save(image, "/dev/full"));
         image.compressed = true;

@@ -9,6 +9,7 @@
 #include <numeric>
 #include <string>
 
+#include "codecs/jpegdata.h"
 #include "image/image.h"
 #include "tests/support/files/testfiles.h"
 
@@ -19,6 +20,44 @@ inline std::string le(unsigned long value, unsigned int size) {
         bytes[i] = static_cast<char>(value >> (8 * i));
     }
     return bytes;
+}
+
+/// The same, highest first.
+inline std::string be(unsigned long value, unsigned int size) {
+    std::string const bytes = le(value, size);
+    return {bytes.rbegin(), bytes.rend()};
+}
+
+/// A JPEG in memory.
+inline libgr::jpegdata_t jpegdata_of(std::string const& bytes) {
+    libgr::jpeg_bytes_t block;
+    EXPECT_TRUE(block.resize(bytes.size(), 0));
+    std::copy(bytes.begin(), bytes.end(), block.begin());
+    libgr::jpegdata_t data;
+    data.setvector(block, "memory");
+    return data;
+}
+
+inline std::string bytes_of(libgr::jpegdata_t const& data) {
+    return {data.begin(), data.end()};
+}
+
+/// A marker segment of a JPEG.
+inline std::string segment(unsigned int code, std::string const& payload) {
+    return be(0xFF00 + code, 2) + be(payload.size() + 2, 2) + payload;
+}
+
+/// An Exif block with an Orientation, and with the picture's sizes in its Exif IFD.
+inline std::string exif(bool intel, unsigned int orientation, unsigned int width = 64,
+                        unsigned int height = 48) {
+    auto const word = intel ? le : be;
+    auto const entry = [&](unsigned int tag, unsigned int value) {
+        return word(tag, 2) + word(4, 2) + word(1, 4) + word(value, 4);
+    };
+    return std::string("Exif\0\0", 6) + (intel ? "II" : "MM") + word(42, 2) + word(8, 4) +
+           word(2, 2) + entry(0x8769, 38) + word(0x0112, 2) + word(3, 2) + word(1, 4) +
+           word(orientation, 2) + word(0, 6) + word(2, 2) + entry(0xA002, width) +
+           entry(0xA003, height) + word(0, 4);
 }
 
 /// `size` bytes that count up from `first`.

@@ -28,10 +28,7 @@ struct tga_t {
 using Tga = picture_test_t;
 
 TEST_F(Tga, TakesPaddedBottomUpFiles) {
-    struct {
-        tga_t file;
-        char const* expected;
-    } const rows[] = {
+    std::vector<std::pair<tga_t, std::string>> const rows = {
         {{2, 3, 2, 8, ramp(8)}, "3x2 GRAYSCALE 8 0: 8"},
         {{2, 3, 1, 16, ramp(8)}, "3x1 BGRA R5G5B5A1 0: 8"},
         {{2, 3, 2, 24, ramp(24)}, "3x2 BGR 8 0: 24"},
@@ -48,12 +45,12 @@ TEST_F(Tga, TakesPaddedBottomUpFiles) {
         {{2, 0, 1, 24, ""}, "-"},
         {{2, 65535, 65535, 255, ramp(64)}, "-"},
     };
-    for (auto const& row : rows) {
-        std::string const bytes = row.file.bytes();
+    for (auto const& [fields, expected] : rows) {
+        std::string const bytes = fields.bytes();
         write_file(file, bytes);
         image = {};
-        EXPECT_EQ(outcome(image_tga_t().load(image, path)), row.expected);
-        EXPECT_TRUE(image.empty() || pixels() == row.file.pixels);
+        EXPECT_EQ(outcome(image_tga_t().load(image, path)), expected);
+        EXPECT_TRUE(image.empty() || pixels() == fields.pixels);
         tgaimage_t tga;  // which leads to the same header, id and map
         EXPECT_FALSE(tga.load(path, nullptr) && !tga.save(path, nullptr));
         EXPECT_EQ(read_file(file), bytes);
@@ -66,24 +63,20 @@ TEST_F(Tga, TakesPaddedBottomUpFiles) {
 }
 
 TEST_F(Tga, SavesRedFirstPicturesAlone) {
-    struct {
-        e_image_format_t format;
-        e_image_bits_t bits;
-        unsigned int depth;  // 0 where it is refused
-        std::string pixels;  // in the file, of two pixels
-    } const rows[] = {
+    // With the depth in the file, 0 where it is refused, and the bytes of two pixels.
+    std::vector<std::tuple<e_image_format_t, e_image_bits_t, unsigned, std::string>> const rows = {
         {IMAGE_FORMAT_RGBA, IMAGE_BITS_8, 32, "\3\2\1\4\7\6\5\10"},
         {IMAGE_FORMAT_RGB, IMAGE_BITS_8, 24, {"\3\2\1\6\5\4\0\0", 8}},
         {IMAGE_FORMAT_RGBA, IMAGE_BITS_R5G5B5A1, 16, ramp(8)},
         {IMAGE_FORMAT_BGR, IMAGE_BITS_8, 0, ""},
         {IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_8, 0, ""},
     };
-    for (auto const& row : rows) {
-        image = image_of(2, 1, row.format, row.bits, ramp(8));
+    for (auto const& [format, bits, depth, bytes] : rows) {
+        image = image_of(2, 1, format, bits, ramp(8));
         write_file(file, "old");
-        EXPECT_EQ(image_tga_t().save(image, path), row.depth != 0);
-        std::string const expected = tga_t{2, 2, 1, row.depth, row.pixels}.bytes();
-        EXPECT_EQ(read_file(file), row.depth != 0 ? expected : "old");
+        EXPECT_EQ(image_tga_t().save(image, path), depth != 0);
+        std::string const written = tga_t{2, 2, 1, depth, bytes}.bytes();
+        EXPECT_EQ(read_file(file), depth != 0 ? written : "old");
         EXPECT_FALSE(image_tga_t().save(image, "/dev/full"));
         image.m_width = 65538;
         EXPECT_FALSE(image_tga_t().save(image, path));
