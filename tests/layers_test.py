@@ -9,7 +9,7 @@ BELOW = {"utils": "", "geometry": "utils", "image": "geometry", "metadata": "ima
          "codecs": "metadata", "glext": "", "gl": "image glext", "options": "geometry",
          "window": "", "scene": "gl codecs options", "app": "scene window"}
 FOREIGN = {"GLFW/": r"(window|app)/\w+\.cpp", "jpeglib.h": r"codecs/\w*(jpeg|transform)\w*\.(cpp|h)",
-           "jerror.h": r"codecs/\w*jpeg\w*\.cpp", "png.h": r"codecs/png\w*\.cpp",
+           "jerror.h": r"codecs/\w*(jpeg|transform)\w*\.cpp", "png.h": r"codecs/png\w*\.cpp",
            "GL/glu.h": r"gl/glucalls\.cpp", "GL/gl": r"$^"}
 
 

@@ -22,7 +22,7 @@ struct layout_t {
 constexpr layout_t k_whole{64, 48, JCS_YCbCr, 2, 2}, k_wide{64, 48, JCS_YCbCr, 2, 1, true},
     k_rgb{40, 24, JCS_RGB, 1, 1}, k_partial{57, 43, JCS_YCbCr, 2, 2, true},
     k_tall{45, 39, JCS_YCbCr, 1, 2}, k_gray{27, 43, JCS_GRAYSCALE, 2, 2},
-    k_tiny{9, 13, JCS_YCbCr, 2, 2};
+    k_tiny{9, 13, JCS_YCbCr, 2, 2}, k_scans{64, 48, JCS_YCbCr, 4, 3};
 
 /// A picture without symmetry as a JPEG, with these segments behind its SOI.
 std::string encoded(layout_t const& layout, std::string const& segments = "") {
@@ -43,6 +43,11 @@ std::string encoded(layout_t const& layout, std::string const& segments = "") {
     cinfo.comp_info[0].v_samp_factor = static_cast<int>(layout.v);
     if (layout.progressive) {
         jpeg_simple_progression(&cinfo);
+    }
+    jpeg_scan_info const scans[] = {{1, {0}, 0, 63, 0, 0}, {2, {1, 2}, 0, 63, 0, 0}};
+    if (layout.h * layout.v > 8) {
+        cinfo.scan_info = scans;  // one scan can't hold all blocks of a unit
+        cinfo.num_scans = 2;
     }
     jpeg_start_compress(&cinfo, TRUE);
     for (unsigned int y = 0; y < layout.height; ++y) {
@@ -171,7 +176,8 @@ void expect_moved(row_t const& row) {
 }
 
 TEST(JpegTransformTest, MovesEachSampleByTheRule) {
-    for (layout_t const& layout : {k_whole, k_wide, k_rgb, k_partial, k_tall, k_gray, k_tiny}) {
+    for (layout_t const& layout :
+         {k_whole, k_wide, k_rgb, k_partial, k_tall, k_gray, k_tiny, k_scans}) {
         for (int code = 0; code < 8; ++code) {
             auto const [swaps, reverses_x, reverses_y] = k_operations[code];
             expect_moved({layout, code, swaps ? layout.height : layout.width,
@@ -260,6 +266,54 @@ TEST(JpegTransformTest, SurvivesCutAndDamagedFiles) {
         EXPECT_EQ(turned(frame + 5, "\xFE\xFE\xFE\xFE", bytes.size()),
                   "nothing\nmemory: error detected.\nInsufficient memory (case 0)\n");
     }
+}
+
+/// A gray JPEG of 3 by 2 blocks with these mean values alone, which differ by up to `3 * step`.
+std::string encoded_steps(JCOEF step) {
+    jpegdata_t data;
+    jpeg_compress_struct cinfo;
+    jpeg_error_mgr error;
+    cinfo.err = jpeg_std_error(&error);
+    jpeg_create_compress(&cinfo);
+    use_memory_destination(&cinfo, data);
+    cinfo.image_width = 24;
+    cinfo.image_height = 16;
+    cinfo.input_components = 1;
+    cinfo.in_color_space = JCS_GRAYSCALE;
+    jpeg_set_defaults(&cinfo);
+    cinfo.optimize_coding = TRUE;
+    auto const any = reinterpret_cast<j_common_ptr>(&cinfo);
+    jvirt_barray_ptr blocks = cinfo.mem->request_virt_barray(any, JPOOL_IMAGE, TRUE, 3, 2, 1);
+    jpeg_write_coefficients(&cinfo, &blocks);
+    int const means[2][3] = {{1, 0, -1}, {-2, 0, 1}};
+    for (unsigned int y = 0; y < 2; ++y) {
+        JBLOCKROW const row = cinfo.mem->access_virt_barray(any, blocks, y, 1, TRUE)[0];
+        for (unsigned int x = 0; x < 3; ++x) {
+            row[x][0] = static_cast<JCOEF>(step * means[y][x]);
+        }
+    }
+    jpeg_finish_compress(&cinfo);
+    jpeg_destroy_compress(&cinfo);
+    return bytes_of(data);
+}
+
+TEST(JpegTransformTest, WritesEachValueOrNothing) {
+    for (int code = 0; code < 8; ++code) {
+        std::string const out = outcome(encoded_steps(900), request(code));
+        bool const steps = k_operations[code].swaps;  // from 900 to -1800 at once
+        EXPECT_EQ(out == "nothing\nmemory: error detected.\nDCT coefficient out of range\n", steps);
+        EXPECT_TRUE(steps || pixels_of(out).samples.size() == 24 * 16) << code;
+    }
+}
+
+TEST(JpegTransformTest, EndsWorkThatNoPictureNeeds) {
+    std::string bytes = encoded({32, 32, JCS_GRAYSCALE, 1, 1, true});
+    std::string const scan = bytes.substr(bytes.find("\xFF\xDA"), bytes.npos);
+    bytes.replace(bytes.find("\xFF\xC2") + 5, 4, be(8000, 2) + be(8000, 2));
+    for (int i = 0; i < 4; ++i) {  // each with a million blocks in six scans
+        bytes.insert(bytes.size() - 2, scan.substr(0, scan.size() - 2));
+    }
+    EXPECT_NE(outcome(bytes, request(0)).find("\nInvalid progressive parameters"), bytes.npos);
 }
 
 TEST(JpegTransformTest, CopiesMarkersByOption) {
