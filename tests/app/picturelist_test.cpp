@@ -5,8 +5,9 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <iomanip>
 #include <iterator>
-#include <vector>
+#include <map>
 
 #include "tests/support/files/testfiles.h"
 
@@ -17,86 +18,53 @@ using namespace zanoview2;
 /// Loads every entry but the ones in `broken`, and writes down what was asked of it.
 struct stand_in_stage_t final : picture_stage_t {
     std::string broken;  ///< one letter an entry
-    std::string log;     ///< a letter for each try, "-" for each removal
+    std::string log;     ///< a letter for each try, "-" for each removal, each behind a blank
 
     bool add(std::string const& path) override {
-        log += path;
+        log += " " + path;
         return broken.find(path) == std::string::npos;
     }
-    void remove() override { log += '-'; }
+    void remove() override { log += " -"; }
 };
 
-struct walk_row_t {
-    char const* entries;  ///< one letter an entry
-    char const* broken;
-    unsigned long from;
-    char move;  ///< f forward, b backward, h first, e last
-    unsigned long n;
-    walk_t outcome;
-    unsigned long to;
-    char const* log;
-};
-
-TEST(PictureList, WalksByTheRules) {
-    walk_row_t const rows[] = {
-        {"abcde", "", 1, 'f', 1, walk_t::moved, 2, "-c"},
-        {"abcde", "", 4, 'f', 1, walk_t::refused, 4, ""},
-        {"abcde", "", 1, 'f', 10, walk_t::refused, 1, ""},
-        {"abcdefghijklmno", "", 8, 'f', 10, walk_t::refused, 8, ""},
-        {"abcdefghijklmno", "", 8, 'b', 10, walk_t::moved, 0, "-a"},
-        {"abcde", "cd", 1, 'f', 1, walk_t::moved, 4, "-cde"},
-        // Nothing loads to the end: the search turns round, and never tries the first entry.
-        {"abcde", "e", 3, 'f', 1, walk_t::moved, 3, "-eed"},
-        {"abcde", "bcde", 1, 'f', 2, walk_t::stranded, 1, "-deedcb"},
-        {"abcde", "", 3, 'b', 2, walk_t::moved, 1, "-b"},
-        {"abcde", "", 0, 'b', 1, walk_t::refused, 0, ""},
-        {"abcde", "bc", 4, 'b', 2, walk_t::moved, 0, "-cba"},
-        {"abcde", "abc", 4, 'b', 2, walk_t::moved, 3, "-cbabcd"},
-        {"abc", "abc", 2, 'b', 1, walk_t::stranded, 2, "-babc"},
-        {"abc", "a", 2, 'h', 0, walk_t::moved, 1, "-ab"},
-        {"abc", "abc", 2, 'h', 0, walk_t::stranded, 2, "-abc"},
-        {"abc", "bc", 2, 'e', 0, walk_t::moved, 0, "-cba"},
-        {"abc", "abc", 1, 'e', 0, walk_t::stranded, 1, "-cba"},
-        {"", "", 0, 'f', 1, walk_t::refused, 0, ""},
-        {"", "", 0, 'b', 1, walk_t::refused, 0, ""},
-        {"", "", 0, 'h', 0, walk_t::refused, 0, ""},
-        {"", "", 0, 'e', 0, walk_t::refused, 0, ""},
-        // Past the end, as after a first load that found nothing.
-        {"abc", "", 3, 'f', 1, walk_t::refused, 3, ""},
-        {"abc", "", 3, 'b', 1, walk_t::moved, 2, "-c"},
-    };
-    for (walk_row_t const& row : rows) {
-        SCOPED_TRACE(std::string(row.entries) + " without " + row.broken + ", " + row.move +
-                     std::to_string(row.n) + " from " + std::to_string(row.from));
-        picture_list_t list;
-        for (char const* entry = row.entries; *entry; ++entry) {
-            list.emplace_back(1, *entry);
-        }
-        stand_in_stage_t stage;
-        stage.broken = row.broken;
-        picture_place_t place{std::next(list.begin(), static_cast<long>(row.from)), row.from};
-        walk_t const outcome = row.move == 'f'   ? walk_forward(list, place, row.n, stage)
-                               : row.move == 'b' ? walk_backward(list, place, row.n, stage)
-                               : row.move == 'h' ? walk_first(list, place, stage)
-                                                 : walk_last(list, place, stage);
-        EXPECT_EQ(outcome, row.outcome);
-        EXPECT_EQ(place.index, row.to);
-        EXPECT_EQ(std::distance(list.begin(), place.entry), static_cast<long>(row.to));
-        EXPECT_EQ(stage.log, row.log);
+walk_t walk(std::string const& move, picture_list_t& list, picture_place_t& place, unsigned long n,
+            picture_stage_t& stage) {
+    if (move == "initial") {
+        return walk_initial(list, place, stage) ? walk_t::moved : walk_t::stranded;
     }
+    return move == "forward"    ? walk_forward(list, place, n, stage)
+           : move == "backward" ? walk_backward(list, place, n, stage)
+           : move == "first"    ? walk_first(list, place, stage)
+                                : walk_last(list, place, stage);
 }
 
-TEST(PictureList, FirstLoadSkipsToTheFirstThatLoadsOrTheEnd) {
-    picture_list_t list{"a", "b", "c"};
-    stand_in_stage_t stage;
-    picture_place_t place{};
-    stage.broken = "a";
-    EXPECT_TRUE(walk_initial(list, place, stage));
-    EXPECT_EQ(place.index, 1u);
-    stage.broken = "abc";
-    EXPECT_FALSE(walk_initial(list, place, stage));
-    EXPECT_EQ(place.index, 3u);
-    EXPECT_EQ(place.entry, list.end());
+TEST(PictureList, WalksByTheRules) {
+    std::map<walk_t, std::string> const names{
+        {walk_t::moved, "moved"}, {walk_t::refused, "refused"}, {walk_t::stranded, "stranded"}};
+    std::ifstream in(WALKS);
+    int rows = 0;
+    for (std::string row; std::getline(in, row);) {
+        if (row.starts_with('#')) {
+            continue;
+        }
+        ++rows;
+        std::istringstream words(row);
+        std::string entries, move, expected;
+        stand_in_stage_t stage;
+        picture_place_t place{};
+        unsigned long n = 0;
+        words >> std::quoted(entries) >> std::quoted(stage.broken) >> place.index >> move >> n;
+        std::getline(words >> std::ws, expected);
+        picture_list_t list;
+        for (char const entry : entries) {
+            list.emplace_back(1, entry);
+        }
+        place.entry = std::next(list.begin(), static_cast<long>(place.index));
+        std::string const outcome = names.at(walk(move, list, place, n, stage));
+        EXPECT_EQ(outcome + " " + std::to_string(place.index) + ":" + stage.log, expected) << row;
+        EXPECT_EQ(std::distance(list.begin(), place.entry), static_cast<long>(place.index)) << row;
+    }
+    EXPECT_EQ(rows, 25);
 }
 
 TEST(PictureList, TakesPicturesByNameSortedInsideTheirDirectory) {
@@ -119,14 +87,14 @@ TEST(PictureList, TakesPicturesByNameSortedInsideTheirDirectory) {
 
     // A file need not exist, but must be named like a picture; a directory may have nothing to
     // give.
-    EXPECT_TRUE(append_pictures(list, "gone.PNG"));
+    for (std::string const& path :
+         {std::string("a.gif"), std::string("-verbose"), base + "sub.bmp"}) {
+        EXPECT_FALSE(append_pictures(list, path)) << path;
+    }
+    EXPECT_EQ(list, expected);
+    EXPECT_TRUE(append_pictures(list, base) && append_pictures(list, "gone.PNG"));
     EXPECT_EQ(list.back(), "gone.PNG");
-    EXPECT_FALSE(append_pictures(list, "a.gif"));
-    EXPECT_FALSE(append_pictures(list, "-verbose"));
-    EXPECT_FALSE(append_pictures(list, base + "sub.bmp"));
-    EXPECT_EQ(list.size(), expected.size() + 1);
-    EXPECT_TRUE(append_pictures(list, base));
-    EXPECT_EQ(list.back(), base + "sub.bmp");
+    EXPECT_EQ(*std::prev(list.end(), 2), base + "sub.bmp");
 }
 
 }  // namespace
