@@ -20,77 +20,81 @@ def wait_for(what, condition, seconds=20):
     raise AssertionError(f"waited {seconds} s for {what}")
 
 
-def xdotool(*words):
-    return subprocess.run(("xdotool",) + tuple(map(str, words)), check=True, text=True,
-                          capture_output=True).stdout.strip()
+def run(*words, check=True):
+    """Standard output, as bytes."""
+    return subprocess.run(tuple(map(str, words)), check=check, capture_output=True).stdout
 
 
-def write_bmp(path, width, height, bits, pixel, lead=0):
+def xdotool(*words, check=True):
+    return run("xdotool", *words, check=check).decode().strip()
+
+
+def bmp_headers(width, height, bits, colours=0):
+    return struct.pack("<2s13I", b"BM", 0, 0, 54 + 4 * colours, 40, width, height, 1 | bits << 16,
+                       0, 0, 0, 0, 0, 0)
+
+
+def write_bmp(path, width, height, bits, pixel):
     """Writes a BMP and returns its pixels as RGB bytes, top row first. `pixel(x, y)`, counted from
     the top left corner, is a palette index below 2**bits for up to 8 bits, else (r, g, b)."""
-    palette = [(i * 67 % 256, i * 131 % 256, (255 - i) * 29 % 256) for i in range(1 << bits)] if bits <= 8 else []
+    colours = 1 << bits if bits <= 8 else 0
+    palette = [(i * 67 % 256, i * 131 % 256, (255 - i) * 29 % 256) for i in range(colours)]
     stride = (width * bits + 31) // 32 * 4
-    offset = 54 + 4 * len(palette) + lead
     shown, rows = [], []
     for y in range(height):
         values = [pixel(x, y) for x in range(width)]
-        shown.append(b"".join(bytes(palette[v] if bits <= 8 else v) for v in values))
-        if bits > 8:
-            row = b"".join(bytes((b, g, r)) + b"\xff" * (bits == 32) for r, g, b in values)
-        else:
-            packed = int("".join(format(v, f"0{bits}b") for v in values), 2) << (-width * bits % 8)
-            row = packed.to_bytes((width * bits + 7) // 8, "big")
-        rows.append(row.ljust(stride, b"\0"))
+        shown += [bytes(palette[v] if palette else v) for v in values]
+        if not palette:
+            values = [int.from_bytes((*v[::-1], 255)[:bits // 8], "big") for v in values]
+        digits = "".join(format(v, f"0{bits}b") for v in values).ljust(8 * stride, "0")
+        rows.append(int(digits, 2).to_bytes(stride, "big"))
     with open(path, "wb") as out:
-        out.write(struct.pack("<2sIHHI", b"BM", offset + stride * height, 0, 0, offset))
-        out.write(struct.pack("<IiiHHIIiiII", 40, width, height, 1, bits, 0, 0, 0, 0, 0, 0))
-        out.write(b"".join(bytes((b, g, r, 0)) for r, g, b in palette) + b"\0" * lead)
+        out.write(bmp_headers(width, height, bits, colours))
+        out.write(b"".join(bytes((b, g, r, 0)) for r, g, b in palette))
         out.write(b"".join(reversed(rows)))
     return b"".join(shown)
 
 
 class Viewer:
-    """The program on the screen; `with` closes it and looks at how it ended."""
+    """The program on the screen. `with` ends it by a key and looks at how it ended, and that it
+    printed `errors` onto the error stream and nothing more."""
 
-    def __init__(self, *arguments, env=None, cwd=None, expect=0):
-        self.expect = expect
+    def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors=""):
+        self.last_key, self.errors = last_key, errors
         self.home = tempfile.TemporaryDirectory()
         self.process = subprocess.Popen(
-            (PROGRAM,) + arguments, cwd=cwd, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-            env={**os.environ, "LANG": "C.UTF-8", "HOME": self.home.name,
-                 "ASAN_OPTIONS": "detect_leaks=1:exitcode=0", **(env or {})})
-        search = ("search", "--onlyvisible", "--pid", self.process.pid)
-        self.window = wait_for("the window", lambda: self.search(search))
+            (PROGRAM,) + arguments, text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+            env={**os.environ, "LANG": lang, "HOME": self.home.name,
+                 "ASAN_OPTIONS": "detect_leaks=1:exitcode=0"})
+        self.window = wait_for("the window", self.search)
         xdotool("windowfocus", "--sync", self.window)
 
-    def search(self, words):
+    def search(self):
         assert self.process.poll() is None, "the program ended: " + self.end()[1]
-        found = subprocess.run(("xdotool",) + tuple(map(str, words)), text=True, capture_output=True)
-        return found.stdout.split()[0] if found.stdout.split() else None
+        found = xdotool("search", "--onlyvisible", "--pid", self.process.pid, check=False)
+        return found.partition("\n")[0]
 
     def __enter__(self):
         return self
 
     def __exit__(self, kind, value, trace):
-        if self.process.poll() is None:
-            self.key("q")
+        self.key(self.last_key)
         try:
-            self.output, self.errors = self.end()
+            ended = *self.end(), self.process.returncode
         finally:
             self.process.kill()
             self.home.cleanup()
-        if kind is None:
-            assert self.process.returncode == self.expect, f"ended with {self.process.returncode}: {self.errors}"
-            assert "Error " not in self.errors, "an OpenGL error: " + self.errors
+        assert kind or ended == ("", self.errors, 0), f"output, errors, status: {ended}"
 
     def end(self):
-        """Standard output and error stream. What a sanitizer says is a fault, but for leaks in which
-        nothing of ours takes part: the GL driver has some, and is unloaded when they are counted."""
-        output, errors = (text.decode() for text in self.process.communicate(timeout=30))
+        """Standard output and error stream. What a sanitizer says is a fault, but for leaks in
+        which nothing of ours takes part: the GL driver has some, and is unloaded when they are
+        counted."""
+        output, errors = self.process.communicate(timeout=30)
         errors, _, report = errors.partition("\n====")
-        ours = [name for name in ("libgr::", "zanolib::", "zanoview2::", "wenk::", "libutils::", "main.cpp")
-                if name in report]
-        assert not ours and "ERROR: AddressSanitizer" not in report and "runtime error" not in errors, errors + report
+        fault = re.search(r"\b(libgr|zanolib|zanoview2|wenk|libutils)::|main\.cpp"
+                          "|ERROR: AddressSanitizer", report)
+        assert not fault and "runtime error" not in errors, errors + report
         return output, errors
 
     def key(self, *names):
@@ -98,50 +102,35 @@ class Viewer:
             xdotool("key", name)
             time.sleep(0.03)
 
-    def title(self):
-        return xdotool("getwindowname", self.window)
-
     def await_title(self, text):
-        wait_for(f"{text!r} in the title, which is {self.title()!r}", lambda: text in self.title())
+        wait_for(f"{text!r} as title", lambda: text in xdotool("getwindowname", self.window))
 
     def look(self):
         """What stands in the window: width, height, RGB bytes."""
-        data = subprocess.run(("import", "-window", self.window, "-depth", "8", "ppm:-"), check=True,
-                              capture_output=True).stdout
+        data = run("import", "-window", self.window, "-depth", "8", "ppm:-")
         head = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", data)
         return int(head[1]), int(head[2]), data[head.end():]
 
     def box(self):
-        """The bounds of all that is not background: left, top, right, bottom, inclusive; or None."""
-        width, height, data = self.look()
-        blank = GRAY * width
-        rows = [y for y in range(height) if data[y * width * 3:(y + 1) * width * 3] != blank]
-        if not rows or data == bytes(len(data)):
-            return None
-        left, right = width, -1
-        for y in rows:
-            row = data[y * width * 3:(y + 1) * width * 3]
-            columns = [x for x in range(width) if row[3 * x:3 * x + 3] != GRAY]
-            left, right = min(left, columns[0]), max(right, columns[-1])
-        return left, rows[0], right, rows[-1]
+        """The bounds of all that isn't background: left, top, right, bottom, inclusive; or None."""
+        width, _, data = self.look()
+        rows = [data[at:at + 3 * width] for at in range(0, len(data), 3 * width)]
+        ys = [y for y, row in enumerate(rows) if row != GRAY * width]
+        xs = [x for x in range(width) if any(rows[y][3 * x:3 * x + 3] != GRAY for y in ys)]
+        return (xs[0], ys[0], xs[-1], ys[-1]) if ys and any(data) else None
 
     def await_box(self, *bounds, slack=0):
-        last = []
-
-        def fits():
-            last[:] = [self.box()]
-            return last[0] and all(abs(a - b) <= slack for a, b in zip(last[0], bounds))
-        try:
-            wait_for("bounds", fits, 10)
-        except AssertionError:
-            raise AssertionError(f"the picture stands at {last[0]}, not at {bounds}") from None
+        end = time.monotonic() + 10
+        while not (box := self.box()) or any(abs(a - b) > slack for a, b in zip(box, bounds)):
+            assert time.monotonic() < end, f"the picture stands at {box}, not at {bounds}"
+            time.sleep(0.02)
 
 
 def part(shot, left, top, width, height):
     """A rectangle of a look."""
     full, _, data = shot
-    return b"".join(data[((top + y) * full + left) * 3:((top + y) * full + left + width) * 3]
-                    for y in range(height))
+    starts = [(y * full + left) * 3 for y in range(top, top + height)]
+    return b"".join(data[start:start + width * 3] for start in starts)
 
 
 class ViewerTest(unittest.TestCase):
@@ -149,22 +138,19 @@ class ViewerTest(unittest.TestCase):
         self.folder = tempfile.TemporaryDirectory()
         self.addCleanup(self.folder.cleanup)
 
-    def start(self, *words, **options):
-        """A program that runs until the test ends."""
-        process = subprocess.Popen(words, stderr=subprocess.DEVNULL, **options)
-        self.addCleanup(process.wait)
+    def start(self, *words):
+        """Starts a program that runs until the test ends, and returns its standard output."""
+        process = subprocess.Popen(words, text=True, stdout=subprocess.PIPE,
+                                   stderr=subprocess.DEVNULL)
+        self.addCleanup(process.communicate)
         self.addCleanup(process.terminate)
+        return process.stdout
 
     def new_screen(self):
-        """A virtual screen of the test's own: a window manager leaves traces on the one it was on."""
-        reading, writing = os.pipe()
-        self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-noreset",
-                   pass_fds=(writing,))
-        former = os.environ["DISPLAY"]
-        self.addCleanup(os.environ.update, DISPLAY=former)
-        os.close(writing)
-        with open(reading) as number:
-            os.environ["DISPLAY"] = ":" + number.readline().strip()
+        """A virtual screen of the test's own: a window manager leaves traces where it was."""
+        number = self.start("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset")
+        self.addCleanup(os.environ.update, DISPLAY=os.environ["DISPLAY"])
+        os.environ["DISPLAY"] = ":" + number.readline().strip()
 
     def path(self, name):
         return os.path.join(self.folder.name, name)
