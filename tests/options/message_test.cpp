@@ -11,10 +11,14 @@
 
 namespace {
 
-using zanolib::init_message;
-
-std::string line(unsigned id) {
-    return zanolib::getmsg(static_cast<zanolib::e_message_t>(id));
+/// The file that is loaded, and its lines, each with a bar behind it.
+std::string load(std::string const& dir, char const* prog = "p") {
+    std::string text = zanolib::init_message(dir.c_str(), prog) + ": ", line;
+    for (unsigned id = 0;
+         (line = zanolib::getmsg(zanolib::e_message_t{id})) != "message not loaded."; ++id) {
+        text += line + "|";
+    }
+    return text;
 }
 
 /// Three directories: the working one, the program's, and one of PATH.
@@ -37,73 +41,54 @@ struct Message : testing::Test {
 };
 
 TEST_F(Message, LinesEndInLfOrCrLf) {
-    std::string const none = "message not loaded.";
-    struct {
-        std::string bytes;
-        std::vector<std::string> lines;  // with the first that is missing
-    } const rows[] = {{"one\ntwo\n", {"one", "two", none}},
-                      {"one\r\n\r\ntwo\r\n", {"one", "", "two", none}},
-                      {"one\ntwo", {"one", none}},
-                      {"a\rb\nc\n", {"a", "b", none}},
-                      {"\n\r\r\n", {"", "", none}},
-                      {"\r", {none}},
-                      {"", {none}},
-                      {std::string("a\0b\nc\n", 6), {"a", "c", none}}};
-    for (auto const& row : rows) {
-        write_file("p.msg", row.bytes);
-        EXPECT_EQ(init_message("", "p"), "p.msg");
-        for (unsigned i = 0; i < row.lines.size(); ++i) {
-            EXPECT_EQ(line(i), row.lines[i]) << testing::PrintToString(row.bytes) << i;
-        }
+    using row_t = std::pair<std::string, char const*>;
+    for (auto const& [bytes, loaded] :
+         {row_t{"one\ntwo\n", "p.msg: one|two|"}, row_t{"one\r\n\r\ntwo\r\n", "p.msg: one||two|"},
+          row_t{"one\ntwo", "p.msg: one|"}, row_t{"a\rb\nc\n", "p.msg: a|b|"},
+          row_t{"\n\r\r\n", "p.msg: ||"}, row_t{"\r", "p.msg: "}, row_t{"", "p.msg: "},
+          row_t{std::string("a\0b\nc\n", 6), "p.msg: a|c|"}}) {
+        write_file("p.msg", bytes);
+        EXPECT_EQ(load(""), loaded) << bytes;
     }
-    EXPECT_EQ(line(~0U), none);
     write_file("p.msg", std::string((1 << 20) + 1, '\n'));
     std::filesystem::create_symlink("/dev/null", "p.xx_YY.msg");
-    EXPECT_EQ(capture.err(), "");
-    EXPECT_EQ(init_message("d/", "p"), "");
-    EXPECT_EQ(line(0), none);
-    EXPECT_EQ(capture.err(), "/usr/site/share/zanolib/p.msg: can't load message file.\n");
-    EXPECT_EQ(capture.out(), "");
+    EXPECT_EQ(load("d/"), ": ") << "too long, and no file";
+    EXPECT_EQ(capture.out() + capture.err(),
+              "/usr/site/share/zanolib/p.msg: can't load message file.\n");
 }
 
 TEST_F(Message, SuffixedFilesAndNearPlacesWin) {
     std::string const dir = program.path() + "/";
-    for (std::string const& file :
-         {dir + "p.msg", std::string("p.msg"), dir + "p.xx_YY.msg", std::string("p.xx_YY.msg")}) {
+    for (std::string const& file : {dir + "p.msg", std::string("p.msg"), dir + "p.xx_YY.msg",
+                                    std::string("p.xx_YY.msg"), std::string("p..msg")}) {
         write_file(file, file + "\n");
-        EXPECT_EQ(init_message(dir.c_str(), "p"), file);
-        EXPECT_EQ(line(0), file);
+        ::setenv("LANG", file == "p..msg" ? "" : "xx_YY", 1);
+        EXPECT_EQ(load(dir), file + ": " + file + "|");
     }
-    ::setenv("LANG", "", 1);
-    write_file("p..msg", "empty\n");
-    EXPECT_EQ(init_message(dir.c_str(), "p"), "p..msg");
     ::unsetenv("LANG");
-    EXPECT_EQ(init_message(dir.c_str(), "p"), "p.msg");
+    EXPECT_EQ(load(dir), "p.msg: p.msg|");
 }
 
 TEST_F(Message, DebugTellsTheSearch) {
     zanolib::g_option.debug = true;
-    init_message("d/", "p");
-    EXPECT_EQ(capture.out(),
-              "d/p.xx_YY.msg: warning can't load message file.\n"
-              "d/p.msg: warning can't load message file.\n");
-    EXPECT_EQ(capture.err(),
-              "init_message() entering.\n"
-              "/usr/site/share/zanolib/p.xx_YY.msg: can't load message file.\n"
-              "/usr/site/share/zanolib/p.msg: can't load message file.\n");
+    load("d/");
+    std::string const site = "/usr/site/share/zanolib/", failed = "can't load message file.\n";
+    EXPECT_EQ(capture.out(), "d/p.xx_YY.msg: warning " + failed + "d/p.msg: warning " + failed);
+    EXPECT_EQ(capture.err(), "init_message() entering.\n" + site + "p.xx_YY.msg: " + failed + site +
+                                 "p.msg: " + failed);
     std::string const found = write_file(path.file("p.xx_YY.msg"), "a\n");
-    EXPECT_EQ(init_message("", "p"), found);
-    EXPECT_EQ(capture.out(), ": dirpath.\n");
-    EXPECT_EQ(capture.err(),
-              "init_message() entering.\npath: " + found + "\ninit_message() leaving.\n");
+    EXPECT_EQ(load(""), found + ": a|");
+    EXPECT_EQ(capture.out() + capture.err(), ": dirpath.\ninit_message() entering.\npath: " +
+                                                 found + "\ninit_message() leaving.\n");
 }
 
 TEST_F(Message, TheProgramsOwnFilesHoldBothTexts) {
-    for (std::string const lang : {"ja_JP.UTF-8", "de_DE"}) {
-        ::setenv("LANG", lang.c_str(), 1);
-        EXPECT_NE(init_message(ZV_DATA_DIR "/", "zanoview3"), "");
-        EXPECT_EQ(zanolib::make_title(line(0).c_str(), line(1).c_str()),
-                  lang == "de_DE" ? "zanoview3 - no picture" : "zanoview3 - 画像なし");
+    std::string const own = ZV_DATA_DIR "/zanoview3";
+    for (auto const& [lang, loaded] :
+         {std::pair{"ja_JP.UTF-8", ".ja_JP.UTF-8.msg: zanoview3|画像なし|"},
+          std::pair{"de_DE", ".msg: zanoview3|no picture|"}}) {
+        ::setenv("LANG", lang, 1);
+        EXPECT_EQ(load(ZV_DATA_DIR "/", "zanoview3"), own + loaded);
     }
 }
 
