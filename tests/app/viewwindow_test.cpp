@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <memory>
 
 #include "options/option.h"
@@ -52,15 +51,9 @@ class ViewWindowTest : public testing::Test {
 
     /// Ends a step.
     void note(std::string const& step) {
-        auto const rounded = [](float value) { return std::round(value * 1000) / 1000 + 0.0f; };
-        libgr::matrix3w_t const& m = m_window->getMatrix();
-        std::ostringstream view;
-        view << "turned " << rounded(std::atan2(m[0][1], m[0][0]) * 57.29578f) << ", scaled "
-             << rounded(std::hypot(m[0][0], m[0][1])) << ", at " << rounded(m[3][0]) << ", "
-             << rounded(m[3][1]) << "\n";
         m_text += "# " + step + "\n" + m_console.out() + m_console.err();
         std::erase(m_glfw.calls, "glfwMakeContextCurrent(w1)");
-        m_text += m_glfw.take_calls() + view.str();
+        m_text += m_glfw.take_calls() + view_text(m_window->getMatrix()) + "\n";
         for (std::size_t at = 0; (at = m_text.find(m_folder.path(), at)) != std::string::npos;) {
             m_text.erase(at, m_folder.path().size());
         }

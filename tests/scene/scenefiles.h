@@ -2,9 +2,12 @@
 // Pictures for the scene's tests, made byte by byte.
 #pragma once
 
+#include <cmath>
 #include <initializer_list>
+#include <sstream>
 #include <string>
 
+#include "geometry/matrix.h"
 #include "tests/support/files/testfiles.h"
 
 /// Little-endian words of 4 bytes.
@@ -42,4 +45,16 @@ inline std::string test_bmp(unsigned width, unsigned height) {
         rows.append((4 - rows.size() % 4) % 4, '\0');
     }
     return bmp(width, height, 24, 0, rows);
+}
+
+/// A view in words, to a thousandth: its turn in degrees, its scale and where it moves the centre.
+inline std::string view_text(libgr::matrix3w_t const& m) {
+    float const numbers[] = {std::atan2(m[0][1], m[0][0]) * 57.29578f, std::hypot(m[0][0], m[0][1]),
+                             m[3][0], m[3][1]};
+    char const* const labels[] = {"turned ", ", scaled ", ", at ", ", "};
+    std::ostringstream text;
+    for (std::size_t i = 0; i < 4; ++i) {
+        text << labels[i] << std::round(numbers[i] * 1000) / 1000 + 0.0f;
+    }
+    return text.str();
 }
