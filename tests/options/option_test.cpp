@@ -3,6 +3,7 @@
 #include "options/option.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <deque>
@@ -36,6 +37,15 @@ struct Option : testing::Test {
         ::setenv("HOME", home.path().c_str(), 1);
     }
     ~Option() override { g_option = {}; }
+    /// The help ends the process with success. Where it does so unasked, the tests have failed.
+    static void SetUpTestSuite() {
+        static pid_t const own = ::getpid();
+        std::atexit([] {
+            if (::getpid() == own && testing::UnitTest::GetInstance()->current_test_info()) {
+                std::_Exit(EXIT_FAILURE);
+            }
+        });
+    }
 
     std::string saved() {
         EXPECT_TRUE(zanolib::option_save(path.c_str()));
