@@ -18,41 +18,34 @@ namespace {
 using namespace libutils;
 using list_t = std::list<std::string>;
 
-struct path_row_t {
-    char const *path, *dirname, *basename;
-    char const* parts;  ///< drive|dir|name|ext
-};
-
-constexpr path_row_t path_rows[] = {
-    {"/a/b/c.tar.gz", "/a/b/", "c.tar", "|/a/b/|c.tar|.gz"},
-    {"/a/b/", "/a/b/", "", "|/a/b/||"},
-    {"/a.d/c", "/a.d/", "c", "|/a.d/|c|"},
-    {".hidden", "", "", "|||.hidden"},
-    {"", "", "", "|||"},
-    {"c:\\x/y.z", "c:\\x/", "y", "c:|\\x/|y|.z"},
-    {"x/y\\z.w", "x/y\\", "z", "|x/y\\|z|.w"},
-    {"a:b:c.d", "", "a:b:c", "a:||b:c|.d"},
-    {"/\xC3\xA4.\xE5\xAF\xBA/\xC3\xB6.png", "/\xC3\xA4.\xE5\xAF\xBA/", "\xC3\xB6",
-     "|/\xC3\xA4.\xE5\xAF\xBA/|\xC3\xB6|.png"},
-    {"/\xFF\xC3/\x80.jpg", "/\xFF\xC3/", "\x80", "|/\xFF\xC3/|\x80|.jpg"},  // no UTF-8
-    {"a/b.\xE5\xAF", "a/", "b", "|a/|b|.\xE5\xAF"},                         // cut off
-};
+/// A path and its parts: dirname|basename|drive|dir|name|ext. Two aren't UTF-8.
+constexpr std::pair<char const*, char const*> path_rows[] = {
+    {"/a/b/c.tar.gz", "/a/b/|c.tar||/a/b/|c.tar|.gz"},
+    {"/a/b/", "/a/b/|||/a/b/||"},
+    {"/a.d/c", "/a.d/|c||/a.d/|c|"},
+    {".hidden", "|||||.hidden"},
+    {"", "|||||"},
+    {"c:\\x/y.z", "c:\\x/|y|c:|\\x/|y|.z"},
+    {"x/y\\z.w", "x/y\\|z||x/y\\|z|.w"},
+    {"a:b:c.d", "|a:b:c|a:||b:c|.d"},
+    {"/\xFF\xC3/\x80.jpg", "/\xFF\xC3/|\x80||/\xFF\xC3/|\x80|.jpg"},
+    {"a/b.\xE5\xAF", "a/|b||a/|b|.\xE5\xAF"},
+    {"\xC3\xA4.\xE5\xAF\xBA/\xC3\xB6.png",
+     "\xC3\xA4.\xE5\xAF\xBA/|\xC3\xB6||\xC3\xA4.\xE5\xAF\xBA/|\xC3\xB6|.png"}};
 
 TEST(path, parts_in_every_locale) {
     for (char const* const locale : {"C", "C.UTF-8"}) {
         ASSERT_NE(std::setlocale(LC_ALL, locale), nullptr);
-        for (path_row_t const& row : path_rows) {
-            SCOPED_TRACE(row.path);
-            std::string const path = row.path;
-            EXPECT_TRUE(dirname(path) == row.dirname && basename(path) == row.basename);
-            EXPECT_EQ(baseptr(row.path), row.path + strlen(row.dirname));
+        for (auto const& [given, expected] : path_rows) {
+            std::string const path = given, bar = "|";
             splitpath_t parts;
-            split(parts, row.path);
-            EXPECT_EQ(
-                std::string(parts.drive) + '|' + parts.dir + '|' + parts.name + '|' + parts.ext,
-                row.parts);
+            split(parts, given);
+            EXPECT_EQ(dirname(path) + bar + basename(path) + bar + parts.drive + bar + parts.dir +
+                          bar + parts.name + bar + parts.ext,
+                      expected);
+            EXPECT_EQ(baseptr(given), given + dirname(path).size());
             char whole[4096];
-            EXPECT_EQ(std::string(concat(whole, parts)), path);
+            EXPECT_EQ(concat(whole, parts), path);
             EXPECT_EQ(delimconvert(path) + deliminvert(path), path + path);
         }
     }
@@ -88,20 +81,19 @@ TEST(path, fixed_rooms_are_not_left) {
 }
 
 TEST(path, searches_in_order_and_compares_ends) {
-    EXPECT_TRUE(extcasecmp("a.JPG", 5, ".jpg") == 0 && extcasecmp("g", 1, ".jpg") == -1 &&
-                extcasecmp(std::string("picture.jpeg"), ".jpg") != 0);
+    EXPECT_TRUE(extcasecmp("a.JPG", 5, ".jpg") == 0 && extcasecmp("g", 1, ".jpg") == -1);
+    EXPECT_NE(extcasecmp(std::string("picture.jpeg"), ".jpg"), 0);
     temp_dir_t const dir;
     for (std::string const name : {"one", "two"}) {
         std::filesystem::create_directory(dir.file(name));
         write_file(dir.file(name + "/a.msg"), "");
     }
-    std::string const kept = ::getenv("PATH"), program = dir.file("two/program.x");
+    std::string const program = dir.file("two/program.x");
     ::setenv("PATH", (dir.file("no") + "::" + dir.file("one")).c_str(), 1);
     EXPECT_EQ(searchpath("a.msg", program.c_str()), dir.file("one/a.msg"));
     ::unsetenv("PATH");
     EXPECT_EQ(searchpath("a.msg", program.c_str()), dir.file("two//a.msg"));
     EXPECT_EQ(searchpath("a.msg", nullptr), "a.msg");
-    ::setenv("PATH", kept.c_str(), 1);
 }
 
 TEST(token, separates_joins_and_trims) {
@@ -114,10 +106,10 @@ TEST(token, separates_joins_and_trims) {
         separate_token(out, text, delimiters);
         EXPECT_EQ(out, tokens) << text;
     }
-    std::pair<std::string, std::string> pair = {"k=v=w", "old"};
-    EXPECT_TRUE(!separate_first_token(pair, "kv", '=') && pair.second == "old" &&
-                separate_first_token(pair, pair.first, '=') && pair.first == "k" &&
-                pair.second == "v=w");
+    using pair_t = std::pair<std::string, std::string>;
+    pair_t pair = {"k=v=w", "old"};
+    EXPECT_TRUE(!separate_first_token(pair, "kv", '=') && pair.second == "old");
+    EXPECT_TRUE(separate_first_token(pair, pair.first, '=') && pair == pair_t("k", "v=w"));
     list_t list = {"a", "b"};
     concatenate_token(pair.first, list, ", ");
     EXPECT_EQ(pair.first, "a, b");
