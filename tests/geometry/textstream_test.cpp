@@ -141,6 +141,7 @@ TEST(TextStream, Names) {
         e_mtype_t type = MTYPE_POS3;
         in >> std::noskipws >> type;
         EXPECT_EQ(type, wanted) << name;
+        EXPECT_EQ(in.fail(), *name == '\0') << name;
         EXPECT_TRUE((in.flags() & std::ios_base::skipws) != 0 && in.peek() == next) << name;
     }
     std::istringstream in("unknown(1, 2)dir2l(3, 4)");
