@@ -133,9 +133,7 @@ bool convert(bmpimage_t& bmp, image2d_t const& image) {
             return true;
         }
     }
-    libutils::error();
-    std::cerr << "convert(to bmp): not supported format." << std::endl;
-    return false;
+    return libutils::refuse("convert(to bmp): not supported format.");
 }
 
 bool image_bmp_t::load(image2d_t& image, char const* path) {

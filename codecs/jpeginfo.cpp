@@ -52,6 +52,7 @@ void read_header(decoding_t& decoding) {
     jpeg_create_decompress(cinfo);
     use_work_limit(cinfo, decoding.limit, decoding.data.size());
     decoding.source = use_memory_source(cinfo, decoding.data);
+    decoding.limit.source = decoding.source;
     jpeg_save_markers(cinfo, JPEG_COM, k_saved_length);
     for (int n = 0; n < 16; ++n) {
         jpeg_save_markers(cinfo, JPEG_APP0 + n, decoding.app_length);
@@ -70,8 +71,9 @@ void read_rows(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
     jpeg_start_decompress(cinfo);
     // A file of several scans has been read whole by now, and every row comes out of what there is.
-    decoding.fell_short = decoding.source->has_run_out() || decoding.error.ran_dry;
-    decoding.error.ran_dry = false;
+    bool const is_read = jpeg_has_multiple_scans(cinfo) != FALSE;
+    decoding.fell_short = is_read && (decoding.limit.is_reached || lacks_data(cinfo) ||
+                                      decoding.source->has_run_out());
     JSAMPARRAY const elsewhere = (*cinfo->mem->alloc_sarray)(
         reinterpret_cast<j_common_ptr>(cinfo), JPOOL_IMAGE,
         cinfo->output_width * static_cast<JDIMENSION>(cinfo->output_components), 1);
@@ -80,7 +82,7 @@ void read_rows(decoding_t& decoding) {
         JSAMPROW row = target < decoding.stored_rows ? decoding.bottom + decoding.row_size * target
                                                      : elsewhere[0];
         bool const delivered = jpeg_read_scanlines(cinfo, &row, 1) == 1;
-        if (!delivered || decoding.error.ran_dry) {
+        if (!delivered || (!is_read && lacks_data(cinfo))) {
             decoding.fell_short = true;
             break;
         }

@@ -12,9 +12,11 @@ namespace {
 
 constexpr int k_most_scans = 100;
 
-/// The smallest files that encoders make of one colour hold some 3000 times their size in pixels.
+/// A picture of one colour takes a bit a block at least, hence some 1500 times its file's bytes;
+/// there is no such bound in arithmetic coding.
 constexpr std::uint64_t k_densest_ratio = 4096;
 constexpr std::uint64_t k_harmless_claim = std::uint64_t{64} << 20;  // bytes
+constexpr std::uint64_t k_harmless_arithmetic_claim = std::uint64_t{1} << 30;
 
 /// A block of a picture of one colour takes some bits in one scan at least, but for arithmetic
 /// coding, and a picture for viewing has some ten scans.
@@ -54,8 +56,12 @@ void limit_work(j_common_ptr any) {
     limit.blocks += blocks_of_row(*cinfo);
     std::uint64_t const most =
         k_harmless_blocks + k_blocks_of_a_byte * limit.held + 2 * blocks_of_picture(*cinfo);
-    if (limit.scan > k_most_scans || limit.blocks > most) {
+    limit.is_reached = limit.scan > k_most_scans || limit.blocks > most;
+    if (limit.is_reached && limit.source == nullptr) {
         ERREXIT(cinfo, JERR_BAD_PROGRESSION);
+    } else if (limit.is_reached) {
+        cinfo->unread_marker = 0;  // what was read ahead isn't looked at any more
+        end_source(*limit.source);
     }
 }
 
@@ -71,8 +77,10 @@ bool is_possible_picture(jpeg_decompress_struct const& cinfo, std::uint64_t pixe
                          std::uint64_t other_bits, std::uint64_t held) {
     std::uint64_t const claimed =
         std::uint64_t{cinfo.image_width} * cinfo.image_height * pixel_bits / 8;
+    std::uint64_t const harmless =
+        cinfo.arith_code != FALSE ? k_harmless_arithmetic_claim : k_harmless_claim;
     return fits_in_memory(cinfo.image_width, cinfo.image_height, pixel_bits + other_bits) &&
-           (claimed <= k_harmless_claim || claimed / k_densest_ratio <= held);
+           (claimed <= harmless || claimed / k_densest_ratio <= held);
 }
 
 }  // namespace libgr

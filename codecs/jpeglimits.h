@@ -11,15 +11,17 @@ namespace libgr {
 /// Counts the blocks that a decompressor reads of a file of several scans.
 struct work_limit_t {
     jpeg_progress_mgr base{};
-    std::uint64_t held = 0;    ///< bytes of the file
+    std::uint64_t held = 0;                  ///< bytes of the file
+    jpeg_memory_source_t* source = nullptr;  ///< ends when the limit is reached; null: an error
+    bool is_reached = false;
     std::uint64_t blocks = 0;  ///< read so far, in all scans
     int scan = 0;              ///< the last row that was counted
     JDIMENSION row = 0;
 };
 
-/// Has the decompressor, which must have been created, make it an error when the scans of a file of
-/// `held` bytes come to more than 100, or read more blocks than scans made for viewing do: such a
-/// file is made to keep a decoder busy, not to be looked at.
+/// Has the decompressor, which must have been created, go no further when the scans of a file of
+/// `held` bytes come to more than 100, or have read more blocks than scans made for viewing do:
+/// such a file may be made to keep a decoder busy.
 void use_work_limit(j_decompress_ptr cinfo, work_limit_t& limit, std::uint64_t held);
 
 /// Whether a picture of the header's size can come out of a file of `held` bytes and be held in

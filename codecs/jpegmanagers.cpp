@@ -3,6 +3,9 @@
 #include "codecs/jpegmanagers.h"
 
 #include <jerror.h>
+#if __has_include(<jpegint.h>)
+#include <jpegint.h>
+#endif
 
 #include <iostream>
 
@@ -20,16 +23,6 @@ jpeg_memory_source_t& source_of(j_decompress_ptr cinfo) {
     return *reinterpret_cast<jpeg_memory_source_t*>(cinfo->src);
 }
 
-/// libjpeg warns of a marker within the data at the very moment from which its entropy decoder
-/// makes up what is missing.
-void notice_message(j_common_ptr cinfo, int level) {
-    auto* const error = reinterpret_cast<my_error_mgr*>(cinfo->err);
-    if (level < 0 && error->base.msg_code == JWRN_HIT_MARKER) {
-        error->ran_dry = true;
-    }
-    error->emit_default(cinfo, level);
-}
-
 void src_init(j_decompress_ptr cinfo) {
     cinfo->src->next_input_byte = nullptr;
     cinfo->src->bytes_in_buffer = 0;
@@ -45,8 +38,7 @@ boolean src_fill_input_buff(j_decompress_ptr cinfo) {
         ERREXIT(cinfo, JERR_INPUT_EOF);
     }
     if (source.has_run_out() && jpeg_has_multiple_scans(cinfo)) {
-        source.base.next_input_byte = k_end_of_image;
-        source.base.bytes_in_buffer = sizeof k_end_of_image;
+        end_source(source);
     } else {
         source.base.next_input_byte = source.data->begin();
         source.base.bytes_in_buffer = source.data->size();
@@ -119,9 +111,6 @@ void my_error_exit(j_common_ptr cinfo) {
 jpeg_error_mgr* use_error_mgr(my_error_mgr& error, jpegdata_t const& data) {
     jpeg_std_error(&error.base);
     error.base.error_exit = my_error_exit;
-    error.emit_default = error.base.emit_message;
-    error.base.emit_message = notice_message;
-    error.ran_dry = false;
     error.data = &data;
     return &error.base;
 }
@@ -141,6 +130,19 @@ jpeg_memory_source_t* use_memory_source(j_decompress_ptr cinfo, jpegdata_t const
     source->in_header = true;
     cinfo->src = &source->base;
     return source;
+}
+
+void end_source(jpeg_memory_source_t& source) {
+    source.base.next_input_byte = k_end_of_image;
+    source.base.bytes_in_buffer = sizeof k_end_of_image;
+}
+
+bool lacks_data(j_decompress_ptr cinfo) {
+#if __has_include(<jpegint.h>)
+    return cinfo->entropy->insufficient_data != FALSE;
+#else
+    return source_of(cinfo).has_run_out();
+#endif
 }
 
 void use_memory_destination(j_compress_ptr cinfo, jpegdata_t& data) {

@@ -17,8 +17,6 @@ struct my_error_mgr {
     jpeg_error_mgr base;
     std::jmp_buf jump;
     jpegdata_t const* data;  ///< whose name the messages bear
-    bool ran_dry;            ///< the entropy decoder goes on without data since it was set
-    void (*emit_default)(j_common_ptr cinfo, int level);
 };
 
 /// The error manager's exit: writes the file's name and ": error detected." on std::cerr, then
@@ -58,6 +56,13 @@ struct jpeg_memory_source_t {
 
 /// Gives the decompressor, which must have been created, such a source from its permanent pool.
 jpeg_memory_source_t* use_memory_source(j_decompress_ptr cinfo, jpegdata_t const& data);
+
+/// Has the source, behind the header, deliver no more than an end of image.
+void end_source(jpeg_memory_source_t& source);
+
+/// Whether the entropy decoder makes up what it gives out, its data having run out. A restart
+/// marker gives it data again.
+bool lacks_data(j_decompress_ptr cinfo);
 
 /// Gives the compressor, which must have been created, a destination from its permanent pool that
 /// fills `data` in steps of 1 MiB.

@@ -5,7 +5,6 @@
 #include <jerror.h>
 
 #include <algorithm>
-#include <iostream>
 #include <iterator>
 
 #include "codecs/claims.h"
@@ -175,8 +174,7 @@ bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
     bool const is_turned = run_jpeg_step(read_and_write, reading) && reading.is_written;
     info.workspace = nullptr;  // it goes with the decompressor
     if (!reading.is_perfect) {
-        libutils::error();
-        std::cerr << ": transformation is not perfect" << std::endl;
+        libutils::refuse(": transformation is not perfect");
     }
     if (!is_turned) {
         out.clear();
@@ -188,9 +186,7 @@ bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
 bool transform(unsigned long rightrotatecount, jpegdata_t& out, jpegdata_t const& in) {
     constexpr JXFORM_CODE k_turns[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180, JXFORM_ROT_270};
     if (rightrotatecount >= std::size(k_turns)) {
-        libutils::error();
-        std::cerr << rightrotatecount << ": jpeg transform rightrotate count over." << std::endl;
-        return false;
+        return libutils::refuse(rightrotatecount, ": jpeg transform rightrotate count over.");
     }
     jpeg_transform_info info;
     info.transform = k_turns[rightrotatecount];

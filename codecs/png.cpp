@@ -248,9 +248,7 @@ bool check_if_png(char const* path, stream_t& stream) {
     stream.open(path, std::ios_base::in | std::ios_base::binary);
     if (!stream) {
         int const reason = errno;
-        libutils::error();
-        std::cerr << path << ": file open error, " << std::strerror(reason) << std::endl;
-        return false;
+        return libutils::refuse(path, ": file open error, ", std::strerror(reason));
     }
     unsigned char bytes[k_signature_bytes] = {};
     stream.read(reinterpret_cast<char*>(bytes), k_signature_bytes);

@@ -298,11 +298,11 @@ std::ostream& operator<<(std::ostream& out, triangle_t const& value) {
 
 std::ostream& operator<<(std::ostream& out, e_mtype_t type) {
     if (type > MTYPE_END)
-        return out << "range over\n";
+        return out << "range over" << std::endl;
     if (mtype_table[type].value != type)
-        return out << "table error\n";
+        return out << "table error" << std::endl;
     if (type == MTYPE_END)
-        return out << "no type\n";
+        return out << "no type" << std::endl;
     return out << mtype_table[type].name;
 }
 

@@ -12,6 +12,9 @@
 
 namespace libgr {
 
+using libutils::max2;
+using libutils::min2;
+
 /// A point in the plane.
 struct position2_t {
     float x, y;

@@ -146,12 +146,6 @@ bool image_bits_of(GLint componentbits, e_image_bits_t& bits) {
     return true;
 }
 
-bool refuse(const char* message) {
-    libutils::error();
-    std::cerr << message << std::endl;
-    return false;
-}
-
 /// Makes `img` the record of a level whose parameters `query` tells, without its pixels; `redtype`
 /// is the type of the level's red component.
 template <typename query_t>
@@ -174,12 +168,12 @@ bool describe_level(const query_t& query, image2d_t& img, GLint& redtype) {
     }
     const GLint redsize = ask(GL_TEXTURE_RED_SIZE, "get texture level parameter (red_size)");
     if (!image_bits_of(redsize, img.desc.bits)) {
-        return refuse("red size is not recognized.");
+        return libutils::refuse("red size is not recognized.");
     }
     img.compressed = false;
     // Every type that can be asked for has components of 4 bytes, however narrow the texture's are.
     if (!grAllocateForPack(img, 16)) {
-        return refuse("grTextureObject::GetTextureImage() img allocate fail.");
+        return libutils::refuse("grTextureObject::GetTextureImage() img allocate fail.");
     }
     grPixelStorePack(img.store);
     grPixelStorePack(img.window);

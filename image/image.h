@@ -177,6 +177,8 @@ struct image1d_t : image_bytes_t {
     unsigned char const* operator[](unsigned int i) const {
         return begin() + i + window.skippixels;
     }
+    unsigned char* operator[](int i) { return (*this)[static_cast<unsigned int>(i)]; }
+    unsigned char const* operator[](int i) const { return (*this)[static_cast<unsigned int>(i)]; }
 
   private:
     using image_bytes_t::operator[];

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cmath>
-#include <iostream>
 
 #include "geometry/vector.h"
 #include "image/pixelconvert.h"
@@ -17,11 +16,7 @@ namespace {
 constexpr unsigned int cube_map_side = 256;
 constexpr std::size_t cube_map_stride = cube_map_side * 3;
 
-bool refuse(char const* line) {
-    libutils::error();
-    std::cerr << line << std::endl;
-    return false;
-}
+using libutils::refuse;
 
 bool has_whole_bytes(image2d_t const& image) {
     return image.desc.type != IMAGE_TYPE_FLOAT && image.desc.bits == IMAGE_BITS_8;

@@ -14,7 +14,6 @@
 
 namespace libgr {
 
-using libutils::min2;
 
 namespace {
 
@@ -146,12 +145,7 @@ unsigned int index_at(unsigned char const* row, unsigned long long bits, unsigne
     return (row[position / 8] >> (8 - bits - position % 8)) & ((1U << bits) - 1U);
 }
 
-template <typename T>
-bool refuse(T const& subject, char const* text) {
-    libutils::error();
-    std::cerr << subject << text << std::endl;
-    return false;
-}
+using libutils::refuse;
 
 /// Whether a colour can be painted onto the image; the wrong kind of image gets its line.
 bool is_paintable(image2d_t const& img) {
@@ -159,13 +153,13 @@ bool is_paintable(image2d_t const& img) {
         return false;
     }
     if (img.desc.type != IMAGE_TYPE_UINT) {
-        return refuse("", "not support image type.");
+        return refuse("not support image type.");
     }
     if (img.desc.bits != IMAGE_BITS_8) {
-        return refuse("", "not support image bits.");
+        return refuse("not support image bits.");
     }
     if (img.desc.format != IMAGE_FORMAT_RGB && img.desc.format != IMAGE_FORMAT_RGBA) {
-        return refuse("", "not support format.");
+        return refuse("not support format.");
     }
     return img.m_width == 0 || img.m_height == 0 || (pixels_within(img) && img.is_writable());
 }

@@ -3,7 +3,6 @@
 #include "image/scaledown.h"
 
 #include <cstddef>
-#include <iostream>
 
 #include "utils/diagnostics.h"
 
@@ -93,14 +92,10 @@ bool reduce(image2d_t& dst, image2d_t const& src, mosaic_t const* mosaic) {
     dst.m_width = src.m_width / 2;
     dst.m_height = src.m_height / 2;
     if (!dst.allocate()) {
-        libutils::error();
-        std::cerr << "scaledown(): allocate() fail." << std::endl;
-        return false;
+        return libutils::refuse("scaledown(): allocate() fail.");
     }
     if (!is_supported(src.desc.format, mosaic == nullptr)) {
-        libutils::error();
-        std::cerr << "scaledown(): " << src.desc.format << ": unsupported format." << std::endl;
-        return false;
+        return libutils::refuse("scaledown(): ", src.desc.format, ": unsupported format.");
     }
     if (dst.m_height == 0) {
         return true;

@@ -6,11 +6,13 @@
 
 #include "metadata/ifdwalk.h"
 #include "metadata/makernotes.h"
-#include "metadata/refusal.h"
+#include "utils/diagnostics.h"
 
 namespace libgr {
 
 namespace {
+
+using libutils::refuse;
 
 using tiff_header_t = app1_marker_t::tiff_header_t;
 

@@ -9,12 +9,13 @@
 #include <iterator>
 
 #include "metadata/exif.h"
-#include "metadata/refusal.h"
+#include "utils/diagnostics.h"
 
 namespace libgr {
 
 using libutils::byteorder;
 using libutils::min2;
+using libutils::refuse;
 
 jpeg_bytes_t part_of(jpeg_bytes_t const& source, unsigned long at, unsigned long count) {
     unsigned long const start = min2(at, source.size());

@@ -5,7 +5,7 @@
 #include <numeric>
 #include <ostream>
 
-#include "metadata/refusal.h"
+#include "utils/diagnostics.h"
 
 namespace libgr {
 
@@ -17,6 +17,8 @@ unsigned char const zigzag_to_array[64] = {
 };
 
 namespace {
+
+using libutils::refuse;
 
 constexpr unsigned long dqt_unit = 1 + sizeof(zigzag_to_array);
 

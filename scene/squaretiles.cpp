@@ -16,9 +16,7 @@ namespace zanolib {
 namespace {
 
 bool refuse(char const* reason) {
-    libutils::error();
-    std::cerr << "rectangle_to_squares()" << reason << std::endl;
-    return false;
+    return libutils::refuse("rectangle_to_squares()", reason);
 }
 
 bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const& window,

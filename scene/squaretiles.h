@@ -17,7 +17,8 @@ namespace zanolib {
 /// it.
 inline constexpr std::uint64_t max_tiles = std::uint64_t{1} << 18;
 
-/// The most texels that a picture's textures may have when it fills less than an eighth of them.
+/// The most texels that a picture's textures may have when it fills less than an eighth of them, as
+/// a strip of one row does: 512 MiB of a GL's memory. Such a picture isn't cut.
 inline constexpr std::uint64_t harmless_texels = std::uint64_t{1} << 27;
 
 /// How one axis of a picture is cut.

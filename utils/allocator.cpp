@@ -20,44 +20,72 @@ char const* const memory_error = "can't alloc memory.\n";
 
 namespace {
 
-/// The anonymous block that was given back last, kept since the next picture of a list needs one
-/// like it: fresh pages cost more than the decoder's writing to them. The system may take the pages
-/// back whenever it is short of memory.
+unsigned long whole_pages(unsigned long bytes) {
+    static unsigned long const page = static_cast<unsigned long>(::sysconf(_SC_PAGESIZE));
+    return (bytes + page - 1) / page * page;
+}
+
+/// A large anonymous mapping that was given back, kept because the next picture of a list needs one
+/// like it: fresh pages take longer to come by than to be filled again. Until then the system may
+/// take its pages whenever it is short of memory.
 class spare_block_t {
   public:
-    /// The spare block made `size` bytes long and 0 throughout, or null where there is none.
+    /// The spare made `size` bytes long, 0 throughout; null where there is none. A small request
+    /// tells that no large one is under way and gives the spare up.
     void* take(unsigned long size) {
-        if (m_begin == nullptr || size < smallest) {
-            return nullptr;
+        if (size < smallest) {
+            drop();
         }
-        void* const block = ::mremap(m_begin, m_size, size, MREMAP_MAYMOVE);
+        unsigned long const pages = whole_pages(size);
+        void* const block =
+            m_begin != nullptr ? ::mremap(m_begin, m_size, pages, MREMAP_MAYMOVE) : MAP_FAILED;
         if (block == MAP_FAILED) {
             return nullptr;
         }
-        std::memset(block, 0, min2(m_size, size));
+        std::memset(block, 0, min2(m_size, pages));  // to the pages' end: it may grow once more
         m_begin = nullptr;
         return block;
     }
 
+    /// Whether the mapping is the spare now.
     bool keep(void* block, unsigned long size) {
         if (m_begin != nullptr || size < smallest || size > largest) {
             return false;
         }
-        ::madvise(block, size, MADV_FREE);
         m_begin = block;
-        m_size = size;
+        m_size = whole_pages(size);
+        ::madvise(m_begin, m_size, MADV_FREE);
         return true;
+    }
+
+    /// Whether there was one.
+    bool drop() {
+        bool const is_held = m_begin != nullptr;
+        if (is_held) {
+            ::munmap(m_begin, m_size);
+            m_begin = nullptr;
+        }
+        return is_held;
     }
 
   private:
     static constexpr unsigned long smallest = 4UL << 20;  // bytes
-    static constexpr unsigned long largest = 512UL << 20;
+    static constexpr unsigned long largest = 256UL << 20;
 
     void* m_begin = nullptr;
     unsigned long m_size = 0;
 };
 
 spare_block_t s_spare;
+
+/// mmap, once more without the spare where there is no room beside it.
+void* map(void* hint, unsigned long size, int prot, int flags, int fd, unsigned long long offset) {
+    void* storage = MAP_FAILED;
+    do {
+        storage = ::mmap(hint, size, prot, flags, fd, static_cast<off_t>(offset));
+    } while (storage == MAP_FAILED && s_spare.drop());
+    return storage;
+}
 
 unsigned char* new_bytes(unsigned long bytes) {
     return bytes <= PTRDIFF_MAX ? new (std::nothrow) unsigned char[bytes] : nullptr;
@@ -151,10 +179,10 @@ void* alloc_mmap_unix::allocate(unsigned long& bytes, char const* path, e_prot_t
         flags = MAP_ANON | MAP_PRIVATE;
     }
     size = bytes;
-    if (void* const spare = fd == -1 ? s_spare.take(size) : nullptr) {
+    if (void* const spare = fd == -1 && offset == 0 ? s_spare.take(size) : nullptr) {
         return spare;
     }
-    return ::mmap(nullptr, size, prot, flags, fd, static_cast<off_t>(offset));
+    return map(nullptr, size, prot, flags, fd, offset);
 }
 
 void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long long offset) {
@@ -168,8 +196,7 @@ void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long 
     if (next.fd != -1 && !file_holds(next.fd, wanted, offset)) {
         return MAP_FAILED;
     }
-    void* const storage =
-        ::mmap(p, newsize, next.prot, next.flags, next.fd, static_cast<off_t>(offset));
+    void* const storage = map(p, newsize, next.prot, next.flags, next.fd, offset);
     if (failed(storage) && newsize != 0) {
         return MAP_FAILED;
     }

@@ -44,9 +44,9 @@ struct alloc_new {
 };
 
 /// Storage by mmap: a file's own pages, or anonymous pages, which read as 0 and cost nothing until
-/// they are touched. One large anonymous block that was given back is kept for the next to come.
-/// A failed mmap is handed on as the system's failed-map pointer, not as null; a
-/// mapping of 0 bytes always is one.
+/// they are touched. A large anonymous mapping that was given back is kept for the next one to
+/// come, which then has its pages at once; the next small one gives it up. A failed mmap is handed
+/// on as the system's failed-map pointer, not as null; a mapping of 0 bytes always is one.
 struct alloc_mmap_unix {
     int fd = -1;             ///< the open file, -1 for an anonymous mapping
     unsigned long size = 0;  ///< bytes mapped

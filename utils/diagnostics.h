@@ -4,7 +4,7 @@
 
 #include <iomanip>
 #include <ios>
-#include <ostream>
+#include <iostream>
 
 namespace libutils {
 
@@ -22,6 +22,17 @@ struct keepflag {
     std::ostream& stream;
     std::ios_base::fmtflags flags;
 };
+
+/// Writes the parts as one line on the error stream, numbers in decimal. Always false, so that who
+/// refuses something can return it.
+template <typename... Parts>
+bool refuse(Parts const&... parts) {
+    error();
+    keepflag const keep(std::cerr);
+    std::cerr << std::dec;
+    (std::cerr << ... << parts) << std::endl;
+    return false;
+}
 
 struct _putspace {
     unsigned long n;

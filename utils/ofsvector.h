@@ -88,7 +88,7 @@ class refvector2 {
                       unsigned long long offset, bool keep, android_app* app);
 
     /// Gives the block's storage another size, for all handles on it; without a block, takes new
-    /// storage. False when it can't be had, and then nothing changes, or when `number` is 0.
+    /// storage. False when it can't be had, and then nothing changes, or for a block of 0 elements.
     virtual bool resize(unsigned long number, unsigned long long offset);
     virtual void clear() { deallocate(); }
     virtual ~refvector2() { deallocate(); }
@@ -186,7 +186,7 @@ class ofsvector : public refvector2<T, A> {
     T* operator->() override { return begin(); }
     T const* operator->() const override { return begin(); }
 
-    /// As the base's, and the window then is the whole storage.
+    /// As the base's, and the window then is the whole storage, on failure the old one.
     bool load(unsigned long number, char const* path, e_prot_t prot, unsigned long long position,
               bool keep, android_app* app) override;
 
@@ -251,9 +251,7 @@ template <typename T, typename A>
 bool ofsvector<T, A>::load(unsigned long number, char const* path, e_prot_t prot,
                            unsigned long long position, bool keep, android_app* app) {
     bool const loaded = base::load(number, path, prot, position, keep, app);
-    if (loaded || !this->is_allocated()) {
-        show_all();
-    }
+    show_all();
     return loaded;
 }
 

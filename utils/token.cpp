@@ -31,11 +31,12 @@ void separate_token(std::list<std::string>& out, std::string const& text, char c
 
 bool separate_first_token(std::pair<std::string, std::string>& out, std::string const& text,
                           char delimiter) {
-    std::size_t const position = text.find(delimiter);
-    if (position == std::string::npos) {
+    char const* const found = std::strchr(text.c_str(), delimiter);
+    if (found == nullptr) {
         return false;
     }
-    out = {text.substr(0, position), text.substr(position + 1)};
+    auto const position = static_cast<std::size_t>(found - text.c_str());
+    out = {text.substr(0, position), position < text.size() ? text.substr(position + 1) : ""};
     return true;
 }
 

@@ -6,7 +6,7 @@
 #include "codecs/jpegobject.h"
 #include "codecs/orientation.h"
 #include "geometry/constants.h"
-#include "tests/codecs/picturebytes.h"
+#include "tests/codecs/jpegmaker.h"
 
 namespace {
 
@@ -139,6 +139,36 @@ TEST_F(JpegTest, ShowsACutFileAsFarAsItGoes) {
     EXPECT_NE(load(half).find(file + ": decompress fail.\n"), half.npos);
     EXPECT_FALSE(codec.load(image, dir.file("gone.jpg").c_str()));
     EXPECT_FALSE(codec.load(image, dir.path().c_str()));
+}
+
+TEST_F(JpegTest, ShowsWhatOneOfManyScansOrIntervalsLeaves) {
+    /// Rows that are as a plain decoder has them, from the top.
+    auto const rows_as_in = [&](std::string const& bytes) {
+        pixels_t const plain = pixels_of(bytes);
+        unsigned int rows = 0;
+        for (unsigned int y = 0; y < image.m_height; ++y) {
+            rows += std::equal(pixel_row(image, image.m_height - 1 - y),
+                               pixel_row(image, image.m_height - 1 - y) + plain.width,
+                               plain.samples.begin() + y * plain.width);
+        }
+        return rows;
+    };
+    std::string const scans = jpeg_of({70, 50, JCS_GRAYSCALE, 1, 1, true});
+    EXPECT_EQ(load(scans), "true ");
+    EXPECT_EQ(rows_as_in(scans), 50u);
+    std::size_t const first = scans.find("\xFF\xDA");
+    for (std::size_t at = first; at != scans.npos; at = scans.find("\xFF\xDA", at + 2)) {
+        std::string const cut = scans.substr(0, at + 12);  // behind the scan's header
+        EXPECT_NE(load(cut).find(": decompress fail.\n"), cut.npos) << at;
+        EXPECT_EQ(rows_as_in(cut + "\xFF\xD9"), 50u) << at;
+    }
+    std::string const intervals = jpeg_of({64, 64, JCS_GRAYSCALE, 1, 1, false, 3});
+    std::size_t const second = intervals.find("\xFF\xD0"), third = intervals.find("\xFF\xD1");
+    EXPECT_EQ(load(std::string(intervals).erase(second + 4, third - second - 4)).find("fail"),
+              intervals.npos);
+    EXPECT_EQ(rows_as_in(intervals), 56u) << "but for the row of blocks with that interval";
+    EXPECT_TRUE(load(jpeg_without_end()).ends_with(file + ": decompress fail.\n"));
+    EXPECT_NE(pixel_row(image, image.m_height - 1)[0], 0) << "what the first scans tell";
 }
 
 TEST_F(JpegTest, RefusesWhatCantBeHeldAndSkipsWithinBounds) {

@@ -3,100 +3,19 @@
 #include "codecs/jpegtransform.h"
 
 #include <array>
-#include <cmath>
 
 #include "codecs/jtransform.h"
-#include "tests/codecs/picturebytes.h"
+#include "tests/codecs/jpegmaker.h"
 
 namespace {
 
 using namespace libgr;
 using namespace std::string_literals;
 
-struct layout_t {
-    unsigned int width, height;
-    J_COLOR_SPACE colors;
-    unsigned int h, v;  ///< sampling factors of the first component
-    bool progressive = false;
-};
 constexpr layout_t k_whole{64, 48, JCS_YCbCr, 2, 2}, k_wide{64, 48, JCS_YCbCr, 2, 1, true},
     k_rgb{40, 24, JCS_RGB, 1, 1}, k_partial{57, 43, JCS_YCbCr, 2, 2, true},
     k_tall{45, 39, JCS_YCbCr, 1, 2}, k_gray{27, 43, JCS_GRAYSCALE, 2, 2},
     k_tiny{9, 13, JCS_YCbCr, 2, 2}, k_scans{64, 48, JCS_YCbCr, 4, 3};
-
-/// A picture without symmetry as a JPEG, with these segments behind its SOI.
-std::string encoded(layout_t const& layout, std::string const& segments = "") {
-    jpegdata_t data;
-    jpeg_compress_struct cinfo;
-    jpeg_error_mgr error;
-    cinfo.err = jpeg_std_error(&error);
-    jpeg_create_compress(&cinfo);
-    use_memory_destination(&cinfo, data);
-    cinfo.image_width = layout.width;
-    cinfo.image_height = layout.height;
-    cinfo.input_components = 3;
-    cinfo.in_color_space = JCS_RGB;
-    jpeg_set_defaults(&cinfo);
-    jpeg_set_colorspace(&cinfo, layout.colors);
-    jpeg_set_quality(&cinfo, 30, TRUE);  // so that a coefficient's least step is seen
-    cinfo.comp_info[0].h_samp_factor = static_cast<int>(layout.h);
-    cinfo.comp_info[0].v_samp_factor = static_cast<int>(layout.v);
-    if (layout.progressive) {
-        jpeg_simple_progression(&cinfo);
-    }
-    jpeg_scan_info const scans[] = {{1, {0}, 0, 63, 0, 0}, {2, {1, 2}, 0, 63, 0, 0}};
-    if (layout.h * layout.v > 8) {
-        cinfo.scan_info = scans;  // one scan can't hold all blocks of a unit
-        cinfo.num_scans = 2;
-    }
-    jpeg_start_compress(&cinfo, TRUE);
-    for (unsigned int y = 0; y < layout.height; ++y) {
-        std::vector<JSAMPLE> row;
-        for (unsigned int i = 0; i < layout.width * 3; ++i) {
-            row.push_back(static_cast<JSAMPLE>(128 + 70 * std::sin(i * i * 0.001 + y * y * 0.01)));
-        }
-        JSAMPROW pixels = row.data();
-        jpeg_write_scanlines(&cinfo, &pixels, 1);
-    }
-    jpeg_finish_compress(&cinfo);
-    jpeg_destroy_compress(&cinfo);
-    return bytes_of(data).insert(2, segments);
-}
-
-struct pixels_t {
-    unsigned int width, components;
-    std::vector<JSAMPLE> samples = {};
-
-    /// The mean of `w` by `h` pixels, in one component.
-    double at(unsigned x, unsigned y, unsigned component, unsigned w = 1, unsigned h = 1) const {
-        double sum = 0;
-        for (unsigned int n = 0; n < w * h; ++n) {
-            sum += samples.at(((y + n / w) * width + x + n % w) * components + component);
-        }
-        return sum / (w * h);
-    }
-};
-
-/// A JPEG's pixels in its own colours, each as its blocks alone have it.
-pixels_t pixels_of(std::string const& bytes) {
-    jpeg_decompress_struct cinfo;
-    jpeg_error_mgr error;
-    cinfo.err = jpeg_std_error(&error);
-    jpeg_create_decompress(&cinfo);
-    jpeg_mem_src(&cinfo, reinterpret_cast<JOCTET const*>(bytes.data()), bytes.size());
-    jpeg_read_header(&cinfo, TRUE);
-    cinfo.out_color_space = cinfo.jpeg_color_space;
-    cinfo.do_fancy_upsampling = FALSE;
-    jpeg_start_decompress(&cinfo);
-    pixels_t pixels{cinfo.output_width, static_cast<unsigned int>(cinfo.output_components)};
-    pixels.samples.resize(cinfo.output_height * pixels.width * pixels.components);
-    while (cinfo.output_scanline < cinfo.output_height) {
-        JSAMPROW row = &pixels.samples[cinfo.output_scanline * pixels.width * pixels.components];
-        jpeg_read_scanlines(&cinfo, &row, 1);
-    }
-    jpeg_destroy_decompress(&cinfo);
-    return pixels;
-}
 
 jpeg_transform_info request(int code, char const* crop = nullptr) {
     jpeg_transform_info info;
@@ -143,12 +62,12 @@ unsigned int source_of(unsigned int at, unsigned int size, unsigned int unit, bo
 }
 
 void expect_moved(row_t const& row) {
-    auto const& [width, height, colors, h, v, progressive] = row.layout;
+    auto const& [width, height, colors, h, v, progressive, restart] = row.layout;
     auto const& [swaps, reverses_x, reverses_y] = k_operations[row.code];
     jpeg_transform_info info = request(row.code, row.crop);
     info.trim = row.trim;
     info.force_grayscale = row.gray;
-    std::string in = encoded(row.layout);
+    std::string in = jpeg_of(row.layout);
     std::string const out = outcome(in, info), size = be(height, 2) + be(width, 2);
     ASSERT_NE(out.find(be(row.height, 2) + be(row.width, 2)), out.npos) << out;
     in.replace(in.find(size), 4, be(up(height, 8 * v), 2) + be(up(width, 8 * h), 2));
@@ -211,7 +130,7 @@ TEST(JpegTransformTest, MovesEachSampleByTheRule) {
 }
 
 TEST(JpegTransformTest, TurnsByCountsBelowFourInPlace) {
-    std::string const bytes = encoded(k_partial);
+    std::string const bytes = jpeg_of(k_partial);
     for (unsigned int count = 0; count < 4; ++count) {
         jpegdata_t data = jpegdata_of(bytes);
         EXPECT_TRUE(transform(count, data, data));
@@ -225,12 +144,12 @@ TEST(JpegTransformTest, TurnsByCountsBelowFourInPlace) {
 
 TEST(JpegTransformTest, RefusesWhatCantBeDone) {
     std::string const error = "nothing\nmemory: error detected.\n";
-    std::string const no_crop = error + "Invalid crop request\n", partial = encoded(k_partial);
+    std::string const no_crop = error + "Invalid crop request\n", partial = jpeg_of(k_partial);
     for (char const* crop :
          {"58", "x44", "x10+0+34", "0x5", "10f+57", "50-8", "65501f", "4294967295-4294967295"}) {
         EXPECT_EQ(outcome(partial, request(0, crop)), no_crop) << crop;
     }
-    EXPECT_EQ(outcome(encoded(k_tiny), request(0, "40r")), no_crop) << "nothing to mirror";
+    EXPECT_EQ(outcome(jpeg_of(k_tiny), request(0, "40r")), no_crop) << "nothing to mirror";
     for (char const* text :
          {"4294967296", "10x", "10X10", "10ff", "+", "1+2+3+4", " 1", "1x2 ", "+1f", "1F+-3"}) {
         jpeg_transform_info info;
@@ -240,7 +159,7 @@ TEST(JpegTransformTest, RefusesWhatCantBeDone) {
         EXPECT_EQ(outcome(partial, request(code)),
                   error + "Requested feature was omitted at compile time\n");
     }
-    EXPECT_EQ(outcome(encoded(k_rgb), {.force_grayscale = true}),
+    EXPECT_EQ(outcome(jpeg_of(k_rgb), {.force_grayscale = true}),
               error + "Unsupported color conversion request\n");
     EXPECT_EQ(outcome(partial, {.transform = JXFORM_ROT_90, .perfect = true}),
               "nothing\n: transformation is not perfect\n");
@@ -248,7 +167,7 @@ TEST(JpegTransformTest, RefusesWhatCantBeDone) {
 
 TEST(JpegTransformTest, SurvivesCutAndDamagedFiles) {
     for (layout_t const& layout : {k_partial, k_tall, k_gray}) {
-        std::string const bytes = encoded(layout);
+        std::string const bytes = jpeg_of(layout);
         auto const turned = [&](std::size_t at, std::string const& damage, std::size_t end) {
             return outcome(std::string(bytes).replace(at, damage.size(), damage).substr(0, end),
                            request(JXFORM_ROT_90));
@@ -307,13 +226,8 @@ TEST(JpegTransformTest, WritesEachValueOrNothing) {
 }
 
 TEST(JpegTransformTest, EndsWorkThatNoPictureNeeds) {
-    std::string bytes = encoded({32, 32, JCS_GRAYSCALE, 1, 1, true});
-    std::string const scan = bytes.substr(bytes.find("\xFF\xDA"), bytes.npos);
-    bytes.replace(bytes.find("\xFF\xC2") + 5, 4, be(8000, 2) + be(8000, 2));
-    for (int i = 0; i < 4; ++i) {  // each with a million blocks in six scans
-        bytes.insert(bytes.size() - 2, scan.substr(0, scan.size() - 2));
-    }
-    EXPECT_NE(outcome(bytes, request(0)).find("\nInvalid progressive parameters"), bytes.npos);
+    std::string const out = outcome(jpeg_without_end(), request(0));
+    EXPECT_NE(out.find("\nInvalid progressive parameters"), out.npos) << out;
 }
 
 TEST(JpegTransformTest, CopiesMarkersByOption) {
@@ -325,16 +239,16 @@ TEST(JpegTransformTest, CopiesMarkersByOption) {
     std::string const copied[] = {"", comment, all, exif + jfxx + comment + adobe, icc};
     for (int option = JCOPY_NONE; option <= JCOPY_ICC; ++option) {
         std::string const expected = copied[option] + "\xFF\xDB";  // behind the new JFIF header
-        std::string const out = outcome(encoded(k_whole, all), request(0), option);
+        std::string const out = outcome(jpeg_of(k_whole, all), request(0), option);
         EXPECT_EQ(out.substr(20, expected.size()), expected);
-        std::string const rgb = outcome(encoded(k_rgb), request(0), option);
+        std::string const rgb = outcome(jpeg_of(k_rgb), request(0), option);
         EXPECT_EQ(rgb.find("Adobe"), rgb.rfind("Adobe"));
     }
 }
 
 TEST(JpegTransformTest, WritesTheNewSizeIntoExif) {
     auto const expect = [](std::string const& written, std::string const& old) {
-        std::string const in = encoded(k_whole, segment(0xE1, old));
+        std::string const in = jpeg_of(k_whole, segment(0xE1, old));
         std::string const out = outcome(in, request(JXFORM_ROT_270), JCOPY_ALL);
         EXPECT_NE(out.find(segment(0xE1, written)), out.npos) << old.size();
     };

@@ -124,6 +124,14 @@ TEST_F(Option, TheUserDefaultFileReadsBackButForTheColour) {
     EXPECT_EQ(g_option.framecolor, libgr::color3aub(0, 0, 0, 0));
     g_option.framecolor = {255, 255, 255, 255};
     EXPECT_EQ(saved(), changed);
+    for (char const byte : {'\0', '\t', '\r', ' '}) {
+        auto const raw = static_cast<unsigned char>(byte);
+        g_option.framecolor = {raw, 255, raw, 7};
+        saved();
+        g_option.framecolor = {1, 2, 3, 4};
+        EXPECT_TRUE(zanolib::option_load(path.c_str()));
+        EXPECT_EQ(g_option.framecolor, libgr::color3aub(0, 0, 0, 0)) << +raw;
+    }
     g_option.h = true;  // no help comes from there
     EXPECT_EXIT((enter(""), std::exit(g_option.h ? 1 : 7)), testing::ExitedWithCode(7), "");
 }
