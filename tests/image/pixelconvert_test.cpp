@@ -57,6 +57,7 @@ TEST(channels, swap_and_change_alpha_by_the_source_format) {
         for (image2d_t const& bad : spoilt(src)) {
             EXPECT_TRUE(!convert(shared, bad) && shared.begin() == bad.begin()) << from;
         }
+        EXPECT_EQ(convert(shared, spoilt(dst)[3]), convert == bgr2rgb || convert == rgb2bgr);
         tight.window.rowlength = 1;  // its rows have no room for two pixels
         EXPECT_FALSE(convert(tight, src)) << from;
     }
@@ -92,7 +93,7 @@ TEST(index2rgb, reads_every_index_size_and_stays_in_the_palette) {
 
 TEST(copy, is_deep_clears_padding_and_drops_the_window) {
     image2d_t const src = windowed(picture(rgb8, 1, {{1, 2, 3}, {4, 5, 6}}));
-    image2d_t dst;
+    image2d_t dst = picture(gray8, 8, rows_t(2));  // with bytes in its padding
     ASSERT_TRUE(copy(dst, src));
     EXPECT_EQ(row_t(dst.begin(), dst.end()), (row_t{1, 2, 3, 0, 4, 5, 6, 0}));
     EXPECT_FALSE(copy(dst, spoilt(src)[3]) || copy(dst, spoilt(src)[4]) || dst.m_width != 1);
