@@ -41,28 +41,54 @@ class glu_pixels_t {
     void const* m_begin;
 };
 
-/// Default pack state until the end of the block. GLU allocates the levels of a volume without
-/// padding, and then writes them with the padding that the pack state asks for.
-class default_pack_t {
-  public:
-    default_pack_t() {
-        for (std::size_t i = 0; i < s_names.size(); ++i) {
-            glGetIntegerv(s_names[i], &m_former[i]);
-            glPixelStorei(s_names[i], s_names[i] == GL_PACK_ALIGNMENT ? 1 : 0);
+/// The pixels of a volume without padding, with such room behind them.
+image_bytes_t unpadded(image3d_t const& read, unsigned long long bits) {
+    read_span_t const span = span_of(read, bits);
+    unsigned long const row = (bits * read.m_width + 7) / 8;
+    unsigned long const size = row * read.m_height * read.m_depth;
+    unsigned long const slice =
+        span.stride * (read.window.imageheight != 0 ? read.window.imageheight : read.m_height);
+    image_bytes_t copy;
+    if (!copy.resize(2 * (size + row) + 64, 0)) {
+        return copy;
+    }
+    unsigned char* to = copy.begin();
+    for (unsigned long z = 0; z < read.m_depth; ++z) {
+        for (unsigned long y = 0; y < read.m_height; ++y, to += row) {
+            std::memcpy(to,
+                        read.begin() + span.first + slice * z + span.stride * y +
+                            bits * read.window.skippixels / 8,
+                        row);
         }
     }
-    default_pack_t(default_pack_t const&) = delete;
-    default_pack_t& operator=(default_pack_t const&) = delete;
-    ~default_pack_t() {
+    return copy;
+}
+
+/// Pixels without padding, packed and unpacked, until the end of the block. GLU allocates the
+/// levels of a volume so, and then writes and reads them by the state.
+class unpadded_state_t {
+  public:
+    unpadded_state_t() {
+        for (std::size_t i = 0; i < s_names.size(); ++i) {
+            bool const is_alignment =
+                s_names[i] == GL_PACK_ALIGNMENT || s_names[i] == GL_UNPACK_ALIGNMENT;
+            glGetIntegerv(s_names[i], &m_former[i]);
+            glPixelStorei(s_names[i], is_alignment ? 1 : 0);
+        }
+    }
+    unpadded_state_t(unpadded_state_t const&) = delete;
+    unpadded_state_t& operator=(unpadded_state_t const&) = delete;
+    ~unpadded_state_t() {
         for (std::size_t i = 0; i < s_names.size(); ++i) {
             glPixelStorei(s_names[i], m_former[i]);
         }
     }
 
   private:
-    static constexpr std::array<GLenum, 6> s_names = {GL_PACK_ALIGNMENT,    GL_PACK_ROW_LENGTH,
-                                                      GL_PACK_SKIP_PIXELS,  GL_PACK_SKIP_ROWS,
-                                                      GL_PACK_IMAGE_HEIGHT, GL_PACK_SKIP_IMAGES};
+    static constexpr std::array<GLenum, 12> s_names = {
+        GL_PACK_ALIGNMENT,     GL_PACK_ROW_LENGTH,  GL_PACK_SKIP_PIXELS,    GL_PACK_SKIP_ROWS,
+        GL_PACK_IMAGE_HEIGHT,  GL_PACK_SKIP_IMAGES, GL_UNPACK_ALIGNMENT,    GL_UNPACK_ROW_LENGTH,
+        GL_UNPACK_SKIP_PIXELS, GL_UNPACK_SKIP_ROWS, GL_UNPACK_IMAGE_HEIGHT, GL_UNPACK_SKIP_IMAGES};
     std::array<GLint, s_names.size()> m_former{};
 };
 
@@ -115,16 +141,27 @@ bool build_mipmaps(unsigned int target, gl_loading_format_t const& terms, image2
 }
 
 bool build_mipmaps(unsigned int target, gl_loading_format_t const& terms, image3d_t const& image) {
-    // Packed texels of a volume that shrinks to a sheet or a line lead GLU far out of its memory.
+    // A volume of single rows, and packed texels of one that shrinks to a sheet or a line, lead GLU
+    // out of its memory.
     bool const is_cube = image.m_width == image.m_height && image.m_height == image.m_depth;
-    if (is_packed(terms.type) && !is_cube) {
+    bool const is_sheet = image.m_height == 1 && image.m_depth > 1;
+    image3d_t const read = as_read(image);
+    if (is_sheet || (is_packed(terms.type) && !is_cube) || !can_be_counted(read)) {
         return false;
     }
-    default_pack_t const pack;
-    return build_from(terms, image, [&](GLsizei width, GLsizei height, void const* pixels) {
-        gluBuild3DMipmaps(target, static_cast<GLint>(terms.internalformat), width, height,
-                          static_cast<GLsizei>(image.m_depth), terms.format, terms.type, pixels);
-    });
+    if (image.m_width == 0 || image.m_height == 0 || image.m_depth == 0) {
+        return true;  // GLU turns these down unread
+    }
+    image_bytes_t const pixels = unpadded(read, read_bits(terms));
+    if (pixels.empty()) {
+        return false;
+    }
+    unpadded_state_t const state;
+    gluBuild3DMipmaps(target, static_cast<GLint>(terms.internalformat),
+                      static_cast<GLsizei>(image.m_width), static_cast<GLsizei>(image.m_height),
+                      static_cast<GLsizei>(image.m_depth), terms.format, terms.type,
+                      pixels.begin());
+    return true;
 }
 
 }  // namespace libgr

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "gl/texture2d.h"
+#include "gl/texture3d.h"
 #include "gl/texturecubemap.h"
 #include "tests/support/gl/glcontext.h"
 #include "tests/support/gl/glrecorder.h"
@@ -118,5 +119,25 @@ TEST_F(texturecontext, cube_maps_arrive_by_every_route) {
             EXPECT_EQ(painted, level_t(target, 0, GL_RGBA, 4).texels);
             EXPECT_EQ(1, level_t(target++, 2, GL_RGBA, 4).width) << route;
         }
+    }
+}
+
+TEST_F(texturecontext, volumes_keep_their_colour_in_smaller_levels) {
+    gl_flag_t const has_sgis(is_GL_SGIS_generate_mipmap_supported, 0);
+    image3d_t volume;
+    volume.desc = {IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_8};
+    volume.window = {6, 5, 1, 1, 1};
+    volume.m_width = volume.m_height = volume.m_depth = 4;
+    ASSERT_TRUE(volume.resize(20 * 5 * 5, 0));
+    std::fill(volume.begin(), volume.end(), static_cast<unsigned char>(100));
+    grTexture3D texture;
+    texture.setImage(volume, 0, 0);
+    texture.setBuildMipmap(true);
+    grTextureObject object;
+    object.Preload(&texture);
+    for (int level = 0; level < 2; ++level) {
+        std::string texels(192UL >> 3 * level, '\0');
+        glGetTexImage(GL_TEXTURE_3D, level, GL_RGB, GL_UNSIGNED_BYTE, texels.data());
+        EXPECT_EQ(texels, std::string(texels.size(), 'd')) << level;
     }
 }
