@@ -21,8 +21,7 @@ using zanolib::ViewFrame;
 class ViewFrameTest : public testing::Test {
   protected:
     ViewFrameTest() {
-        gl.muted.insert(
-            {"glPixelStorei", "glTexParameteri", "glTexParameterf", "glTexParameterfv"});
+        gl.muted.insert({"glPixelStorei"});
         gl.floats[GL_MODELVIEW_MATRIX] = {2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 2, 0, 0, 0, -1000, 1};
         gl.floats[GL_POSITION] = {-50, 50, 50, 1};
         std::string gray = bmp(4, 4, 8, 0, words({0x10203040, 0x50607080, 0x90a0b0c0, 0xd0e0f000}));
@@ -61,6 +60,7 @@ class ViewFrameTest : public testing::Test {
     gl_flag_t fragment{is_GL_ARB_fragment_program_supported, 1};
     gl_flag_t combine{is_GL_ARB_texture_env_combine_supported, 1};
     gl_flag_t cube{is_GL_ARB_texture_cube_map_supported, 1};
+    gl_flag_t imaging{is_GL_ARB_imaging_supported, 0};
     gl_flag_t units{is_GL_ARB_multitexture_supported, 1};
 };
 
@@ -71,6 +71,12 @@ TEST_F(ViewFrameTest, MakesTheCallsOfItsLookAndPath) {
     }
     gl_flag_t dot3{is_GL_ARB_texture_env_dot3_supported, 1};
     text += "== type 2 by programs\n" + life(2);
+    is_GL_EXT_bgra_supported = is_GL_EXT_rescale_normal_supported = 0;
+    is_GL_ARB_imaging_supported = 1;
+    ViewFrame::destroy();
+    ViewFrame::init((dir.path() + "/").c_str());
+    text += "== type 4 with what else a GL may have\n" + life(4);
+    is_GL_EXT_bgra_supported = is_GL_EXT_rescale_normal_supported = 1;
     std::filesystem::remove(dir.file("bumpmapf.fp1"));
     capture_t captured;
     text += "== type 3 by combiners, a program missing\n" + life(3);

@@ -182,9 +182,10 @@ TEST_F(SceneTest, OnePictureIsLoadedDrawnAndFreedInOrder) {
 
 TEST_F(SceneTest, EachStepChecksForErrorsUnderItsLabel) {
     zanolib::g_option.frametype = 0;
-    ViewScene scene;
-    ASSERT_TRUE(add(scene, test_bmp(1, 1)));
     gl.errors.assign(100, GL_INVALID_OPERATION);
+    ViewScene scene;
+    scene.Init("");
+    ASSERT_TRUE(add(scene, test_bmp(1, 1)));
     scene.make_graph("");
     scene.Display();
     gl.take();
