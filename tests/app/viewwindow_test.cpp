@@ -28,16 +28,13 @@ class ViewWindowTest : public testing::Test {
         }
         write_file(m_folder.file("bad.bmp"), "BM");
         write_file(m_folder.file(".test_viewer"), "-h+\n-maxsize 700x500\n-maxmargin 1x1\n");
-        std::string words[] = {"/x/test_viewer.exe", "-maxmargin", "2x2", "nothing.bmp"};
+        std::string words[] = {"/x/test_viewer.exe.EXE", "-maxmargin", "2x2", "nothing.bmp"};
         char* argv[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data()};
         int argc = 4;
         m_window = std::make_unique<ViewWindow>(&argc, argv);
         wenk::glfwyMGR4::getSingleton()->addWindow(m_window.get(), "test");
         m_recorder = std::make_unique<gl_recorder_t>();
-        m_recorder->integers[GL_MAX_TEXTURE_SIZE] = {16384};
-        m_recorder->integers[GL_MAX_VIEWPORT_DIMS] = {16384, 16384};
-        m_console.err();
-        m_glfw.calls.clear();
+        note("start");
     }
     ~ViewWindowTest() override {
         m_recorder.reset();
@@ -53,6 +50,12 @@ class ViewWindowTest : public testing::Test {
     void note(std::string const& step) {
         m_text += "# " + step + "\n" + m_console.out() + m_console.err();
         std::erase(m_glfw.calls, "glfwMakeContextCurrent(w1)");
+        for (std::string const& call : m_recorder->lines) {
+            for (char const* told : {"glNewList", "glDeleteLists", "glClear(", "glViewport"}) {
+                m_text += call.starts_with(told) ? call + "\n" : "";
+            }
+        }
+        m_recorder->take();
         m_text += m_glfw.take_calls() + view_text(m_window->getMatrix()) + "\n";
         for (std::size_t at = 0; (at = m_text.find(m_folder.path(), at)) != std::string::npos;) {
             m_text.erase(at, m_folder.path().size());
@@ -69,7 +72,8 @@ class ViewWindowTest : public testing::Test {
     }
     void press(std::initializer_list<int> keys, int mods = 0) {
         m_glfw.window().keys_down =
-            mods == GLFW_MOD_SHIFT ? std::set<int>{GLFW_KEY_RIGHT_SHIFT} : std::set<int>{};
+            mods == GLFW_MOD_SHIFT ? std::set<int>{m_shift} : std::set<int>{};
+        m_shift = GLFW_KEY_RIGHT_SHIFT;  // the left one first
         for (int const key : keys) {
             m_glfw.fire_key(key, GLFW_PRESS, mods);
             m_glfw.fire_key(key, GLFW_RELEASE, mods);
@@ -101,6 +105,7 @@ class ViewWindowTest : public testing::Test {
     std::unique_ptr<ViewWindow> m_window;
     std::unique_ptr<gl_recorder_t> m_recorder;
     std::string m_text;
+    int m_shift = GLFW_KEY_LEFT_SHIFT;
 };
 
 TEST_F(ViewWindowTest, FitsTheFirstPictureAndFollowsTheWindowsHeight) {
@@ -183,6 +188,26 @@ TEST_F(ViewWindowTest, TheWindowFollowsThePicture) {
     zanolib::g_option.verbose = true;
     drop({"a.bmp"});
     resize(100, 100);
+    zanolib::g_option.resize_magnify = false;  // and it shrinks by no means
+    drop({"a.bmp"});
+}
+
+TEST_F(ViewWindowTest, ComesBackByEveryPolicy) {
+    write_turned_jpeg(m_folder.file("turned.jpg"), 600, 400);
+    zanolib::g_option.verbose = true;
+    zanolib::g_option.debug = true;
+    for (unsigned int const policy : {0u, 1u, 2u}) {
+        zanolib::g_option.resizetype = policy;
+        zanolib::g_option.image_ratio_of_image = 2;
+        drop({"turned.jpg"});
+        press({GLFW_KEY_2, GLFW_KEY_UP, GLFW_KEY_KP_0});
+        resize(640, 480);
+        press({GLFW_KEY_HOME});
+        zanolib::g_option.reproduce = false;
+        press({GLFW_KEY_HOME, GLFW_KEY_F5});
+        zanolib::g_option.reproduce = true;
+        std::filesystem::remove(m_folder.file("turned.zvw"));
+    }
 }
 
 TEST_F(ViewWindowTest, CoversTheWorkAreaAndComesBack) {

@@ -7,6 +7,9 @@
 #include <sstream>
 #include <string>
 
+#include <gtest/gtest.h>
+
+#include "codecs/jpegobject.h"
 #include "geometry/matrix.h"
 #include "tests/support/files/testfiles.h"
 
@@ -57,4 +60,19 @@ inline std::string view_text(libgr::matrix3w_t const& m) {
         text << labels[i] << std::round(numbers[i] * 1000) / 1000 + 0.0f;
     }
     return text.str();
+}
+
+/// Writes a JPEG that stands upright after a quarter turn clockwise.
+inline std::string write_turned_jpeg(std::string const& path, unsigned width, unsigned height) {
+    libgr::image2d_t image;
+    image.desc = {libgr::IMAGE_FORMAT_RGB, libgr::IMAGE_TYPE_UINT, libgr::IMAGE_BITS_8};
+    image.m_width = width;
+    image.m_height = height;
+    EXPECT_TRUE(image.allocate() && libgr::image_jpeg1_t().save(image, path.c_str()));
+    // An Exif block with the tag Orientation at 6, behind the start of the image.
+    std::string const exif(
+        "\xff\xe1\0\x22"
+        "Exif\0\0MM\0*\0\0\0\x8\0\1\1\x12\0\3\0\0\0\1\0\6\0\0\0\0\0\0",
+        36);
+    return write_file(path, read_file(path).insert(2, exif));
 }

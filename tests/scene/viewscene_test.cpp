@@ -75,19 +75,8 @@ TEST_F(SceneTest, EveryViewOperationHasItsNumbers) {
 }
 
 TEST_F(SceneTest, PicturesComeUprightByTheirOrientation) {
-    libgr::image2d_t image;
-    image.desc = {libgr::IMAGE_FORMAT_RGB, libgr::IMAGE_TYPE_UINT, libgr::IMAGE_BITS_8};
-    image.m_width = 16;
-    image.m_height = 8;
-    std::string const path = dir.file("a.jpg");
-    ASSERT_TRUE(image.allocate() && libgr::image_jpeg1_t().save(image, path.c_str()));
-    // An Exif block with the tag Orientation at 6, behind the start of the image.
-    std::string const exif(
-        "\xff\xe1\0\x22"
-        "Exif\0\0MM\0*\0\0\0\x8\0\1\1\x12\0\3\0\0\0\1\0\6\0\0\0\0\0\0",
-        36);
     ViewScene scene;
-    ASSERT_TRUE(add(scene, read_file(path).insert(2, exif), "b.jpg"));
+    ASSERT_TRUE(scene.addImage(write_turned_jpeg(dir.file("b.jpg"), 16, 8).c_str(), ""));
     note("loaded:", view_text(scene.getMatrix()));
     change(scene, "R20 Z1 M5 o0");
     note("put back:", view_text(scene.getMatrix()));
