@@ -33,7 +33,7 @@ class picture_stage_t {
 enum class walk_t {
     refused,  ///< no move that fits: neither stage nor place was touched
     moved,    ///< a picture loaded, and the place is its entry
-    stranded  ///< the old picture is gone, no entry loads, the place is unchanged
+    stranded  ///< the old picture is gone, no entry that was tried loads, the place is unchanged
 };
 
 /// True for a name that ends, in any case of letters, in ".jpg", ".jpeg", ".bmp", ".png" or ".tga".

@@ -65,7 +65,7 @@ class ViewWindow : public wenk::glutyAPI4 {
     void clear();
     /// Puts the first picture that loads into the scene; false when none does.
     bool initial_load();
-    /// Pages by `n` entries, in list and scene; false when nothing changed.
+    /// Pages by `n` entries, in list and scene; false when no picture was taken out of the scene.
     bool next_image(unsigned long n);
     bool back_image(unsigned long n);
     bool first_image();

@@ -73,8 +73,9 @@ struct multi_square_image_t {
 };
 
 /// Cuts `in` into the squares of `plan_tiles`. With `use_window` each tile is a window that shares
-/// the pixels of `in`, without it a copy of its own. A compressed image, a size or a limit of 0 and
-/// a failed allocation are told on the error stream and give false.
+/// the pixels of `in`, without it a copy of its own. A compressed image, a size or a limit of 0, a
+/// strip that would take more than `harmless_texels` and a failed allocation are told on the error
+/// stream and give false.
 bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsigned long maxsize,
                           bool use_window);
 

@@ -29,7 +29,7 @@ class glfwyMGR4 : public singleton<glfwyMGR4> {
     GLFWwindow* win(glutyAPI4* api) const;
     glutyAPI4* api(GLFWwindow* window) const;
 
-    /// Ends the loop after the pass in which it is called.
+    /// Ends the loop behind the next event, or behind the present one when a handler calls it.
     void Exit() { exit_requested = true; }
 
     /// All windows are drawn in the loop's next pass, once however many requests came. A request
