@@ -20,8 +20,8 @@ struct zvwfile_t {
     libgr::direction2l_t size = libgr::datum2l;  ///< the framebuffer when the view was stored
     libgr::matrix3w_t matrix = libgr::Imtx;      ///< the picture's view matrix
 
-    /// Reads the file beside `picture`. False, with the record untouched, when it can't be opened, is
-    /// no plain file or is too long for one; true otherwise, also when its content is damaged: a
+    /// Reads the file beside `picture`. False, with the record untouched, when it can't be opened,
+    /// is no plain file or is too long for one; true otherwise, also when its content is damaged: a
     /// value that can't be read stays as it is.
     bool load(char const* picture);
     /// Writes the file beside `picture`, replacing it; false when it can't be opened for writing.

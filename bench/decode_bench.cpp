@@ -82,8 +82,12 @@ void load(benchmark::State& state, char const* path) {
     }
 }
 
-void load_jpeg(benchmark::State& state) { load<libgr::image_jpeg1_t>(state, jpeg_path()); }
-void load_png(benchmark::State& state) { load<libgr::image_png_t>(state, png_path()); }
+void load_jpeg(benchmark::State& state) {
+    load<libgr::image_jpeg1_t>(state, jpeg_path());
+}
+void load_png(benchmark::State& state) {
+    load<libgr::image_png_t>(state, png_path());
+}
 
 libgr::image2d_t store() {
     libgr::image2d_t image;

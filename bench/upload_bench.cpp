@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "bench/benchcontext.h"
-#include "glext/glextloader.h"
 #include "gl/texture.h"
+#include "glext/glextloader.h"
 #include "image/image.h"
 #include "scene/squaretiles.h"
 #include "scene/tiletextures.h"
@@ -36,7 +36,9 @@ libgr::image2d_t& picture() {
     return image;
 }
 
-void need_context() { static bench_context_t const context; }
+void need_context() {
+    static bench_context_t const context;
+}
 
 void upload_record(benchmark::State& state) {
     need_context();

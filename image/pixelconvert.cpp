@@ -14,7 +14,6 @@
 
 namespace libgr {
 
-
 namespace {
 
 using row_function_t = void (*)(unsigned char* to, unsigned char const* from, std::size_t pixels);
