@@ -39,6 +39,11 @@ std::map<std::string, image_desc_t> const s_descs = {
     {"GRAY4", {IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_4}},
     {"ALPHA", {IMAGE_FORMAT_ALPHA, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
     {"INDEX", {IMAGE_FORMAT_INDEX, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
+    {"BGR", {IMAGE_FORMAT_BGR, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
+    {"RED", {IMAGE_FORMAT_RED, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
+    {"RGB16", {IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_16}},
+    {"GRAYS16", {IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_SINT, IMAGE_BITS_16}},
+    {"RGBF16", {IMAGE_FORMAT_RGB, IMAGE_TYPE_FLOAT, IMAGE_BITS_16}},
     {"RG", {IMAGE_FORMAT_RG, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
 };
 
@@ -161,7 +166,7 @@ std::string route_calls(std::string const& line) {
     gl_flag_t const arb(is_GL_ARB_texture_compression_supported, has(setup.context, 'c'));
     gl_flag_t const aniso(is_GL_EXT_texture_filter_anisotropic_supported, has(setup.context, 'a'));
     auto const texture = make_texture(setup, gl);
-    std::deque<GLenum> const pending(has(setup.context, 'e') ? 2 : 0, GL_INVALID_VALUE);
+    std::deque<GLenum> const pending(has(setup.context, 'e') ? 40 : 0, GL_INVALID_VALUE);
     capture_t capture;
     gl.errors = pending;
     texture->Load();
