@@ -64,8 +64,8 @@ void write(std::ostream& stream, libutils::tagBITMAPINFOHEADER const& header) {
 }  // namespace
 
 bool bmpimage_t::load(char const* path, libutils::android_app*) {
-    std::ifstream stream(path, std::ios_base::binary);
-    if (!stream || !read_bmp_headers(stream, fileheader, infoheader)) {
+    std::ifstream stream;
+    if (!open_file(stream, path) || !read_bmp_headers(stream, fileheader, infoheader)) {
         return false;
     }
     // A row has 32 bits and so have the rows, hence the product has room.

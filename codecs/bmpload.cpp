@@ -32,10 +32,10 @@ void swap_red_and_blue(image_bytes_t& pixels, std::uint64_t width, std::uint64_t
 }  // namespace
 
 bool BmpLoad(image2d_t& image, char const* path, e_image_format_t format) {
-    std::ifstream stream(path, std::ios_base::binary);
+    std::ifstream stream;
     libutils::tagBITMAPFILEHEADER fileheader{};
     libutils::tagBITMAPINFOHEADER infoheader{};
-    if (!stream || !read_bmp_headers(stream, fileheader, infoheader) ||
+    if (!open_file(stream, path) || !read_bmp_headers(stream, fileheader, infoheader) ||
         infoheader.biCompression != 0 || infoheader.biBitCount == 16) {
         return false;
     }

@@ -245,8 +245,7 @@ bool check_png_version() {
 
 template <typename stream_t>
 bool check_if_png(char const* path, stream_t& stream) {
-    stream.open(path, std::ios_base::in | std::ios_base::binary);
-    if (!stream) {
+    if (!open_file(stream, path)) {
         int const reason = errno;
         return libutils::refuse(path, ": file open error, ", std::strerror(reason));
     }

@@ -2,7 +2,21 @@
 // Pixel bytes between streams and shared blocks.
 #include "codecs/streambytes.h"
 
+#include <sys/stat.h>
+
+#include <cerrno>
+
 namespace libgr {
+
+bool open_file(std::ifstream& stream, char const* path) {
+    struct stat info {};
+    if (::stat(path, &info) == 0 && !S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode)) {
+        errno = EINVAL;
+        return false;
+    }
+    stream.open(path, std::ios_base::binary);
+    return stream.is_open();
+}
 
 std::uint64_t bytes_left(std::istream& stream) {
     std::streamoff const position = stream.tellg();

@@ -4,6 +4,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <fstream>
 #include <istream>
 #include <ostream>
 
@@ -29,6 +30,10 @@ void write_field(std::ostream& stream, T field) {
         stream.put(static_cast<char>((field >> (8 * i)) & 0xFF));
     }
 }
+
+/// Opens a file to be read. Whether it could; a pipe or a device can't, with EINVAL, since it might
+/// never end or keep the program waiting.
+bool open_file(std::ifstream& stream, char const* path);
 
 /// Bytes from the read position to the end of the file; 0 where the stream has failed or can't
 /// seek. The position stays.

@@ -84,8 +84,8 @@ void write_vector(std::ostream& stream, std::vector<unsigned char> const& bytes)
 }  // namespace
 
 bool tgaimage_t::load(char const* path, libutils::android_app*) {
-    std::ifstream stream(path, std::ios_base::binary);
-    if (!stream) {
+    std::ifstream stream;
+    if (!open_file(stream, path)) {
         return false;
     }
     read_header(stream, *this);

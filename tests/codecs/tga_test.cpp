@@ -4,6 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
+#include "codecs/bmpimage.h"
+#include "codecs/bmpimage2.h"
+#include "codecs/bmpload.h"
+#include "codecs/jpegobject.h"
+#include "codecs/png.h"
 #include "tests/codecs/picturebytes.h"
 
 namespace {
@@ -81,6 +88,16 @@ TEST_F(Tga, SavesRedFirstPicturesAlone) {
         image.m_width = 65538;
         EXPECT_FALSE(image_tga_t().save(image, path));
     }
+}
+
+/// A reader that waited for a writer would never come back.
+TEST_F(picture_test_t, no_codec_reads_from_a_pipe) {
+    ASSERT_EQ(mkfifo(path, 0600), 0);
+    capture_t captured;
+    EXPECT_FALSE(image_bmp_t().load(image, path) || image_bmp2_t().load(image, path));
+    EXPECT_FALSE(BmpLoad(image, path, IMAGE_FORMAT_BGR) || image_tga_t().load(image, path));
+    EXPECT_FALSE(image_png_t().load(image, path) || image_jpeg1_t().load(image, path));
+    EXPECT_TRUE(captured.err().starts_with(file + ": file open error, Invalid argument\n"));
 }
 
 }  // namespace
