@@ -34,6 +34,7 @@ struct decoding_t {
     work_limit_t limit{};
     jpegdata_t const& data;
     jpeg_memory_source_t* source = nullptr;
+    bool has_scans = false;  ///< several, which are all read before the first row comes out
     unsigned int app_length = k_saved_length;
     JSAMPROW bottom = nullptr;     ///< the image's first byte
     std::size_t row_size = 0;      ///< bytes from a row to the one above it
@@ -59,6 +60,7 @@ void read_header(decoding_t& decoding) {
     }
     jpeg_read_header(cinfo, TRUE);
     decoding.source->in_header = false;
+    decoding.has_scans = jpeg_has_multiple_scans(cinfo) != FALSE;
 }
 
 void report(jpegdata_t const& data, char const* text) {
@@ -70,10 +72,8 @@ void report(jpegdata_t const& data, char const* text) {
 void read_rows(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
     jpeg_start_decompress(cinfo);
-    // A file of several scans has been read whole by now, and every row comes out of what there is.
-    bool const is_read = jpeg_has_multiple_scans(cinfo) != FALSE;
-    decoding.fell_short = is_read && (decoding.limit.is_reached || lacks_data(cinfo) ||
-                                      decoding.source->has_run_out());
+    decoding.fell_short = decoding.has_scans && (decoding.limit.is_reached || lacks_data(cinfo) ||
+                                                 decoding.source->has_run_out());
     JSAMPARRAY const elsewhere = (*cinfo->mem->alloc_sarray)(
         reinterpret_cast<j_common_ptr>(cinfo), JPOOL_IMAGE,
         cinfo->output_width * static_cast<JDIMENSION>(cinfo->output_components), 1);
@@ -82,15 +82,29 @@ void read_rows(decoding_t& decoding) {
         JSAMPROW row = target < decoding.stored_rows ? decoding.bottom + decoding.row_size * target
                                                      : elsewhere[0];
         bool const delivered = jpeg_read_scanlines(cinfo, &row, 1) == 1;
-        if (!delivered || (!is_read && lacks_data(cinfo))) {
+        if (!delivered || (!decoding.has_scans && lacks_data(cinfo))) {
             decoding.fell_short = true;
             break;
         }
     }
-    if (decoding.fell_short) {
+    if (decoding.fell_short && decoding.limit.last_scan == 0) {
         report(decoding.data, ": decompress fail.");
     }
     jpeg_finish_decompress(cinfo);
+}
+
+/// Decodes the rows of a file of several scans from the scans that stand before an error, none of
+/// which has come out yet.
+void read_whole_scans(decoding_t& failed) {
+    jpeg_destroy_decompress(&failed.cinfo);
+    decoding_t decoding(failed.data);
+    decoding.limit.last_scan = failed.limit.scan;
+    decoding.bottom = failed.bottom;
+    decoding.row_size = failed.row_size;
+    decoding.stored_rows = failed.stored_rows;
+    if (failed.has_scans && decoding.limit.last_scan != 0 && run_jpeg_step(read_header, decoding)) {
+        run_jpeg_step(read_rows, decoding);
+    }
 }
 
 jpeg_info_desc_t const* row_of(jpeg_decompress_struct const& cinfo) {
@@ -108,8 +122,7 @@ jpeg_info_desc_t const* row_of(jpeg_decompress_struct const& cinfo) {
 bool is_possible(decoding_t& decoding, image_desc_t const& desc) {
     jpeg_decompress_struct& cinfo = decoding.cinfo;
     auto const components = static_cast<std::uint64_t>(cinfo.num_components);
-    std::uint64_t const coefficient_bits =
-        jpeg_has_multiple_scans(&cinfo) ? components * sizeof(JCOEF) * 8 : 0;
+    std::uint64_t const coefficient_bits = decoding.has_scans ? components * sizeof(JCOEF) * 8 : 0;
     return is_possible_picture(cinfo, desc.getPixelBits(), coefficient_bits, decoding.data.size());
 }
 
@@ -231,6 +244,7 @@ bool jpeginfo_t::decompress(image2d_t& image, jpegdata_t const& data, unsigned s
     decoding.stored_rows = static_cast<unsigned int>(image.size() / decoding.row_size);
     if (!run_jpeg_step(read_rows, decoding)) {
         report(data, ": jpeg decompress fail, but continue.");
+        read_whole_scans(decoding);
     }
     return true;
 }

@@ -56,7 +56,9 @@ void limit_work(j_common_ptr any) {
     limit.blocks += blocks_of_row(*cinfo);
     std::uint64_t const most =
         k_harmless_blocks + k_blocks_of_a_byte * limit.held + 2 * blocks_of_picture(*cinfo);
-    limit.is_reached = limit.scan > k_most_scans || limit.blocks > most;
+    bool const is_behind_last =
+        limit.scan == limit.last_scan && limit.row == cinfo->total_iMCU_rows;
+    limit.is_reached = limit.scan > k_most_scans || limit.blocks > most || is_behind_last;
     if (limit.is_reached && limit.source == nullptr) {
         ERREXIT(cinfo, JERR_BAD_PROGRESSION);
     } else if (limit.is_reached) {

@@ -14,6 +14,7 @@ struct work_limit_t {
     std::uint64_t held = 0;                  ///< bytes of the file
     jpeg_memory_source_t* source = nullptr;  ///< ends when the limit is reached; null: an error
     bool is_reached = false;
+    int last_scan = 0;  ///< the scan behind which the limit is reached in any case; 0 for none
     std::uint64_t blocks = 0;  ///< read so far, in all scans
     int scan = 0;              ///< the last row that was counted
     JDIMENSION row = 0;

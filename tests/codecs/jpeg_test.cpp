@@ -162,6 +162,10 @@ TEST_F(JpegTest, ShowsWhatOneOfManyScansOrIntervalsLeaves) {
         EXPECT_NE(load(cut).find(": decompress fail.\n"), cut.npos) << at;
         EXPECT_EQ(rows_as_in(cut + "\xFF\xD9"), 50u) << at;
     }
+    for (std::size_t at = first + 12; at < scans.size(); ++at) {  // between the scans, too
+        EXPECT_NE(load(scans.substr(0, at)).find("decompress fail"), scans.npos) << at;
+        EXPECT_NE(pixel_row(image, 0)[0], 0) << at;
+    }
     std::string const intervals = jpeg_of({64, 64, JCS_GRAYSCALE, 1, 1, false, 3});
     std::size_t const second = intervals.find("\xFF\xD0"), third = intervals.find("\xFF\xD1");
     EXPECT_EQ(load(std::string(intervals).erase(second + 4, third - second - 4)).find("fail"),
