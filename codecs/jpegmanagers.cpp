@@ -139,10 +139,11 @@ void end_source(jpeg_memory_source_t& source) {
 
 bool lacks_data(j_decompress_ptr cinfo) {
 #if __has_include(<jpegint.h>)
-    return cinfo->entropy->insufficient_data != FALSE;
-#else
-    return source_of(cinfo).has_run_out();
+    if (cinfo->arith_code == FALSE) {  // the arithmetic decoder never sets the sign
+        return cinfo->entropy->insufficient_data != FALSE;
+    }
 #endif
+    return source_of(cinfo).has_run_out();
 }
 
 void use_memory_destination(j_compress_ptr cinfo, jpegdata_t& data) {

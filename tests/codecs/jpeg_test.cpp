@@ -166,6 +166,9 @@ TEST_F(JpegTest, ShowsWhatOneOfManyScansOrIntervalsLeaves) {
         EXPECT_NE(load(scans.substr(0, at)).find("decompress fail"), scans.npos) << at;
         EXPECT_NE(pixel_row(image, 0)[0], 0) << at;
     }
+    std::string const arithmetic = jpeg_of({70, 50, JCS_GRAYSCALE, 1, 1, false, 0, true});
+    EXPECT_EQ(load(arithmetic), "true ");
+    EXPECT_EQ(rows_as_in(arithmetic), 50u);
     std::string const intervals = jpeg_of({64, 64, JCS_GRAYSCALE, 1, 1, false, 3});
     std::size_t const second = intervals.find("\xFF\xD0"), third = intervals.find("\xFF\xD1");
     EXPECT_EQ(load(std::string(intervals).erase(second + 4, third - second - 4)).find("fail"),

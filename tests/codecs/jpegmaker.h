@@ -15,6 +15,7 @@ struct layout_t {
     unsigned int h, v;  ///< sampling factors of the first component
     bool progressive = false;
     unsigned int restart = 0;  ///< MCUs
+    bool arithmetic = false;
 };
 /// A picture without symmetry as a JPEG, with these segments behind its SOI.
 inline std::string jpeg_of(layout_t const& layout, std::string const& segments = "") {
@@ -37,6 +38,7 @@ inline std::string jpeg_of(layout_t const& layout, std::string const& segments =
         jpeg_simple_progression(&cinfo);
     }
     cinfo.restart_interval = layout.restart;
+    cinfo.arith_code = layout.arithmetic ? TRUE : FALSE;
     jpeg_scan_info const scans[] = {{1, {0}, 0, 63, 0, 0}, {2, {1, 2}, 0, 63, 0, 0}};
     if (layout.h * layout.v > 8) {
         cinfo.scan_info = scans;  // one scan can't hold all blocks of a unit

@@ -62,7 +62,7 @@ unsigned int source_of(unsigned int at, unsigned int size, unsigned int unit, bo
 }
 
 void expect_moved(row_t const& row) {
-    auto const& [width, height, colors, h, v, progressive, restart] = row.layout;
+    auto const& [width, height, colors, h, v, progressive, restart, arithmetic] = row.layout;
     auto const& [swaps, reverses_x, reverses_y] = k_operations[row.code];
     jpeg_transform_info info = request(row.code, row.crop);
     info.trim = row.trim;
