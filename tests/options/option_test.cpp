@@ -97,7 +97,7 @@ TEST_F(Option, LeadingOptionsAreAppliedAndTakenOut) {
         EXPECT_EQ(enter(line), rest) << line;
         EXPECT_EQ(changes(), changed) << line;
     }
-    EXPECT_EQ(rows, 29);
+    EXPECT_EQ(rows, 31);
 }
 
 TEST_F(Option, HelpFollowsWhatDebugShowsAndEndsTheProcess) {
