@@ -74,7 +74,17 @@ std::vector<int> expected(screen_row_t const& row, int x, int y) {
     return {channel(0), channel(1), channel(2)};
 }
 
-TEST_F(SceneScreenTest, EveryTexelLiesOnItsWindowPixel) {
+/// Tests that run once for each way of building mipmaps.
+class SceneMipmapTest : public SceneScreenTest, public testing::WithParamInterface<std::string> {
+  protected:
+    gl_flag_t gl3{is_GL_VERSION_3_0_supported, GetParam() == "GL30"};
+    gl_flag_t sgis{is_GL_SGIS_generate_mipmap_supported, GetParam() == "SGIS"};
+};
+
+INSTANTIATE_TEST_SUITE_P(Mipmaps, SceneMipmapTest, testing::Values("GL30", "SGIS", "GLU"),
+                         [](auto const& test) { return test.param; });
+
+TEST_P(SceneMipmapTest, EveryTexelLiesOnItsWindowPixel) {
     for (screen_row_t const& row : screen_rows) {
         ViewScene scene;
         load(scene, row.width, row.height);
