@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <fstream>
 #include <limits>
+#include <utility>
 
 #include "codecs/claims.h"
 #include "codecs/streambytes.h"
@@ -174,12 +175,15 @@ bool convert(tgaimage_t& tga, image2d_t const& image) {
     if (!rgb2bgr(swapped, image) && row->bits == IMAGE_BITS_8) {
         return false;
     }
-    tga = tgaimage_t{};
-    tga.image_type = 2;
-    tga.width = static_cast<std::uint16_t>(image.m_width);
-    tga.height = static_cast<std::uint16_t>(image.m_height);
-    tga.depth = row->depth;
-    tga.pixels = swapped;
+    tgaimage_t converted;
+    converted.image_type = 2;
+    converted.width = static_cast<std::uint16_t>(image.m_width);
+    converted.height = static_cast<std::uint16_t>(image.m_height);
+    converted.depth = row->depth;
+    converted.image_id.swap(tga.image_id);
+    converted.colormap.swap(tga.colormap);
+    converted.pixels = swapped;
+    tga = std::move(converted);
     return true;
 }
 

@@ -46,7 +46,7 @@ bool convert(image2d_t& image, tgaimage_t const& tga);
 
 /// Describes the picture as a TGA record with the bytes in BGR order. Takes RGB pictures of 8 bits,
 /// RGBA ones of 8 bits and of 5, 5, 5 and 1, up to 65535 pixels a side; others are false, also
-/// those that are in BGR order already.
+/// those that are in BGR order already. The record keeps the bytes of its id and colour map.
 bool convert(tgaimage_t& tga, image2d_t const& image);
 
 /// The codec on top of tgaimage_t.

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // JPEG files made by the encoder, then cut, damaged and given markers.
+#include <unistd.h>
+
 #include <cstdlib>
 
 #include "codecs/jpeginfo.h"
 #include "codecs/jpegobject.h"
+#include "codecs/jpegtransform.h"
 #include "codecs/orientation.h"
 #include "geometry/constants.h"
 #include "tests/codecs/jpegmaker.h"
@@ -38,13 +41,16 @@ std::string encoded(image2d_t const& image, jpeginfo_t info = {}) {
 }
 
 struct JpegTest : picture_test_t {
-    /// Loads these bytes as a file. The result is all lines, behind "true " or "false ".
+    /// Loads these bytes as a file. Returns "true " or "false " and all lines of the error stream.
+    /// A load that does not end is ended by SIGALRM.
     std::string load(std::string const& bytes) {
         write_file(file, bytes);
         codec = {};
         image = {};
         testing::internal::CaptureStderr();
+        alarm(20);
         std::string const loaded = codec.load(image, path) ? "true " : "false ";
+        alarm(0);
         return loaded + testing::internal::GetCapturedStderr();
     }
 
@@ -60,6 +66,18 @@ struct JpegTest : picture_test_t {
             }
         }
         return image.m_height;
+    }
+
+    /// Returns how many rows are equal to those of `bytes` in a plain decoder.
+    unsigned int rows_as_in(std::string const& bytes) const {
+        pixels_t const plain = pixels_of(bytes);
+        unsigned int const row_bytes = plain.width * plain.components;
+        unsigned int rows = 0;
+        for (unsigned int y = 0; y < image.m_height; ++y) {
+            unsigned char const* const row = pixel_row(image, image.m_height - 1 - y);
+            rows += std::equal(row, row + row_bytes, plain.samples.begin() + y * row_bytes);
+        }
+        return rows;
     }
 
     image_jpeg1_t codec;
@@ -142,17 +160,6 @@ TEST_F(JpegTest, ShowsACutFileAsFarAsItGoes) {
 }
 
 TEST_F(JpegTest, ShowsWhatOneOfManyScansOrIntervalsLeaves) {
-    /// Rows that are as a plain decoder has them, from the top.
-    auto const rows_as_in = [&](std::string const& bytes) {
-        pixels_t const plain = pixels_of(bytes);
-        unsigned int rows = 0;
-        for (unsigned int y = 0; y < image.m_height; ++y) {
-            rows += std::equal(pixel_row(image, image.m_height - 1 - y),
-                               pixel_row(image, image.m_height - 1 - y) + plain.width,
-                               plain.samples.begin() + y * plain.width);
-        }
-        return rows;
-    };
     std::string const scans = jpeg_of({70, 50, JCS_GRAYSCALE, 1, 1, true});
     EXPECT_EQ(load(scans), "true ");
     EXPECT_EQ(rows_as_in(scans), 50u);
@@ -176,6 +183,26 @@ TEST_F(JpegTest, ShowsWhatOneOfManyScansOrIntervalsLeaves) {
     EXPECT_EQ(rows_as_in(intervals), 56u) << "but for the row of blocks with that interval";
     EXPECT_TRUE(load(jpeg_without_end()).ends_with(file + ": decompress fail.\n"));
     EXPECT_NE(pixel_row(image, image.m_height - 1)[0], 0) << "what the first scans tell";
+}
+
+TEST_F(JpegTest, EndsWhereASegmentAfterTheRowsIsLongerThanTheFile) {
+    for (layout_t const& layout : {layout_t{300, 200, JCS_GRAYSCALE, 1, 1},
+                                   {300, 200, JCS_GRAYSCALE, 1, 1, false, 3},
+                                   {300, 200, JCS_GRAYSCALE, 1, 1, true},
+                                   {300, 200, JCS_GRAYSCALE, 1, 1, false, 0, true}}) {
+        std::string const whole = jpeg_of(layout), rows = whole.substr(0, whole.size() - 2);
+        for (unsigned long const tail : {0xFFE0FFF0, 0xFFFEFFFF, 0xFFE58000, 0xFFDBFFFF}) {
+            std::string const bytes = rows + be(tail, 4);
+            EXPECT_TRUE(load(bytes).starts_with("true ")) << std::hex << tail;
+            EXPECT_EQ(rows_as_in(whole), 200u) << std::hex << tail;
+            jpegdata_t const data = jpegdata_of(bytes);
+            jpegdata_t turned;
+            alarm(20);
+            EXPECT_TRUE(jpeginfo_t().analyze_markers(data));
+            EXPECT_FALSE(transform(1, turned, data));
+            alarm(0);
+        }
+    }
 }
 
 TEST_F(JpegTest, RefusesWhatCantBeHeldAndSkipsWithinBounds) {

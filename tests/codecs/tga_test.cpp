@@ -90,6 +90,19 @@ TEST_F(Tga, SavesRedFirstPicturesAlone) {
     }
 }
 
+TEST_F(Tga, ConvertKeepsIdAndColourMap) {
+    write_file(file, tga_t{1, 4, 1, 8, ramp(4), 0, "id", 1, 2, 3, ramp(9)}.bytes());
+    tgaimage_t tga;
+    ASSERT_TRUE(tga.load(path, nullptr));
+    ASSERT_TRUE(convert(tga, image_of(2, 1, IMAGE_FORMAT_RGB, IMAGE_BITS_8, ramp(8))));
+    EXPECT_EQ(std::tuple(tga.image_id.size(), tga.colormap.size()), std::tuple(2u, 9u));
+    ASSERT_TRUE(tga.save(path, nullptr));
+    std::string written =
+        tga_t{2, 2, 1, 24, {"\3\2\1\6\5\4\0\0", 8}, 0, "id", 0, 0, 0, ramp(9)}.bytes();
+    written[1] = 1;  // a colour map of no entries
+    EXPECT_EQ(read_file(file), written);
+}
+
 /// A reader that waited for a writer would never come back.
 TEST_F(picture_test_t, no_codec_reads_from_a_pipe) {
     ASSERT_EQ(mkfifo(path, 0600), 0);
