@@ -13,8 +13,9 @@ from installed import BUILD, VERSION, PackagingTest, main, run
 class DebianPackage(PackagingTest):
     @classmethod
     def setUpClass(cls):
-        if not shutil.which("dpkg-shlibdeps"):
-            raise unittest.SkipTest("dpkg-dev is not installed")
+        for program in "dpkg-shlibdeps", "file":
+            if not shutil.which(program):
+                raise unittest.SkipTest(f"{program} is not installed")
         made = tempfile.TemporaryDirectory()
         cls.addClassCleanup(made.cleanup)
         run("cpack", "--config", BUILD / "CPackConfig.cmake", "-B", made.name)
