@@ -9,6 +9,8 @@
 #include <chrono>
 #include <thread>
 
+#include "app/windowmanager.h"
+
 namespace zanoview2::native {
 
 namespace {
@@ -88,6 +90,9 @@ void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
 
 void iconify(GLFWwindow* window) {
     glfwIconifyWindow(window);
+    if (!is_managed(window)) {
+        return;
+    }
     await([&] { return glfwGetWindowAttrib(window, GLFW_ICONIFIED) == GLFW_TRUE; });
 }
 

@@ -40,8 +40,9 @@ void set_title(GLFWwindow* window, std::string const& title);
 /// window manager answers late, and what is fitted into the window needs the size it will have.
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
 
-/// Takes the window down, and waits a tenth of a second at most until it is: a window that is told
-/// to come up before the window manager has put it away stays away.
+/// Iconifies the window. Under a window manager, waits until the window is iconified, at most a
+/// tenth of a second: a request to restore it that arrives earlier is lost, and the window stays
+/// iconified. Without a window manager, takes one reply of the X server at most.
 void iconify(GLFWwindow* window);
 /// Brings the window up again.
 void restore(GLFWwindow* window);

@@ -2,12 +2,11 @@
 // Mipmaps by GLU, kept within the bytes that it is given.
 #include "gl/glumipmaps.h"
 
-#include <array>
 #include <cstring>
 
 #include "gl/glucalls.h"
+#include "gl/pixelstore.h"
 #include "gl/unpackreach.h"
-#include "glext/glextloader.h"
 
 namespace libgr {
 namespace {
@@ -64,33 +63,13 @@ image_bytes_t unpadded(image3d_t const& read, unsigned long long bits) {
     return copy;
 }
 
-/// Pixels without padding, packed and unpacked, until the end of the block. GLU allocates the
-/// levels of a volume so, and then writes and reads them by the state.
-class unpadded_state_t {
-  public:
-    unpadded_state_t() {
-        for (std::size_t i = 0; i < s_names.size(); ++i) {
-            bool const is_alignment =
-                s_names[i] == GL_PACK_ALIGNMENT || s_names[i] == GL_UNPACK_ALIGNMENT;
-            glGetIntegerv(s_names[i], &m_former[i]);
-            glPixelStorei(s_names[i], is_alignment ? 1 : 0);
-        }
-    }
-    unpadded_state_t(unpadded_state_t const&) = delete;
-    unpadded_state_t& operator=(unpadded_state_t const&) = delete;
-    ~unpadded_state_t() {
-        for (std::size_t i = 0; i < s_names.size(); ++i) {
-            glPixelStorei(s_names[i], m_former[i]);
-        }
-    }
-
-  private:
-    static constexpr std::array<GLenum, 12> s_names = {
-        GL_PACK_ALIGNMENT,     GL_PACK_ROW_LENGTH,  GL_PACK_SKIP_PIXELS,    GL_PACK_SKIP_ROWS,
-        GL_PACK_IMAGE_HEIGHT,  GL_PACK_SKIP_IMAGES, GL_UNPACK_ALIGNMENT,    GL_UNPACK_ROW_LENGTH,
-        GL_UNPACK_SKIP_PIXELS, GL_UNPACK_SKIP_ROWS, GL_UNPACK_IMAGE_HEIGHT, GL_UNPACK_SKIP_IMAGES};
-    std::array<GLint, s_names.size()> m_former{};
-};
+/// Pixels without padding, packed and unpacked. GLU allocates the levels of a volume so, and then
+/// writes and reads them by the state.
+constexpr pixelstore_t s_unpadded[] = {
+    {GL_PACK_ALIGNMENT, 1},   {GL_PACK_ROW_LENGTH, 0},     {GL_PACK_SKIP_PIXELS, 0},
+    {GL_PACK_SKIP_ROWS, 0},   {GL_PACK_IMAGE_HEIGHT, 0},   {GL_PACK_SKIP_IMAGES, 0},
+    {GL_UNPACK_ALIGNMENT, 1}, {GL_UNPACK_ROW_LENGTH, 0},   {GL_UNPACK_SKIP_PIXELS, 0},
+    {GL_UNPACK_SKIP_ROWS, 0}, {GL_UNPACK_IMAGE_HEIGHT, 0}, {GL_UNPACK_SKIP_IMAGES, 0}};
 
 /// GLU counts the bytes of its scaled copies in 32 bits: texels of up to 16 bytes, each side up by
 /// a third.
@@ -156,7 +135,7 @@ bool build_mipmaps(unsigned int target, gl_loading_format_t const& terms, image3
     if (pixels.empty()) {
         return false;
     }
-    unpadded_state_t const state;
+    grPixelStoreKeeper const state(s_unpadded);
     gluBuild3DMipmaps(target, static_cast<GLint>(terms.internalformat),
                       static_cast<GLsizei>(image.m_width), static_cast<GLsizei>(image.m_height),
                       static_cast<GLsizei>(image.m_depth), terms.format, terms.type,

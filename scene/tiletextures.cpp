@@ -3,11 +3,13 @@
 #include "scene/tiletextures.h"
 
 #include <algorithm>
+#include <bit>
 #include <iostream>
 
 #include "geometry/textstream.h"
 #include "gl/grerror.h"
 #include "gl/matrixmgr.h"
+#include "image/repeatedges.h"
 #include "options/option.h"
 
 namespace zanolib {
@@ -30,6 +32,10 @@ void draw_quad(tile_quad_t const& quad) {
     glVertex2f(quad.x1, quad.y1);
     glTexCoord2f(0.0f, quad.ty);
     glVertex2f(quad.x0, quad.y1);
+}
+
+bool is_square_of(libgr::image2d_t const& tile, unsigned int side) {
+    return tile.m_width == side && tile.m_height == side;
 }
 
 }  // namespace
@@ -105,12 +111,18 @@ bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const&
     for (libgr::image2d_t const& tile : in.m_squares) {
         dim = std::max({dim, tile.m_width, tile.m_height});
     }
+    unsigned int const side = std::bit_ceil(dim);
     for (std::size_t i = 0; i < in.m_squares.size(); ++i) {
         libgr::grTexture2D& texture = out.m_textures[i];
         texture.setInternalCompression(false);
         texture.setBuildMipmap(true);
         texture.setBorder(false);
         texture.setImage(in.m_squares[i], dim, 0);
+        libgr::image2d_t square;
+        if (texture.isBuiltByGLU() && !is_square_of(in.m_squares[i], side) &&
+            libgr::repeat_edges(square, in.m_squares[i], side, side)) {
+            texture.setImage(square, dim, 0);
+        }
     }
     return true;
 }

@@ -111,6 +111,30 @@ class Session(ViewerTest):
             viewer.key("d")
             wait_for("the end of it", lambda: not os.path.exists(self.path("a.zvw")))
 
+    def test_does_not_wait_for_a_window_manager_that_is_not_there(self):
+        with Viewer("-frametype", "0", self.folder.name) as viewer:
+            viewer.await_title("/a.bmp (1/4)")
+            start = time.monotonic()
+            xdotool("key", "--delay", 8, *40 * ["R"], "space")
+            viewer.await_title("/b.bmp (2/4)")
+            self.assertLess(time.monotonic() - start, 3, "seconds for 40 times down and up")
+
+    def test_truncated_while_shown(self):
+        names = "l.bmp", "m.bmp"
+        expected = [write_bmp(self.path(name), 400, 1200, 24, pattern(24)) for name in names][0]
+        with Viewer("-frametype", "0", *map(self.path, names)) as viewer:
+            viewer.await_title("/l.bmp (1/2)")
+            viewer.key("0")
+            shown = lambda: part(viewer.look(), 200, 0, 400, 600)
+            wait_for("the middle", lambda: shown() == expected[300 * 1200:900 * 1200])
+            # Rows are stored from the bottom: 450 remain, 150 of them inside the window.
+            os.truncate(self.path("l.bmp"), 54 + 450 * 1200)
+            viewer.key("F5", "0")
+            rest = bytes(450 * 1200) + expected[750 * 1200:900 * 1200]
+            wait_for("the rest", lambda: shown() == rest)
+            viewer.key("space")
+            viewer.await_title("/m.bmp (2/2)")
+
     def test_sleeps_when_nothing_happens(self):
         with Viewer(self.path("a.bmp"), lang="ja_JP.UTF-8") as viewer:
             viewer.await_title("/a.bmp (1/1)")

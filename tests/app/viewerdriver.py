@@ -61,14 +61,14 @@ class Viewer:
     by exec."""
 
     def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
-                 cwd=None):
+                 cwd=None, **environment):
         self.last_key, self.errors = last_key, errors
         self.home = tempfile.TemporaryDirectory()
         self.process = subprocess.Popen(
             tuple(command) + arguments, cwd=cwd, text=True,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE,
             env={**os.environ, "LANG": lang, "HOME": self.home.name,
-                 "ASAN_OPTIONS": "detect_leaks=1:exitcode=0"})
+                 "ASAN_OPTIONS": "detect_leaks=1:exitcode=0", **environment})
         self.window = wait_for("the window", self.search)
         xdotool("windowfocus", "--sync", self.window)
 
@@ -94,6 +94,8 @@ class Viewer:
         which nothing of ours takes part: the GL driver has some, and is unloaded when they are
         counted."""
         output, errors = self.process.communicate(timeout=30)
+        # Mesa prints this although it hides the extension.
+        output = re.sub("Warning: extension '.*' cannot be disabled\n", "", output)
         errors, _, report = errors.partition("\n====")
         fault = re.search(r"\b(libgr|zanolib|zanoview2|wenk|libutils)::|main\.cpp"
                           "|ERROR: AddressSanitizer", report)

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "image/repeatedges.h"
 #include "tests/image/testimages.h"
 #include "tests/support/files/testfiles.h"
 
@@ -140,6 +141,22 @@ TEST(rotate, turns_clockwise_by_quarters) {
         EXPECT_TRUE(rotate(count, dst, src) && pixels(dst) == turned[count]) << count;
     }
     EXPECT_FALSE(rotate(4, dst, src) || rotate(1, dst, spoilt(src)[4]) || dst.m_width != 3);
+}
+
+TEST(repeat_edges, fills_the_rest_with_the_last_column_and_the_top_row) {
+    constexpr image_store_t swapped{true, 4};
+    image2d_t src = windowed(picture(bytes_desc(IMAGE_FORMAT_RG), 2, {{1, 2, 3, 4}, {5, 6, 7, 8}}));
+    src.store = &swapped;
+    image2d_t dst, bits = src;
+    bits.desc = {IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_4};
+    EXPECT_TRUE(repeat_edges(dst, src, 4, 3) && dst.desc == src.desc && dst.store == &swapped);
+    EXPECT_EQ(
+        pixels(dst),
+        (rows_t{{1, 2, 3, 4, 3, 4, 3, 4}, {5, 6, 7, 8, 7, 8, 7, 8}, {5, 6, 7, 8, 7, 8, 7, 8}}));
+    EXPECT_FALSE(repeat_edges(dst, src, 1, 3) || repeat_edges(dst, src, 4, 1) ||
+                 repeat_edges(dst, bits, 4, 3) || repeat_edges(dst, image2d_t(), 4, 3) ||
+                 repeat_edges(dst, spoilt(src)[3], 4, 3) ||
+                 repeat_edges(dst, spoilt(src)[4], 4, 3) || dst.m_width != 4);
 }
 
 TEST(makewindow, cuts_by_the_whole_skip_and_wraps_beyond) {

@@ -10,6 +10,7 @@
 
 #include "tests/metadata/segmentbytes.h"
 #include "tests/support/files/testfiles.h"
+#include "tests/support/files/transcript.h"
 
 namespace {
 
@@ -70,7 +71,7 @@ TEST(jpegmarkers, take_good_segments_print_them_and_refuse_others) {
             text += line + "\n" + readers.at(name)(line.substr(1, line.size() - 2));
         }
     }
-    EXPECT_EQ(text, read_file(MARKER_LINES));
+    EXPECT_TRUE(matches_file(text, MARKER_LINES));
 }
 
 TEST(jpegmarkers, keep_what_was_read_before_a_refusal_and_begin_anew) {

@@ -146,6 +146,25 @@ TEST_F(SceneTest, TilesFollowTheGlUpTo256AndMeet) {
     }
 }
 
+TEST_F(SceneTest, OnlyTilesThatGluWouldStretchAreCopied) {
+    libgr::image2d_t picture;
+    picture.desc = {libgr::IMAGE_FORMAT_GRAYSCALE, libgr::IMAGE_TYPE_UINT, libgr::IMAGE_BITS_8};
+    picture.m_width = 300;
+    picture.m_height = 256;
+    ASSERT_TRUE(picture.resize(4 * 300 * 256, 0));  // with room for what GLU reads past the end
+    gl.regions = {{picture.begin(), picture.size(), "picture"}};
+    for (int const version : {3, 2}) {
+        is_GL_VERSION_3_0_supported = version == 3;
+        zanolib::multi_square_image_t tiles;
+        zanolib::multi_texture_object_t textures;
+        ASSERT_TRUE(zanolib::rectangle_to_squares(tiles, picture, 256, true));
+        ASSERT_TRUE(zanolib::squares_to_texobjs(textures, tiles));
+        textures.Preload();
+        keep("GL_UNSIGNED_BYTE, p");  // calls with pixels
+        note("OpenGL", version);
+    }
+}
+
 TEST_F(SceneTest, OnePictureIsLoadedDrawnAndFreedInOrder) {
     gl.muted = {"glGetIntegerv", "glGetError"};
     ViewScene scene;

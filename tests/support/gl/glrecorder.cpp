@@ -245,12 +245,3 @@ std::string gl_recorder_t::take() {
     }
     return text;
 }
-
-bool same_as_file(const std::string& text, const std::string& path) {
-    std::ostringstream expected;
-    expected << std::ifstream(path, std::ios::binary).rdbuf();
-    if (text != expected.str()) {
-        std::ofstream(std::filesystem::path(path).filename().string() + ".new") << text;
-    }
-    return text == expected.str();
-}

@@ -50,10 +50,6 @@ struct gl_recorder_t {
 /// The name of an enumerant. Values below 0x100 mean something else in each call and stay numbers.
 std::string gl_enum_name(GLenum value);
 
-/// Whether a file holds this text; where it doesn't, the text is written into the working
-/// directory under the file's name with ".new" behind it.
-bool same_as_file(const std::string& text, const std::string& path);
-
 /// Gives an extension flag a value for its lifetime.
 class gl_flag_t {
   public:
