@@ -4,6 +4,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages="g++ cmake ninja-build pkg-config libglfw3-dev libx11-dev libgl-dev libglu1-mesa-dev libgl1 libgl1-mesa-dri libjpeg-dev libpng-dev"
 screen_packages="xvfb xdotool imagemagick"
 test_packages="libgtest-dev libbenchmark-dev python3 openbox x11-utils $screen_packages"
+# What the tests of the installation need: checkers, an SVG renderer, the shells with completions.
+test_packages="$test_packages lintian desktop-file-utils appstream librsvg2-bin bash-completion zsh fish"
 
 say() { printf '==> %s\n' "$*"; }
 

@@ -57,13 +57,16 @@ def write_bmp(path, width, height, bits, pixel):
 
 class Viewer:
     """The program on the screen. `with` ends it by a key and looks at how it ended, and that it
-    printed `errors` onto the error stream and nothing more."""
+    printed `errors` onto the error stream and nothing more. A `command` must become the program
+    by exec."""
 
-    def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", **environment):
+    def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
+                 cwd=None, **environment):
         self.last_key, self.errors = last_key, errors
         self.home = tempfile.TemporaryDirectory()
         self.process = subprocess.Popen(
-            (PROGRAM,) + arguments, text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+            tuple(command) + arguments, cwd=cwd, text=True,
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE,
             env={**os.environ, "LANG": lang, "HOME": self.home.name,
                  "ASAN_OPTIONS": "detect_leaks=1:exitcode=0", **environment})
         self.window = wait_for("the window", self.search)
@@ -112,6 +115,12 @@ class Viewer:
         data = run("import", "-window", self.window, "-depth", "8", "ppm:-")
         head = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", data)
         return int(head[1]), int(head[2]), data[head.end():]
+
+    def stays(self):
+        """What stands in the window, or None if it has just changed or is of one colour."""
+        shot = self.look()
+        time.sleep(0.2)
+        return shot if len(set(shot[2])) > 1 and shot == self.look() else None
 
     def box(self):
         """The bounds of all that isn't background: left, top, right, bottom, inclusive; or None."""
