@@ -161,11 +161,9 @@ bool ViewObject::saveImage(char const* path) {
     return true;
 }
 
-void ViewObject::load_texture() {
-    if (!m_texture_loaded) {
-        m_texobject.Preload();
-        m_texture_loaded = true;
-    }
+bool ViewObject::load_texture() {
+    m_texture_loaded = m_texture_loaded || m_texobject.Preload();
+    return m_texture_loaded;
 }
 
 void ViewObject::free_texture() {

@@ -45,8 +45,9 @@ class ViewObject : public libgr::grObject3D {
     /// written. Needs a current context.
     bool saveImage(char const* path);
 
-    /// Creates the tile textures unless they are there. Needs a current context.
-    void load_texture();
+    /// Creates the tile textures unless they are there. Returns false, without textures, if there
+    /// is no memory for all of them. Needs a current context.
+    bool load_texture();
     /// Lets go of the tile textures. Needs a current context when they were loaded.
     void free_texture();
     /// Whether the GL holds all tile textures resident.
@@ -58,6 +59,8 @@ class ViewObject : public libgr::grObject3D {
 
     /// Width and height of the stored picture in pixels, before any turn.
     [[nodiscard]] libgr::direction2l_t getImageSize() const;
+    /// Returns the path that was last given to `setImage`.
+    [[nodiscard]] std::string const& path() const { return m_path; }
     /// Quarter turns to the right that the file asks for; 0 until a load succeeds.
     [[nodiscard]] unsigned long rightrotatecount() const { return m_rightrotatecount; }
 
