@@ -19,6 +19,19 @@ bool refuse(char const* reason) {
     return libutils::refuse("rectangle_to_squares()", reason);
 }
 
+/// Moves the skipped rows and pixels from the window into the offset of the bytes, so that the tile
+/// stays the same without them. Drivers that swap bytes do so in a copy of the window and may then
+/// skip once more in that copy, past its end.
+void skip_by_offset(libgr::image2d_t& tile) {
+    auto const skipped = static_cast<unsigned long>(libgr::pixel_row(tile, 0) - tile.begin());
+    tile.offset += skipped;
+    if (tile.count != libgr::image_bytes_t::to_end) {
+        tile.count -= std::min(tile.count, skipped);
+    }
+    tile.window.skippixels = 0;
+    tile.window.skiprows = 0;
+}
+
 bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const& window,
               bool use_window) {
     libgr::image2d_t copied;
@@ -29,6 +42,9 @@ bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const&
     }
     if (!use_window && !libgr::copy(tile, copied)) {
         return refuse(": copy() failed.");
+    }
+    if (tile.store != nullptr && tile.store->swapbytes) {
+        skip_by_offset(tile);
     }
     return true;
 }

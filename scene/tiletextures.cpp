@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bit>
 #include <iostream>
+#include <new>
 
 #include "geometry/textstream.h"
 #include "gl/grerror.h"
@@ -40,11 +41,22 @@ bool is_square_of(libgr::image2d_t const& tile, unsigned int side) {
 
 }  // namespace
 
-void multi_texture_object_t::Preload() {
-    m_texobjs.resize(m_textures.size());
-    for (std::size_t i = 0; i < m_textures.size(); ++i) {
-        m_texobjs[i].Preload(&m_textures[i]);
+bool multi_texture_object_t::Preload() {
+    libgr::grMemoryWatch const memory;
+    bool loaded = false;
+    try {
+        m_texobjs.resize(m_textures.size());
+        for (std::size_t i = 0; i < m_textures.size() && !memory.is_exhausted(); ++i) {
+            m_texobjs[i].Preload(&m_textures[i]);
+        }
+        loaded = !memory.is_exhausted();
+    } catch (std::bad_alloc const&) {
+        // A driver that keeps textures in the process's own memory leaves none for their names.
     }
+    if (!loaded) {
+        Unload();
+    }
+    return loaded;
 }
 
 void multi_texture_object_t::Unload() {

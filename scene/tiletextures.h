@@ -24,8 +24,9 @@ struct multi_texture_object_t {
 
     /// Sets the record that `draw_image` applies to each tile; it has to outlive this object.
     void setTexParm(libgr::texparameter2d_t const* parm) { m_texparm = parm; }
-    /// Creates and fills the GL textures. Needs a current context.
-    void Preload();
+    /// Creates and fills the GL textures. If there is no memory for all of them, stops at the first
+    /// that fails, deletes those before it and returns false. Needs a current context.
+    bool Preload();
     /// Lets go of the GL textures; a later `Preload` makes new ones. Needs a current context.
     void Unload();
     /// Whether the GL holds all textures resident. Those that aren't loaded don't count against it.

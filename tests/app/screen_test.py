@@ -2,6 +2,7 @@
 """The viewer on a real screen: exact pixels, start and end."""
 import os
 import re
+import resource
 import subprocess
 import time
 import unittest
@@ -147,6 +148,29 @@ class Session(ViewerTest):
             before = spent()
             time.sleep(3)
             self.assertEqual(spent(), before)
+
+
+@unittest.skipIf(b"__asan_init" in open(PROGRAM, "rb").read(), "its memory knows no such limit")
+class LittleMemory(ViewerTest):
+    def test_passes_over_a_picture_without_texture_memory(self):
+        for name, colour in ("a.bmp", (200, 0, 0)), ("c.bmp", (0, 0, 200)):
+            write_bmp(self.path(name), 40, 30, 24, lambda x, y, c=colour: c)
+        with open(self.path("b.bmp"), "wb") as out:
+            out.write(bmp_headers(8000, 8000, 24))
+            out.truncate(54 + 3 * 8000 * 8000)
+        told = f"(.*: Error 1285: out of memory\n([a-z_]+: .*\n)*)+{self.path('b.bmp')}: not enough "
+        with Viewer(*PLAIN, self.folder.name, errors=f"({told}texture memory\\.\n){{2}}") as viewer:
+            viewer.await_box(380, 285, 419, 314)
+            # Room for the file's mapping of 192 MB, but not for textures of 341 MB beside it.
+            with open(f"/proc/{viewer.process.pid}/statm") as pages:
+                size = int(pages.read().split()[0]) * resource.getpagesize() + (300 << 20)
+            resource.prlimit(viewer.process.pid, resource.RLIMIT_AS, (size, size))
+            for key, title, pixel in (("space", "/c.bmp (3/3)", (0, 0, 200)),
+                                      ("BackSpace", "/a.bmp (1/3)", (200, 0, 0))):
+                viewer.key(key)
+                viewer.await_title(title)
+                wait_for("the picture",
+                         lambda p=pixel: part(viewer.look(), 390, 300, 1, 1) == bytes(p))
 
 
 class UnderAWindowManager(ViewerTest):

@@ -56,9 +56,9 @@ def write_bmp(path, width, height, bits, pixel):
 
 
 class Viewer:
-    """The program on the screen. `with` ends it by a key and looks at how it ended, and that it
-    printed `errors` onto the error stream and nothing more. A `command` must become the program
-    by exec."""
+    """The program on the screen. `with` ends it by a key and looks at how it ended, and that
+    what it printed onto the error stream matches the pattern `errors`. A `command` must become the
+    program by exec."""
 
     def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
                  cwd=None, **environment):
@@ -87,7 +87,8 @@ class Viewer:
         finally:
             self.process.kill()
             self.home.cleanup()
-        assert kind or ended == ("", self.errors, 0), f"output, errors, status: {ended}"
+        expected = ended[0] == "" and re.fullmatch(self.errors, ended[1]) and ended[2] == 0
+        assert kind or expected, f"output, errors, status: {ended}"
 
     def end(self):
         """Standard output and error stream. What a sanitizer says is a fault, but for leaks in

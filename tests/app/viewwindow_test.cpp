@@ -162,6 +162,18 @@ TEST_F(ViewWindowTest, PagesTitlesAndComesBack) {
     press({GLFW_KEY_HOME});
 }
 
+TEST_F(ViewWindowTest, PassesOverPicturesWithoutTextureMemory) {
+    gl_flag_t const modern(is_GL_VERSION_3_0_supported, 1);
+    m_recorder->most_textures = 20;  // as many as one of the others has tiles
+    write_file(m_folder.file("big.bmp"), test_bmp(1201, 1100));
+    drop({"a.bmp", "big.bmp", "c.bmp"});
+    press({GLFW_KEY_SPACE, GLFW_KEY_BACKSPACE});
+    m_recorder->most_textures = 3;
+    press({GLFW_KEY_F5, GLFW_KEY_HOME});
+    m_recorder->most_textures = 20;
+    press({GLFW_KEY_HOME});
+}
+
 TEST_F(ViewWindowTest, StoresViewsAndBringsThemBack) {
     drop({"a.bmp", "b.bmp"});
     press({GLFW_KEY_0, GLFW_KEY_RIGHT, GLFW_KEY_KP_0});

@@ -8,6 +8,7 @@
 #include <tuple>
 
 #include "image/repeatedges.h"
+#include "image/samples.h"
 #include "tests/image/testimages.h"
 #include "tests/support/files/testfiles.h"
 
@@ -89,6 +90,29 @@ TEST(index2rgb, reads_every_index_size_and_stays_in_the_palette) {
         }
         src.window.skiprows = 1;
         EXPECT_FALSE(index2rgb(dst, src));
+    }
+}
+
+TEST(widen_samples, spreads_gray_over_the_range_and_keeps_indices) {
+    using row = std::tuple<e_image_format_t, e_image_bits_t, unsigned int, row_t, row_t>;
+    for (auto const& [format, bits, skip, bytes, wide] :
+         {row{IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_1, 7, {0x01, 0x40}, {255, 0, 255}},
+          row{IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_2, 0, {0x1B, 0x80}, {0, 85, 170, 255, 170}},
+          row{IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_4, 1, {0x01, 0xFA}, {17, 255, 170}},
+          row{IMAGE_FORMAT_INDEX, IMAGE_BITS_2, 2, {0x1B}, {2, 3}}}) {
+        image2d_t src = picture({format, IMAGE_TYPE_UINT, bits},
+                                static_cast<unsigned int>(skip + wide.size()), {{}, bytes});
+        src.window = {src.m_width, skip, 1};
+        src.m_width -= skip;
+        src.m_height = 1;
+        src.palette.resize(4);
+        image2d_t dst = picture(rgb8, 9, rows_t(9)), shared;
+        ASSERT_TRUE(widen_samples(dst, src) && dst.desc == bytes_desc(format)) << bits;
+        EXPECT_EQ(pixels(dst), rows_t{wide}) << bits;
+        EXPECT_EQ(dst.palette.red.begin(), src.palette.red.begin()) << bits;
+        EXPECT_TRUE(widen_samples(shared, dst) && shared.begin() == dst.begin()) << bits;
+        src.window.skiprows = 2;
+        EXPECT_FALSE(widen_samples(dst, src)) << bits;
     }
 }
 

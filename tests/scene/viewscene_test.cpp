@@ -2,6 +2,7 @@
 // The view as numbers, the list of pictures, and the GL calls of the scene in their order.
 #include "scene/viewscene.h"
 
+#include <algorithm>
 #include <map>
 
 #include "codecs/jpegobject.h"
@@ -186,6 +187,34 @@ TEST_F(SceneTest, OnePictureIsLoadedDrawnAndFreedInOrder) {
     scene.make_graph("");
     scene.Display();
     note("made and drawn again");
+}
+
+TEST_F(SceneTest, APictureWithoutTextureMemoryLeavesTheScene) {
+    ViewScene scene;
+    std::string const path = write_file(dir.file("a.bmp"), test_bmp(700, 3));  // three tiles
+    auto const count = [this](char const* call) {
+        return std::count_if(gl.lines.begin(), gl.lines.end(),
+                             [call](std::string const& line) { return line.starts_with(call); });
+    };
+    // How many checks for errors go well from the first upload on.
+    for (std::size_t const checks : {1U, 3U, 6U, 7U, 8U, 99U}) {
+        ASSERT_TRUE(scene.addImage(path.c_str(), ""));
+        gl.lines.clear();
+        gl.errors.assign(checks, GL_NO_ERROR);
+        gl.errors.push_back(GL_OUT_OF_MEMORY);
+        bool const made = scene.make_graph("");
+        gl.errors.clear();
+        std::string const told = path + ": not enough texture memory.\n";
+        EXPECT_EQ(console.err().ends_with(told), !made) << checks;
+        scene.Display();
+        auto const uploads = count("glTexSubImage2D"), lists = count("glNewList(");
+        auto const drawn = count("glCallList"), deleted = count("glDeleteLists");
+        gl.lines.clear();
+        note(checks, "checks, uploads", uploads, "textures", gl.textures, "lists", lists - deleted,
+             "drawn", drawn);
+        EXPECT_EQ(scene.delImage(), made) << checks;
+    }
+    gl.lines.clear();
 }
 
 TEST_F(SceneTest, EachStepChecksForErrorsUnderItsLabel) {
