@@ -23,3 +23,4 @@ int main(int argc, char** argv) {
     zanoview2::native::stop();
     return EXIT_SUCCESS;
 }
+    libutils::escape_names_on_terminals();

@@ -9,6 +9,8 @@
 #include <chrono>
 #include <thread>
 
+#include "utils/diagnostics.h"
+
 namespace zanoview2::native {
 
 namespace {
@@ -78,7 +80,7 @@ void set_window_position(GLFWwindow* window, libgr::position2l_t const& position
 }
 
 void set_title(GLFWwindow* window, std::string const& title) {
-    glfwSetWindowTitle(window, title.c_str());
+    glfwSetWindowTitle(window, libutils::escape_controls(title, false).c_str());
 }
 
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {

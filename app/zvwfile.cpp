@@ -11,6 +11,7 @@
 #include "geometry/textstream.h"
 #include "options/option.h"
 #include "utils/path.h"
+#include "utils/diagnostics.h"
 #include "utils/smallfile.h"
 
 namespace zanoview2 {
@@ -31,7 +32,7 @@ bool zvwfile_t::load(char const* picture) {
         std::cout << size << std::endl;
     }
     if (zanolib::g_option.verbose) {
-        std::cout << path << ": zvwfile loaded." << std::endl;
+        std::cout << libutils::putname(path) << ": zvwfile loaded." << std::endl;
     }
     return true;
 }
@@ -44,7 +45,7 @@ bool zvwfile_t::save(char const* picture) const {
         return false;
     }
     if (zanolib::g_option.verbose) {
-        std::cout << path << ": zvwfile saved." << std::endl;
+        std::cout << libutils::putname(path) << ": zvwfile saved." << std::endl;
     }
     return true;
 }

@@ -102,8 +102,7 @@ void dest_term(j_compress_ptr cinfo) {
 void my_error_exit(j_common_ptr cinfo) {
     auto* const error = reinterpret_cast<my_error_mgr*>(cinfo->err);
     libutils::error();
-    std::cerr << (error->data->name != nullptr ? error->data->name : "") << ": error detected."
-              << std::endl;
+    std::cerr << libutils::putname(error->data->name) << ": error detected." << std::endl;
     error->base.output_message(cinfo);
     std::longjmp(error->jump, 1);
 }

@@ -5,6 +5,7 @@
 // a segment on copies nothing; failure is a bool, with a line on the error stream where it needs
 // one; and nothing that a file says is believed before it is compared with the file's size.
 #include <algorithm>
+#include <clocale>
 #include <cstring>
 #include <filesystem>
 #include <iomanip>
@@ -18,10 +19,12 @@
 #include "codecs/jtransform.h"
 #include "metadata/exif.h"
 #include "metadata/jpegmarkers.h"
+#include "utils/diagnostics.h"
 
 namespace {
 
 using namespace libgr;
+using libutils::putname;
 
 struct segment_t {
     unsigned long at;  ///< bytes from the start of the file
@@ -184,14 +187,14 @@ int list(char const* path, jpegdata_t const& data) {
         }
         std::cout << "\n";
         if (!print_contents(*segment, is_baseline)) {
-            std::cerr << path << ": the " << name_of(segment->code) << " at " << segment->at
-                      << " can't be read\n";
+            std::cerr << putname(path) << ": the " << name_of(segment->code) << " at "
+                      << segment->at << " can't be read\n";
             good = false;
         }
         segment = next;
     }
     if (segments.empty() || segments.back().code != 0xD9) {
-        std::cerr << path << ": not a whole JPEG file\n";
+        std::cerr << putname(path) << ": not a whole JPEG file\n";
         good = false;
     }
     return good && std::cout.flush() ? 0 : 1;
@@ -204,14 +207,14 @@ int write_changed(JXFORM_CODE change, char const* from, jpegdata_t const& data, 
     std::error_code none;
     fs::file_status const status = fs::symlink_status(path, none);
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        std::cerr << path << ": is there already, and isn't a file that can be replaced\n";
+        std::cerr << putname(path) << ": is there already, and isn't a file that can be replaced\n";
         return 1;
     }
     jpeg_transform_info request;
     request.transform = change;
     jpegdata_t changed;
     if (!transform(request, JCOPY_ICC, changed, data)) {
-        std::cerr << from << ": not a whole JPEG file, nothing is written\n";
+        std::cerr << putname(from) << ": not a whole JPEG file, nothing is written\n";
         return 1;
     }
     // The old file is kept until the new one stands, since both may be the same.
@@ -251,6 +254,8 @@ JXFORM_CODE upright_change(jpegdata_t const& data) {
 int usage() {
     std::cerr << "usage: jpegtool list FILE          what the file is made of\n"
                  "       jpegtool turn N FILE OUT    N quarter turns to the right, 0 to 3\n"
+    std::setlocale(LC_CTYPE, "");
+    libutils::escape_names_on_terminals();
                  "       jpegtool upright FILE OUT   as the Exif orientation says\n"
                  "OUT may be FILE. It keeps the colour profile, and no other APPn or comment.\n";
     return 2;
@@ -272,7 +277,7 @@ int main(int argc, char** argv) {
     char const* const path = words[turns ? 2 : 1];
     jpegdata_t data;
     if (!data.load(path, nullptr)) {
-        std::cerr << path << ": can't be read\n";
+        std::cerr << putname(path) << ": can't be read\n";
         return 1;
     }
     if (lists) {

@@ -40,7 +40,7 @@ libgr::image_object_t* make_codec() {
 
 void debug_line(std::string const& line) {
     if (g_option.debug) {
-        std::cerr << line << std::endl;
+        std::cerr << libutils::putname(line) << std::endl;
     }
 }
 

@@ -89,7 +89,7 @@ void ViewScene::Destroy() {
 bool ViewScene::addImage(char const* path, char const* datapath) {
     struct stat status {};
     if (stat(path, &status) != 0) {
-        return libutils::refuse(path, ": image file not found.");
+        return libutils::refuse(libutils::putname(path), ": image file not found.");
     }
     if (!S_ISREG(status.st_mode)) {
         return false;  // opening a pipe would wait for its writer

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+#include <array>
 #include <clocale>
 #include <cstring>
 #include <sstream>
@@ -131,6 +132,22 @@ TEST(diagnostics, helpers_leave_the_stream_as_it_was) {
     keepflag(out).stream << std::fixed << 0.5F << ' ';
     out << 0.5F;
     EXPECT_EQ(out.str(), std::string("[  ===a\0b0A**310x0B**310.500000 0.5", 35));
+}
+
+TEST(diagnostics, control_characters_are_escaped_and_nothing_else) {
+    using row_t = std::array<char const*, 3>;  // in UTF-8, as bytes
+    for (auto const& [text, utf8, bytes] :
+         {row_t{"a\\x1b \xC3\xA4", "a\\x1b \xC3\xA4", "a\\x1b \xC3\xA4"},
+          row_t{"\x1b[2J\n\t\x1f\x7f", R"(\x1b[2J\x0a\x09\x1f\x7f)", R"(\x1b[2J\x0a\x09\x1f\x7f)"},
+          row_t{"\xC2\x9B", R"(\xc2\x9b)", "\xC2\\x9b"},
+          row_t{"\xC2\xA0\xC2", "\xC2\xA0\xC2", "\xC2\xA0\xC2"},
+          row_t{"\xE6\x97\xA5", "\xE6\x97\xA5", "\xE6\\x97\xA5"}}) {
+        EXPECT_EQ(escape_controls(text, false), utf8);
+        EXPECT_EQ(escape_controls(text, true), bytes);
+        std::ostringstream out;
+        out << putname(text) << putname(nullptr);
+        EXPECT_EQ(out.str(), text) << "no terminal";
+    }
 }
 
 }  // namespace
