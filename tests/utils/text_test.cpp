@@ -81,6 +81,17 @@ TEST(path, fixed_rooms_are_not_left) {
     EXPECT_EQ(strlen(parts.drive) + strlen(parts.dir) + strlen(parts.ext), 3 * 1023U);
 }
 
+TEST(path, files_beside_a_picture_keep_its_whole_directory) {
+    ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+    std::string const deep = std::string(1200, 'd') + ".d/", run(300, 'n');
+    using row_t = std::array<std::string, 3>;  // directory, name, stem
+    for (auto const& [directory, name, stem] :
+         {row_t{"", "a.jpg", "a"}, row_t{"d\\", "a.b.jpg", "a.b"}, row_t{deep, "a", "a"},
+          row_t{deep, run + ".jpg", run.substr(0, 255)}}) {
+        EXPECT_EQ(path_beside((directory + name).c_str(), ".zvw"), directory + stem + ".zvw");
+    }
+}
+
 TEST(path, searches_in_order_and_compares_ends) {
     EXPECT_TRUE(extcasecmp("a.JPG", 5, ".jpg") == 0 && extcasecmp("g", 1, ".jpg") == -1);
     EXPECT_NE(extcasecmp(std::string("picture.jpeg"), ".jpg"), 0);
