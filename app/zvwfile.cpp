@@ -4,14 +4,16 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <iostream>
 #include <sstream>
 #include <vector>
 
 #include "geometry/textstream.h"
 #include "options/option.h"
-#include "utils/path.h"
 #include "utils/diagnostics.h"
+#include "utils/path.h"
+#include "utils/replacefile.h"
 #include "utils/smallfile.h"
 
 namespace zanoview2 {
@@ -41,7 +43,11 @@ bool zvwfile_t::save(char const* picture) const {
     std::string const path = make_zvwpath(picture);
     std::ostringstream text;
     text << size << '\n' << matrix << '\n';
-    if (!libutils::write_small_file(path.c_str(), text.str())) {
+    if (!text) {
+        errno = ENOMEM;  // a stream catches the exception of its allocation
+        return false;
+    }
+    if (!libutils::replace_file(path, text.view())) {
         return false;
     }
     if (zanolib::g_option.verbose) {

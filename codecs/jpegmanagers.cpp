@@ -91,7 +91,9 @@ boolean dest_empty_buff(j_compress_ptr cinfo) {
 
 void dest_term(j_compress_ptr cinfo) {
     jpeg_memory_destination_t& destination = destination_of(cinfo);
-    destination.data->resize(destination.data->size() - destination.base.free_in_buffer, 0);
+    if (!destination.data->resize(destination.data->size() - destination.base.free_in_buffer, 0)) {
+        ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
+    }
     destination.base.next_output_byte = nullptr;
     destination.base.free_in_buffer = 0;
     cinfo->dest = nullptr;

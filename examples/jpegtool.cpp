@@ -217,17 +217,9 @@ int write_changed(JXFORM_CODE change, char const* from, jpegdata_t const& data, 
         std::cerr << putname(from) << ": not a whole JPEG file, nothing is written\n";
         return 1;
     }
-    // The old file is kept until the new one stands, since both may be the same.
-    std::string const written = std::string(path) + ".part";
-    std::error_code failed;
-    if (changed.save(written.c_str(), nullptr)) {
-        fs::rename(written, path, failed);
-    } else {
-        failed = std::make_error_code(std::errc::io_error);
-    }
-    if (failed) {
-        fs::remove(written, none);
-        std::cerr << path << ": can't be written\n";
+    // An old file is kept until the new one is complete, since both may be the same.
+    if (!changed.save(path, nullptr)) {
+        std::cerr << putname(path) << ": can't be written\n";
         return 1;
     }
     return 0;
@@ -254,8 +246,6 @@ JXFORM_CODE upright_change(jpegdata_t const& data) {
 int usage() {
     std::cerr << "usage: jpegtool list FILE          what the file is made of\n"
                  "       jpegtool turn N FILE OUT    N quarter turns to the right, 0 to 3\n"
-    std::setlocale(LC_CTYPE, "");
-    libutils::escape_names_on_terminals();
                  "       jpegtool upright FILE OUT   as the Exif orientation says\n"
                  "OUT may be FILE. It keeps the colour profile, and no other APPn or comment.\n";
     return 2;
@@ -264,6 +254,8 @@ int usage() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    std::setlocale(LC_CTYPE, "");
+    libutils::escape_names_on_terminals();
     constexpr JXFORM_CODE k_turns[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180, JXFORM_ROT_270};
     std::vector<char const*> const words(argv + 1, argv + argc);
     std::string const command = words.empty() ? "" : words[0];

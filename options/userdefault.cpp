@@ -116,8 +116,11 @@ bool option_save(char const* path) {
         put_value(text, row);
         text << "\n";
     }
-    // Nobody is told of a file that can't be made.
-    libutils::write_small_file(path, text.str());
+    // A stream that ran out of memory would cut the text. A file that can't be written is not
+    // reported. A link is kept, since users keep the files of their home directory elsewhere.
+    if (text) {
+        libutils::replace_file(libutils::follow_links(path), text.view());
+    }
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <initializer_list>
 #include <iostream>
@@ -230,7 +231,11 @@ unsigned long ViewScene::rightrotatecount() const {
 }
 
 bool ViewScene::saveImage(char const* path) {
-    return has_current() && m_current->viewobj.saveImage(path);
+    if (!has_current()) {
+        errno = ENODATA;
+        return false;
+    }
+    return m_current->viewobj.saveImage(path);
 }
 
 void ViewScene::Display() const {

@@ -106,7 +106,7 @@ class ViewScene {
     /// Quarter turns to the right that the current picture's file asks for; 0 without one.
     [[nodiscard]] unsigned long rightrotatecount() const;
     /// Writes what the window shows beside the picture file at `path`; see `ViewObject::saveImage`.
-    /// False without a picture.
+    /// Returns false and sets errno on failure and without a picture.
     bool saveImage(char const* path);
 
     /// Draws one frame, without swapping buffers. Needs a current context.
