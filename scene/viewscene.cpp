@@ -10,6 +10,7 @@
 #include <initializer_list>
 #include <iostream>
 #include <iterator>
+#include <new>
 
 #include "geometry/color.h"
 #include "geometry/constants.h"
@@ -23,14 +24,20 @@
 namespace zanolib {
 
 bool ViewScene::obj_t::load(char const* path, char const* datapath) {
-    if (!viewobj.setImage(path, datapath)) {
+    // Everything but pixels is allocated with exceptions, which end the program elsewhere. Here the
+    // picture itself may be what does not fit into memory, and the destructor gives all of it back.
+    try {
+        if (!viewobj.setImage(path, datapath)) {
+            return false;
+        }
+        viewframe.setFrameType(static_cast<e_frametype_t>(g_option.frametype));
+        viewframe.setSize(libgr::direction2(viewobj.getImageSize()), g_option.framewidth);
+        objcontainer.addObject(&viewframe);
+        objcontainer.addObject(&objdspl);
+        objtransformer.setObject(&objcontainer);
+    } catch (std::bad_alloc const&) {
         return false;
     }
-    viewframe.setFrameType(static_cast<e_frametype_t>(g_option.frametype));
-    viewframe.setSize(libgr::direction2(viewobj.getImageSize()), g_option.framewidth);
-    objcontainer.addObject(&viewframe);
-    objcontainer.addObject(&objdspl);
-    objtransformer.setObject(&objcontainer);
     return true;
 }
 

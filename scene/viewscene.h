@@ -62,7 +62,8 @@ class ViewScene {
 
     /// Appends the picture at `path`, which becomes current when there was none, and turns the
     /// current picture upright by its right-rotate count. False when the file isn't there, which is
-    /// told on the error stream, is no plain file, or doesn't load; the list is as before then.
+    /// told on the error stream, is no plain file, or doesn't load, or when there is no memory for
+    /// what belongs to it; the list is as before then.
     /// Needs a current context.
     bool addImage(char const* path, char const* datapath);
     /// Removes the current picture; the one behind it, or else the last, becomes current. False
