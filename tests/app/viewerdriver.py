@@ -57,13 +57,15 @@ def write_bmp(path, width, height, bits, pixel):
 
 class Viewer:
     """The program on the screen. `with` ends it by a key and looks at how it ended, and that it
-    printed `errors` onto the error stream and nothing more."""
+    printed `errors` onto the error stream and nothing more. `command` starts it; it prints to
+    `stream`."""
 
-    def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors=""):
+    def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
+                 stream=subprocess.PIPE):
         self.last_key, self.errors = last_key, errors
         self.home = tempfile.TemporaryDirectory()
         self.process = subprocess.Popen(
-            (PROGRAM,) + arguments, text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+            command + arguments, text=True, stdout=stream, stderr=stream,
             env={**os.environ, "LANG": lang, "HOME": self.home.name,
                  "ASAN_OPTIONS": "detect_leaks=1:exitcode=0"})
         self.window = wait_for("the window", self.search)
@@ -139,18 +141,20 @@ class ViewerTest(unittest.TestCase):
         self.addCleanup(self.folder.cleanup)
 
     def start(self, *words):
-        """Starts a program that runs until the test ends, and returns its standard output."""
+        """Starts a program that runs until the test ends, and returns the process."""
         process = subprocess.Popen(words, text=True, stdout=subprocess.PIPE,
                                    stderr=subprocess.DEVNULL)
         self.addCleanup(process.communicate)
         self.addCleanup(process.terminate)
-        return process.stdout
+        return process
 
     def new_screen(self):
-        """A virtual screen of the test's own: a window manager leaves traces where it was."""
-        number = self.start("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset")
+        """A virtual screen of the test's own: a window manager leaves traces where it was. Returns
+        the server."""
+        server = self.start("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset")
         self.addCleanup(os.environ.update, DISPLAY=os.environ["DISPLAY"])
-        os.environ["DISPLAY"] = ":" + number.readline().strip()
+        os.environ["DISPLAY"] = ":" + server.stdout.readline().strip()
+        return server
 
     def path(self, name):
         return os.path.join(self.folder.name, name)

@@ -134,17 +134,6 @@ TEST(token, separates_joins_and_trims) {
     EXPECT_TRUE(stringcmp("-winsize", "-win") == 0 && stringcmp("-wi", "-win") < 0);
 }
 
-TEST(diagnostics, helpers_leave_the_stream_as_it_was) {
-    std::ostringstream out;
-    out.fill('*');
-    out << putspace(0) << putcn('-', 0) << '[' << putspace(2) << putcn('=', 3) << _putn{"a\0b", 3}
-        << _puthex<unsigned char>{'A'} << std::setw(4) << 31 << std::showbase
-        << _puthex<unsigned char>{'B'} << std::setw(4) << 31;
-    keepflag(out).stream << std::fixed << 0.5F << ' ';
-    out << 0.5F;
-    EXPECT_EQ(out.str(), std::string("[  ===a\0b0A**310x0B**310.500000 0.5", 35));
-}
-
 TEST(diagnostics, control_characters_are_escaped_and_nothing_else) {
     using row_t = std::array<char const*, 3>;  // in UTF-8, as bytes
     for (auto const& [text, utf8, bytes] :
@@ -159,6 +148,17 @@ TEST(diagnostics, control_characters_are_escaped_and_nothing_else) {
         out << putname(text) << putname(nullptr);
         EXPECT_EQ(out.str(), text) << "no terminal";
     }
+}
+
+TEST(diagnostics, helpers_leave_the_stream_as_it_was) {
+    std::ostringstream out;
+    out.fill('*');
+    out << putspace(0) << putcn('-', 0) << '[' << putspace(2) << putcn('=', 3) << _putn{"a\0b", 3}
+        << _puthex<unsigned char>{'A'} << std::setw(4) << 31 << std::showbase
+        << _puthex<unsigned char>{'B'} << std::setw(4) << 31;
+    keepflag(out).stream << std::fixed << 0.5F << ' ';
+    out << 0.5F;
+    EXPECT_EQ(out.str(), std::string("[  ===a\0b0A**310x0B**310.500000 0.5", 35));
 }
 
 }  // namespace
