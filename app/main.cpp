@@ -1,16 +1,45 @@
 // SPDX-License-Identifier: MIT
 // Where the program begins and ends.
+#include <unistd.h>
+
 #include <clocale>
+#include <csignal>
 #include <cstdlib>
+#include <exception>
 #include <iostream>
+#include <new>
 
 #include "app/nativewindow.h"
 #include "app/viewwindow.h"
 #include "utils/diagnostics.h"
 #include "window/glfwymgr4.h"
 
+namespace {
+
+/// Handles the one exception that is left uncaught on purpose: there is no memory for something
+/// small. Ends the program with one line and without destructors, since those may need memory, too.
+/// Any other exception is a fault of the program.
+[[noreturn]] void end_without_memory() noexcept {
+    try {
+        if (std::current_exception() != nullptr) {
+            throw;
+        }
+    } catch (std::bad_alloc const&) {
+        constexpr char line[] = "zanoview3: out of memory\n";
+        [[maybe_unused]] ssize_t const written = write(STDERR_FILENO, line, sizeof line - 1);
+        std::_Exit(EXIT_FAILURE);
+    } catch (...) {
+    }
+    std::abort();
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+    std::set_terminate(end_without_memory);
+    std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit of file sizes fails instead
     std::setlocale(LC_ALL, "");
+    libutils::escape_names_on_terminals();
     if (!zanoview2::native::start()) {
         libutils::error();
         std::cerr << "glfwInit() failed." << std::endl;

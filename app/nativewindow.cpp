@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "app/windowmanager.h"
+#include "utils/diagnostics.h"
 
 namespace zanoview2::native {
 
@@ -80,7 +81,7 @@ void set_window_position(GLFWwindow* window, libgr::position2l_t const& position
 }
 
 void set_title(GLFWwindow* window, std::string const& title) {
-    glfwSetWindowTitle(window, title.c_str());
+    glfwSetWindowTitle(window, libutils::escape_controls(title, false).c_str());
 }
 
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {

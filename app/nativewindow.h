@@ -34,6 +34,7 @@ libgr::direction2l_t possible_window_size(libgr::direction2l_t const& size);
 /// manager may grant it later or not at all.
 void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
 void set_window_position(GLFWwindow* window, libgr::position2l_t const& position);
+/// Sets the title, which is UTF-8. Control characters are shown escaped.
 void set_title(GLFWwindow* window, std::string const& title);
 
 /// Waits until the window has the size that was just asked for, at most a tenth of a second: a

@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "options/option.h"
+#include "utils/diagnostics.h"
 #include "utils/path.h"
 
 namespace zanoview2 {
@@ -31,12 +32,12 @@ picture_list_t scan(DIR* directory, std::string const& path) {
         std::string const name = entry->d_name;
         if (!is_picture_name(name)) {
             if (zanolib::g_option.verbose) {
-                std::cout << "skip: " << name << std::endl;
+                std::cout << "skip: " << libutils::putname(name) << std::endl;
             }
             continue;
         }
         if (zanolib::g_option.debug) {
-            std::cout << "file add: " << name << std::endl;
+            std::cout << "file add: " << libutils::putname(name) << std::endl;
         }
         found.push_back(base + name);
     }
@@ -74,11 +75,11 @@ bool is_picture_name(std::string const& name) {
 bool append_pictures(picture_list_t& list, std::string const& given) {
     std::string const path = given.empty() ? "." : given;
     if (zanolib::g_option.verbose) {
-        std::cout << "srchpath: " << path << std::endl;
+        std::cout << "srchpath: " << libutils::putname(path) << std::endl;
     }
     if (directory_t const directory{opendir(path.c_str())}) {
         if (zanolib::g_option.debug) {
-            std::cout << "dir: " << path << std::endl;
+            std::cout << "dir: " << libutils::putname(path) << std::endl;
         }
         picture_list_t found = scan(directory.get(), path);
         if (found.empty()) {
@@ -92,7 +93,7 @@ bool append_pictures(picture_list_t& list, std::string const& given) {
         return false;
     }
     if (zanolib::g_option.debug) {
-        std::cout << "file add: " << path << std::endl;
+        std::cout << "file add: " << libutils::putname(path) << std::endl;
     }
     list.push_back(path);
     return true;

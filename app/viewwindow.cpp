@@ -2,6 +2,7 @@
 // How the application comes up, and what all its commands share.
 #include "app/viewwindow.h"
 
+#include <cerrno>
 #include <cstring>
 
 #include "app/nativewindow.h"
@@ -9,6 +10,7 @@
 #include "glext/glextloader.h"
 #include "options/option.h"
 #include "options/userdefault.h"
+#include "utils/diagnostics.h"
 #include "utils/path.h"
 #include "window/glfwymgr4.h"
 
@@ -21,6 +23,11 @@ void cut_exe_suffix(char* name) {
     if (libutils::extcasecmp(name, length, ".exe") == 0) {
         name[length - 4] = '\0';
     }
+}
+
+/// Prints why the file that a key asked for could not be saved. `error` is a value of errno.
+void report_unsaved(std::string const& path, int error) {
+    libutils::refuse(libutils::putname(path), ": can't be saved: ", std::strerror(error));
 }
 
 }  // namespace
@@ -104,8 +111,12 @@ void ViewWindow::request_redisplay() const {
 }
 
 void ViewWindow::menu_edit_save_zvwfile() {
-    if (current != imagelist.end()) {
-        zvwfile_t{get_window_size(), getMatrix()}.save(current->c_str());
+    if (current == imagelist.end()) {
+        return;
+    }
+    if (!zvwfile_t{get_window_size(), getMatrix()}.save(current->c_str())) {
+        int const error = errno;
+        report_unsaved(make_zvwpath(current->c_str()), error);
     }
 }
 
@@ -116,10 +127,14 @@ void ViewWindow::menu_edit_delete_zvwfile() {
 }
 
 void ViewWindow::menu_file_savejpeg() {
-    if (current != imagelist.end()) {
-        // Where the front buffer can't be read the back one is, and it needs the frame anew.
-        display();
-        scene.saveImage(current->c_str());
+    if (current == imagelist.end()) {
+        return;
+    }
+    // Where the front buffer can't be read the back one is, and it needs the frame anew.
+    display();
+    if (!scene.saveImage(current->c_str())) {
+        int const error = errno;
+        report_unsaved(zanolib::make_snapshotpath(current->c_str()), error);
     }
 }
 

@@ -107,7 +107,9 @@ class ViewWindow : public wenk::glutyAPI4 {
     libgr::direction2l_t get_window_size() const;
     libgr::matrix3w_t const& getMatrix() const;
 
-    // Commands behind keys. All but the last need a picture, and tell nobody how they ended.
+    // Commands behind keys. All but menu_edit_writedefault need a picture. A view or a snapshot
+    // that can't be saved is reported with its path and the reason on the error stream. The other
+    // two commands fail without a message.
     void menu_edit_save_zvwfile();
     void menu_edit_delete_zvwfile();
     void menu_file_savejpeg();

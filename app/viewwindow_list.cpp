@@ -7,6 +7,7 @@
 #include "app/viewwindow.h"
 #include "options/message.h"
 #include "options/option.h"
+#include "utils/diagnostics.h"
 #include "window/glfwymgr4.h"
 
 namespace zanoview2 {
@@ -32,7 +33,7 @@ bool ViewWindow::setImagePath(char const* path) {
 
 void ViewWindow::announce(std::string const& path) const {
     if (zanolib::g_option.verbose) {
-        std::cout << "\ndisplay image: " << path << std::endl;
+        std::cout << "\ndisplay image: " << libutils::putname(path) << std::endl;
     }
 }
 

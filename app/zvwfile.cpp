@@ -4,13 +4,16 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <iostream>
 #include <sstream>
 #include <vector>
 
 #include "geometry/textstream.h"
 #include "options/option.h"
+#include "utils/diagnostics.h"
 #include "utils/path.h"
+#include "utils/replacefile.h"
 #include "utils/smallfile.h"
 
 namespace zanoview2 {
@@ -31,7 +34,7 @@ bool zvwfile_t::load(char const* picture) {
         std::cout << size << std::endl;
     }
     if (zanolib::g_option.verbose) {
-        std::cout << path << ": zvwfile loaded." << std::endl;
+        std::cout << libutils::putname(path) << ": zvwfile loaded." << std::endl;
     }
     return true;
 }
@@ -40,11 +43,15 @@ bool zvwfile_t::save(char const* picture) const {
     std::string const path = make_zvwpath(picture);
     std::ostringstream text;
     text << size << '\n' << matrix << '\n';
-    if (!libutils::write_small_file(path.c_str(), text.str())) {
+    if (!text) {
+        errno = ENOMEM;  // a stream catches the exception of its allocation
+        return false;
+    }
+    if (!libutils::replace_file(path, text.view())) {
         return false;
     }
     if (zanolib::g_option.verbose) {
-        std::cout << path << ": zvwfile saved." << std::endl;
+        std::cout << libutils::putname(path) << ": zvwfile saved." << std::endl;
     }
     return true;
 }

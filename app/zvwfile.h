@@ -24,7 +24,8 @@ struct zvwfile_t {
     /// is no plain file or is too long for one; true otherwise, also when its content is damaged: a
     /// value that can't be read stays as it is.
     bool load(char const* picture);
-    /// Writes the file beside `picture`, replacing it; false when it can't be opened for writing.
+    /// Writes the file beside `picture`, replacing it. Returns false and sets errno on failure, and
+    /// then an old file is unchanged.
     bool save(char const* picture) const;
     /// Removes the file beside `picture`; false when it couldn't be removed.
     bool del(char const* picture) const;

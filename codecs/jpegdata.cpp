@@ -2,9 +2,7 @@
 // Mapping and writing JPEG files.
 #include "codecs/jpegdata.h"
 
-#include <unistd.h>
-
-#include <fstream>
+#include "utils/replacefile.h"
 
 namespace libgr {
 
@@ -17,15 +15,9 @@ bool jpegdata_t::load(char const* path, libutils::android_app* app) {
 }
 
 bool jpegdata_t::save(char const* path, libutils::android_app*) {
-    unlink(path);
-    std::ofstream file(path, std::ios::binary);
-    if (!file) {
-        return false;
-    }
     jpegdata_t const& bytes = *this;
-    file.write(reinterpret_cast<char const*>(bytes.begin()),
-               static_cast<std::streamsize>(bytes.size()));
-    if (!file.flush()) {
+    if (!libutils::replace_file(path, {reinterpret_cast<char const*>(bytes.begin()),
+                                       static_cast<std::size_t>(bytes.size())})) {
         return false;
     }
     name = path;

@@ -15,9 +15,8 @@ class jpegdata_t : public jpeg_bytes_t {
 
     /// Maps the whole file, read-only. False when it can't be mapped.
     bool load(char const* path, libutils::android_app* app);
-    /// Writes the bytes to a new file at `path`, in place of any that is there: another hard link
-    /// to it keeps the old bytes, and a read-only file is no obstacle in a writable directory.
-    /// False when the file can't be opened or written.
+    /// Writes the bytes to a new file that replaces the one at `path`; see libutils::replace_file.
+    /// Returns false and sets errno on failure.
     bool save(char const* path, libutils::android_app* app);
     /// Shares bytes in memory, so that they can be decoded under a name of the caller's, which
     /// isn't copied.

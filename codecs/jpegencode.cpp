@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The JPEG encoder.
+#include <jerror.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <iterator>
 
 #include "codecs/jpeginfo.h"
@@ -67,12 +70,17 @@ bool jpeginfo_t::compress(jpegdata_t& data, image2d_t const& image, int quality,
         std::begin(jpeg_info_desc_table), std::end(jpeg_info_desc_table),
         [&](jpeg_info_desc_t const& candidate) { return candidate.desc == image.desc; });
     if (row == std::end(jpeg_info_desc_table) || image.compressed || !pixels_within(image)) {
+        errno = EINVAL;
         return false;
     }
     encoding_t encoding(data, image, markers, *row);
     encoding.quality = quality;
     encoding.force_baseline = force_baseline;
-    return run_jpeg_step(encode, encoding);
+    bool const is_encoded = run_jpeg_step(encode, encoding);
+    if (!is_encoded) {
+        errno = encoding.error.base.msg_code == JERR_OUT_OF_MEMORY ? ENOMEM : EINVAL;
+    }
+    return is_encoded;
 }
 
 }  // namespace libgr

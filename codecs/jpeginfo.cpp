@@ -65,7 +65,7 @@ void read_header(decoding_t& decoding) {
 
 void report(jpegdata_t const& data, char const* text) {
     libutils::error();
-    std::cerr << (data.name != nullptr ? data.name : "") << text << std::endl;
+    std::cerr << libutils::putname(data.name) << text << std::endl;
 }
 
 /// Decodes the rows, the file's first into the highest place.

@@ -48,8 +48,8 @@ class jpeginfo_t {
 
     /// Encodes `image`, whose description must be in the table, into new bytes of `data`, behind
     /// the markers; `quality` from 1 to 100, with `force_baseline` kept to 8-bit quantisation.
-    /// False, silently, for another description or an image that lacks bytes, and with a line where
-    /// libjpeg finds an error.
+    /// Returns false and sets errno for another description or an image that lacks bytes, and,
+    /// after a line, for an error in libjpeg.
     bool compress(jpegdata_t& data, image2d_t const& image, int quality, bool force_baseline);
 
     /// Reads the header alone, for sizes and markers, cut ones included. False with a line when it

@@ -92,7 +92,9 @@ boolean dest_empty_buff(j_compress_ptr cinfo) {
 
 void dest_term(j_compress_ptr cinfo) {
     jpeg_memory_destination_t& destination = destination_of(cinfo);
-    destination.data->resize(destination.data->size() - destination.base.free_in_buffer, 0);
+    if (!destination.data->resize(destination.data->size() - destination.base.free_in_buffer, 0)) {
+        ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
+    }
     destination.base.next_output_byte = nullptr;
     destination.base.free_in_buffer = 0;
     cinfo->dest = nullptr;
@@ -103,8 +105,7 @@ void dest_term(j_compress_ptr cinfo) {
 void my_error_exit(j_common_ptr cinfo) {
     auto* const error = reinterpret_cast<my_error_mgr*>(cinfo->err);
     libutils::error();
-    std::cerr << (error->data->name != nullptr ? error->data->name : "") << ": error detected."
-              << std::endl;
+    std::cerr << libutils::putname(error->data->name) << ": error detected." << std::endl;
     error->base.output_message(cinfo);
     std::longjmp(error->jump, 1);
 }

@@ -247,7 +247,8 @@ template <typename stream_t>
 bool check_if_png(char const* path, stream_t& stream) {
     if (!open_file(stream, path)) {
         int const reason = errno;
-        return libutils::refuse(path, ": file open error, ", std::strerror(reason));
+        return libutils::refuse(libutils::putname(path), ": file open error, ",
+                                std::strerror(reason));
     }
     unsigned char bytes[k_signature_bytes] = {};
     stream.read(reinterpret_cast<char*>(bytes), k_signature_bytes);

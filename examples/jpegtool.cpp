@@ -5,6 +5,7 @@
 // a segment on copies nothing; failure is a bool, with a line on the error stream where it needs
 // one; and nothing that a file says is believed before it is compared with the file's size.
 #include <algorithm>
+#include <clocale>
 #include <cstring>
 #include <filesystem>
 #include <iomanip>
@@ -18,10 +19,12 @@
 #include "codecs/jtransform.h"
 #include "metadata/exif.h"
 #include "metadata/jpegmarkers.h"
+#include "utils/diagnostics.h"
 
 namespace {
 
 using namespace libgr;
+using libutils::putname;
 
 struct segment_t {
     unsigned long at;  ///< bytes from the start of the file
@@ -184,14 +187,14 @@ int list(char const* path, jpegdata_t const& data) {
         }
         std::cout << "\n";
         if (!print_contents(*segment, is_baseline)) {
-            std::cerr << path << ": the " << name_of(segment->code) << " at " << segment->at
-                      << " can't be read\n";
+            std::cerr << putname(path) << ": the " << name_of(segment->code) << " at "
+                      << segment->at << " can't be read\n";
             good = false;
         }
         segment = next;
     }
     if (segments.empty() || segments.back().code != 0xD9) {
-        std::cerr << path << ": not a whole JPEG file\n";
+        std::cerr << putname(path) << ": not a whole JPEG file\n";
         good = false;
     }
     return good && std::cout.flush() ? 0 : 1;
@@ -204,27 +207,19 @@ int write_changed(JXFORM_CODE change, char const* from, jpegdata_t const& data, 
     std::error_code none;
     fs::file_status const status = fs::symlink_status(path, none);
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        std::cerr << path << ": is there already, and isn't a file that can be replaced\n";
+        std::cerr << putname(path) << ": is there already, and isn't a file that can be replaced\n";
         return 1;
     }
     jpeg_transform_info request;
     request.transform = change;
     jpegdata_t changed;
     if (!transform(request, JCOPY_ICC, changed, data)) {
-        std::cerr << from << ": not a whole JPEG file, nothing is written\n";
+        std::cerr << putname(from) << ": not a whole JPEG file, nothing is written\n";
         return 1;
     }
-    // The old file is kept until the new one stands, since both may be the same.
-    std::string const written = std::string(path) + ".part";
-    std::error_code failed;
-    if (changed.save(written.c_str(), nullptr)) {
-        fs::rename(written, path, failed);
-    } else {
-        failed = std::make_error_code(std::errc::io_error);
-    }
-    if (failed) {
-        fs::remove(written, none);
-        std::cerr << path << ": can't be written\n";
+    // An old file is kept until the new one is complete, since both may be the same.
+    if (!changed.save(path, nullptr)) {
+        std::cerr << putname(path) << ": can't be written\n";
         return 1;
     }
     return 0;
@@ -259,6 +254,8 @@ int usage() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    std::setlocale(LC_CTYPE, "");
+    libutils::escape_names_on_terminals();
     constexpr JXFORM_CODE k_turns[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180, JXFORM_ROT_270};
     std::vector<char const*> const words(argv + 1, argv + argc);
     std::string const command = words.empty() ? "" : words[0];
@@ -272,7 +269,7 @@ int main(int argc, char** argv) {
     char const* const path = words[turns ? 2 : 1];
     jpegdata_t data;
     if (!data.load(path, nullptr)) {
-        std::cerr << path << ": can't be read\n";
+        std::cerr << putname(path) << ": can't be read\n";
         return 1;
     }
     if (lists) {

@@ -56,7 +56,7 @@ bool load_from_places(std::string& path, std::string const& name, std::string co
     if (dir.empty()) {
         path = libutils::searchpath(name, nullptr);
         if (g_option.debug) {
-            std::cout << dir << ": dirpath." << std::endl;
+            std::cout << libutils::putname(dir) << ": dirpath." << std::endl;
         }
     } else {
         path = dir + name;
@@ -65,7 +65,7 @@ bool load_from_places(std::string& path, std::string const& name, std::string co
         return true;
     }
     if (g_option.debug) {
-        std::cout << path << ": warning can't load message file." << std::endl;
+        std::cout << libutils::putname(path) << ": warning can't load message file." << std::endl;
     }
     path = site_directory + name;
     return load_message(s_msgbuf, path.c_str());
@@ -85,16 +85,16 @@ std::string init_message(char const* dir, char const* prog) {
     if (!load_from_places(path, prog + suffix + ".msg", dir)) {
         if (g_option.debug) {
             libutils::error();
-            std::cerr << path << ": can't load message file." << std::endl;
+            std::cerr << libutils::putname(path) << ": can't load message file." << std::endl;
         }
         if (!load_from_places(path, prog + std::string(".msg"), dir)) {
             libutils::error();
-            std::cerr << path << ": can't load message file." << std::endl;
+            std::cerr << libutils::putname(path) << ": can't load message file." << std::endl;
             return "";
         }
     }
     if (g_option.debug) {
-        std::cerr << "path: " << path << std::endl;
+        std::cerr << "path: " << libutils::putname(path) << std::endl;
     }
     make_message_table(s_tablebuf, s_msgbuf, count_lines(s_msgbuf));
     if (g_option.debug) {

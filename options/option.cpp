@@ -106,7 +106,7 @@ void option_list(char const* prog) {
     for (option_entity_t const& row : option_entity_table) {
         width = std::max(width, row.length);
     }
-    std::cout << "usage: " << prog << " [option]"
+    std::cout << "usage: " << libutils::putname(prog) << " [option]"
               << " file..." << std::endl
               << std::endl;
     std::cout << "option" << libutils::putspace(width - 5) << " format  comment." << std::endl;

@@ -13,6 +13,8 @@
 #include <vector>
 
 #include "options/optionrow.h"
+#include "utils/diagnostics.h"
+#include "utils/replacefile.h"
 #include "utils/smallfile.h"
 #include "utils/token.h"
 
@@ -99,19 +101,20 @@ void option_load_user_default(char const* prog, char const* dir) {
     option_init_once();
     std::string const path = user_default_path(prog, dir);
     if (g_option.verbose) {
-        std::cout << "load user default: " << path << std::endl;
+        std::cout << "load user default: " << libutils::putname(path) << std::endl;
     }
     option_load(path.c_str());
 }
 
 void option_save_user_default(char const* prog, char const* dir) {
     if (g_option.debug) {
-        std::cout << "prog: " << prog << ", dir: " << dir << std::endl;
+        std::cout << "prog: " << libutils::putname(prog) << ", dir: " << libutils::putname(dir)
+                  << std::endl;
     }
     option_init_once();
     std::string const path = user_default_path(prog, dir);
     if (g_option.verbose) {
-        std::cout << "save user default: " << path << std::endl;
+        std::cout << "save user default: " << libutils::putname(path) << std::endl;
     }
     option_save(path.c_str());
 }
@@ -136,8 +139,11 @@ bool option_save(char const* path) {
         put_value(text, row);
         text << "\n";
     }
-    // Nobody is told of a file that can't be made.
-    libutils::write_small_file(path, text.str());
+    // A stream that ran out of memory would cut the text. A file that can't be written is not
+    // reported. A link is kept, since users keep the files of their home directory elsewhere.
+    if (text) {
+        libutils::replace_file(libutils::follow_links(path), text.view());
+    }
     return true;
 }
 

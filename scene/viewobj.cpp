@@ -3,6 +3,7 @@
 #include "scene/viewobj.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <iostream>
 #include <iterator>
@@ -36,7 +37,7 @@ libgr::image_object_t* make_codec() {
 
 void debug_line(std::string const& line) {
     if (g_option.debug) {
-        std::cerr << line << std::endl;
+        std::cerr << libutils::putname(line) << std::endl;
     }
 }
 
@@ -80,6 +81,10 @@ codec_ptr_t ViewObject::m_jpeg1imgobj;
 codec_ptr_t ViewObject::m_bmpimgobj;
 codec_ptr_t ViewObject::m_pngimgobj;
 codec_ptr_t ViewObject::m_tgaimgobj;
+
+std::string make_snapshotpath(char const* picture) {
+    return libutils::path_beside(picture, ".zvw.jpg");
+}
 
 ViewObject::ViewObject()
     : m_texparameter(libgr::texparameter2d(GL_LINEAR_MIPMAP_LINEAR, GL_LINEAR, GL_CLAMP_TO_EDGE,
@@ -145,20 +150,21 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
 }
 
 bool ViewObject::saveImage(char const* path) {
-    std::string const name = libutils::path_beside(path, ".zvw.jpg");
+    std::string const name = make_snapshotpath(path);
     libgr::image2d_t image;
-    if (!libgr::grReadPixelsRGB(image)) {
+    auto const fail = [&name](char const* reason) {
+        int const error = errno;
         libutils::error();
-        debug_line(name + ": read pixels fail.");
+        debug_line(name + reason);
+        errno = error;
         return false;
+    };
+    if (!libgr::grReadPixelsRGB(image)) {
+        errno = image.m_width == 0 || image.m_height == 0 ? ENODATA : ENOMEM;
+        return fail(": read pixels fail.");
     }
     libgr::image_jpeg1_t codec;
-    if (!codec.save(image, name.c_str())) {
-        libutils::error();
-        debug_line(name + ": jpeg1 save fail.");
-        return false;
-    }
-    return true;
+    return codec.save(image, name.c_str()) || fail(": jpeg1 save fail.");
 }
 
 bool ViewObject::load_texture() {

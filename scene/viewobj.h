@@ -17,6 +17,9 @@
 
 namespace zanolib {
 
+/// Returns the path of a picture's snapshot, which ends in ".zvw.jpg"; see libutils::path_beside.
+std::string make_snapshotpath(char const* picture);
+
 /// One picture. It lies in the plane z = 0, centred on the origin, one unit to a pixel, and is
 /// never scaled or turned in memory: that is the business of the view matrix above it.
 class ViewObject : public libgr::grObject3D {
@@ -39,10 +42,9 @@ class ViewObject : public libgr::grObject3D {
     /// object.
     bool setImage(char const* path, char const* datapath);
 
-    /// Writes what the window shows now, frame and view included, as a JPEG beside the picture at
-    /// `path`: with
-    /// ".zvw.jpg" in place of the extension. False when the window can't be read or the file not be
-    /// written. Needs a current context.
+    /// Writes what the window shows now, frame and view included, as a JPEG to the snapshot path of
+    /// the picture at `path`, replacing an old snapshot. Returns false and sets errno on failure,
+    /// and then an old snapshot is unchanged. Needs a current context.
     bool saveImage(char const* path);
 
     /// Creates the tile textures unless they are there. Returns false, without textures, if there

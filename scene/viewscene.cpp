@@ -5,10 +5,12 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <initializer_list>
 #include <iostream>
 #include <iterator>
+#include <new>
 
 #include "geometry/color.h"
 #include "geometry/constants.h"
@@ -22,14 +24,20 @@
 namespace zanolib {
 
 bool ViewScene::obj_t::load(char const* path, char const* datapath) {
-    if (!viewobj.setImage(path, datapath)) {
+    // Everything but pixels is allocated with exceptions, which end the program elsewhere. Here the
+    // picture itself may be what does not fit into memory, and the destructor gives all of it back.
+    try {
+        if (!viewobj.setImage(path, datapath)) {
+            return false;
+        }
+        viewframe.setFrameType(static_cast<e_frametype_t>(g_option.frametype));
+        viewframe.setSize(libgr::direction2(viewobj.getImageSize()), g_option.framewidth);
+        objcontainer.addObject(&viewframe);
+        objcontainer.addObject(&objdspl);
+        objtransformer.setObject(&objcontainer);
+    } catch (std::bad_alloc const&) {
         return false;
     }
-    viewframe.setFrameType(static_cast<e_frametype_t>(g_option.frametype));
-    viewframe.setSize(libgr::direction2(viewobj.getImageSize()), g_option.framewidth);
-    objcontainer.addObject(&viewframe);
-    objcontainer.addObject(&objdspl);
-    objtransformer.setObject(&objcontainer);
     return true;
 }
 
@@ -96,7 +104,7 @@ void ViewScene::Destroy() {
 bool ViewScene::addImage(char const* path, char const* datapath) {
     struct stat status {};
     if (stat(path, &status) != 0) {
-        return libutils::refuse(path, ": image file not found.");
+        return libutils::refuse(libutils::putname(path), ": image file not found.");
     }
     if (!S_ISREG(status.st_mode)) {
         return false;  // opening a pipe would wait for its writer
@@ -252,7 +260,11 @@ unsigned long ViewScene::rightrotatecount() const {
 }
 
 bool ViewScene::saveImage(char const* path) {
-    return has_current() && m_current->viewobj.saveImage(path);
+    if (!has_current()) {
+        errno = ENODATA;
+        return false;
+    }
+    return m_current->viewobj.saveImage(path);
 }
 
 void ViewScene::Display() const {

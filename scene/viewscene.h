@@ -62,7 +62,8 @@ class ViewScene {
 
     /// Appends the picture at `path`, which becomes current when there was none, and turns the
     /// current picture upright by its right-rotate count. False when the file isn't there, which is
-    /// told on the error stream, is no plain file, or doesn't load; the list is as before then.
+    /// told on the error stream, is no plain file, or doesn't load, or when there is no memory for
+    /// what belongs to it; the list is as before then.
     /// Needs a current context.
     bool addImage(char const* path, char const* datapath);
     /// Removes the current picture; the one behind it, or else the last, becomes current. False
@@ -108,7 +109,7 @@ class ViewScene {
     /// Quarter turns to the right that the current picture's file asks for; 0 without one.
     [[nodiscard]] unsigned long rightrotatecount() const;
     /// Writes what the window shows beside the picture file at `path`; see `ViewObject::saveImage`.
-    /// False without a picture.
+    /// Returns false and sets errno on failure and without a picture.
     bool saveImage(char const* path);
 
     /// Draws one frame, without swapping buffers. Needs a current context.

@@ -2,9 +2,60 @@
 // The hook that failure paths call and the small stream helpers that lines are written with.
 #include "utils/diagnostics.h"
 
+#include <langinfo.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+
 namespace libutils {
 
+namespace {
+
+/// The mark of a stream that is a terminal.
+enum terminal_t : long { NO_TERMINAL, UTF8_TERMINAL, BYTE_TERMINAL };
+
+long& terminal_mark(std::ostream& out) {
+    static int const s_index = std::ios_base::xalloc();
+    return out.iword(s_index);
+}
+
+}  // namespace
+
 void error() {}
+
+void escape_names_on_terminals() {
+    bool const is_utf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+    for (auto const& [out, fd] :
+         {std::pair{&std::cout, STDOUT_FILENO}, std::pair{&std::cerr, STDERR_FILENO}}) {
+        if (isatty(fd) != 0) {
+            terminal_mark(*out) = is_utf8 ? UTF8_TERMINAL : BYTE_TERMINAL;
+        }
+    }
+}
+
+std::string escape_controls(std::string_view text, bool as_bytes) {
+    constexpr unsigned char lead = 0xC2;  // of U+0080 to U+00BF in UTF-8
+    auto const byte_at = [text](std::size_t i) {
+        return static_cast<unsigned char>(i < text.size() ? text[i] : 0);
+    };
+    auto const is_upper = [](unsigned char c) { return c >= 0x80 && c <= 0x9F; };
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        unsigned char const c = byte_at(i);
+        bool const is_pair = (c == lead && is_upper(byte_at(i + 1))) ||
+                             (is_upper(c) && i > 0 && byte_at(i - 1) == lead);
+        if (c < 0x20 || c == 0x7F || (as_bytes ? is_upper(c) : is_pair)) {
+            std::array<char, 5> escape{};
+            std::snprintf(escape.data(), escape.size(), "\\x%02x", c);
+            out += escape.data();
+        } else {
+            out += text[i];
+        }
+    }
+    return out;
+}
 
 std::ostream& operator<<(std::ostream& out, _putspace const& space) {
     return out << putcn(' ', space.n);
@@ -22,6 +73,14 @@ std::ostream& operator<<(std::ostream& out, _putn const& bytes) {
         out.put(bytes.text[i]);
     }
     return out;
+}
+
+std::ostream& operator<<(std::ostream& out, _putname const& name) {
+    long const terminal = terminal_mark(out);
+    if (terminal == NO_TERMINAL) {
+        return out << name.text;
+    }
+    return out << escape_controls(name.text, terminal == BYTE_TERMINAL);
 }
 
 }  // namespace libutils

@@ -5,6 +5,8 @@
 #include <iomanip>
 #include <ios>
 #include <iostream>
+#include <string>
+#include <string_view>
 
 namespace libutils {
 
@@ -48,6 +50,11 @@ struct _putn {
     unsigned long n;
 };
 
+/// A path or another text from outside the program. The bytes are not owned.
+struct _putname {
+    std::string_view text;
+};
+
 /// One value in the colour text form: see the operator.
 template <typename T>
 struct _puthex {
@@ -64,9 +71,28 @@ inline _putcn putcn(char c, unsigned long n) {
     return {c, n};
 }
 
+/// `text`, to be inserted into a stream; a null pointer counts as an empty text. Use this for every
+/// path: on a stream that `escape_names_on_terminals` has marked, its control characters are
+/// escaped.
+inline _putname putname(std::string_view text) {
+    return {text};
+}
+inline _putname putname(char const* text) {
+    return {text != nullptr ? std::string_view(text) : std::string_view()};
+}
+
+/// Marks std::cout and std::cerr where they are terminals. Call it once, after the locale is set.
+void escape_names_on_terminals();
+
+/// Returns `text` with each byte of a control character replaced by "\x" and two hexadecimal
+/// digits. Control characters are U+0000 to U+001F, U+007F, and U+0080 to U+009F in UTF-8 or, with
+/// `as_bytes`, as the single bytes 0x80 to 0x9F of 8-bit character sets.
+std::string escape_controls(std::string_view text, bool as_bytes);
+
 std::ostream& operator<<(std::ostream& out, _putspace const& space);
 std::ostream& operator<<(std::ostream& out, _putcn const& run);
 std::ostream& operator<<(std::ostream& out, _putn const& bytes);
+std::ostream& operator<<(std::ostream& out, _putname const& name);
 
 /// Inserts the value in hexadecimal, in a field of width 2 filled with "0", behind "0x" when the
 /// stream has showbase set. An unsigned char goes to the stream as a character, so the output is

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <new>
 #include <type_traits>
 #include <utility>
 
@@ -36,7 +37,10 @@ struct shared_block_t {
     static std::unique_ptr<shared_block_t> make(unsigned long bytes, char const* path,
                                                 e_prot_t prot, unsigned long long offset,
                                                 android_app* app) {
-        auto block = std::make_unique<shared_block_t>();
+        std::unique_ptr<shared_block_t> block(new (std::nothrow) shared_block_t);
+        if (block == nullptr) {
+            return nullptr;
+        }
         block->size = bytes;
         void* const data = block->allocator.allocate(block->size, path, prot, offset, app);
         if (data == nullptr || (A::failed(data) && block->size != 0)) {

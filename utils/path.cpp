@@ -147,13 +147,11 @@ std::size_t dirname(char* dst, char const* src, std::size_t size) {
 }
 
 std::string path_beside(char const* path, char const* suffix) {
-    std::array<char, 1025> directory{};
+    char const* const name = baseptr(path);
     std::array<char, 256> stem{};
-    dirname(directory.data(), path, directory.size());
-    basename(stem.data(), path, stem.size());
-    directory.back() = '\0';
+    basename(stem.data(), name, stem.size());
     stem.back() = '\0';
-    return std::string(directory.data()) + stem.data() + suffix;
+    return std::string(path, name) + stem.data() + suffix;
 }
 
 int extcasecmp(std::string const& s, char const* ext) {

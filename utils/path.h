@@ -35,9 +35,9 @@ std::string dirname(std::string const& path);
 /// Writes the directory part, within the same limits as `basename`.
 std::size_t dirname(char* dst, char const* src, std::size_t size);
 
-/// The path of a file that goes with another one: its directory, its stem, `suffix`. The directory
-/// is taken from the first 1025 characters of the path and the stem from the first 256, so that in
-/// a longer path the stem is what stands last in those.
+/// Returns the path of a file that accompanies the one at `path`: its directory, its stem and
+/// `suffix`. The stem is taken from the first 256 characters of the file's name and has at most 255
+/// bytes.
 std::string path_beside(char const* path, char const* suffix);
 
 /// 0 when `s` ends in `ext` (with its dot) without regard to case, -1 when `s` is shorter than

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reading and writing small files.
+// Reading small files.
 #include "utils/smallfile.h"
 
 #include <fcntl.h>
@@ -11,12 +11,6 @@
 namespace libutils {
 
 namespace {
-
-/// Whether the disk has room for the text, so that what is there can be given up for it.
-bool has_room(int fd, std::string const& text) {
-    int const error = text.empty() ? 0 : posix_fallocate(fd, 0, static_cast<off_t>(text.size()));
-    return error != ENOSPC && error != EFBIG && error != EDQUOT;
-}
 
 bool read_all(int fd, std::vector<char>& buffer) {
     for (std::size_t done = 0; done < buffer.size();) {
@@ -30,20 +24,6 @@ bool read_all(int fd, std::vector<char>& buffer) {
         done += static_cast<std::size_t>(got);
     }
     return true;
-}
-
-bool write_all(int fd, std::string const& text) {
-    for (std::size_t done = 0; done < text.size();) {
-        ssize_t const written = write(fd, text.data() + done, text.size() - done);
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written <= 0) {
-            return false;
-        }
-        done += static_cast<std::size_t>(written);
-    }
-    return ftruncate(fd, static_cast<off_t>(text.size())) == 0;
 }
 
 }  // namespace
@@ -66,25 +46,6 @@ small_file_t read_small_file(std::vector<char>& buffer, char const* path) {
     }
     close(fd);
     return outcome;
-}
-
-bool write_small_file(char const* path, std::string const& text) {
-    // Without O_NONBLOCK a pipe would wait for its reader.
-    constexpr int flags = O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC;
-    int fd = open(path, flags | O_EXCL, 0666);
-    bool const made = fd >= 0;
-    if (!made) {
-        fd = open(path, flags, 0666);
-    }
-    if (fd < 0) {
-        return false;
-    }
-    bool const written = has_room(fd, text) && write_all(fd, text);
-    if (!written && made) {
-        unlink(path);
-    }
-    close(fd);
-    return true;
 }
 
 }  // namespace libutils

@@ -85,7 +85,10 @@ bool is_passed_on(int action) {
            (action == GLFW_REPEAT && glfwyMGR4::getSingleton()->isKeyRepeat());
 }
 
-void display(GLFWwindow* window) {
+// GLFW's callbacks. An exception must not leave them, since GLFW and the libraries below it are C:
+// it ends the program in the terminate handler.
+
+void display(GLFWwindow* window) noexcept {
     current_api(window)->display();
     glfwSwapBuffers(window);
 }
@@ -94,12 +97,12 @@ void idle(GLFWwindow* window) {
     current_api(window)->idle();
 }
 
-void reshape(GLFWwindow* window, int width, int height) {
+void reshape(GLFWwindow* window, int width, int height) noexcept {
     current_api(window)->reshape(width, height);
     glfwyMGR4::getSingleton()->PostRedisplay();
 }
 
-void keyboard(GLFWwindow* window, int key, int, int action, int mods) {
+void keyboard(GLFWwindow* window, int key, int, int action, int mods) noexcept {
     glutyAPI4* const api = current_api(window);
     cursor_t const cursor = cursor_of(window);
     int const code = key_code(key);
@@ -119,7 +122,7 @@ void keyboard(GLFWwindow* window, int key, int, int action, int mods) {
     }
 }
 
-void mouse(GLFWwindow* window, int button, int action, int) {
+void mouse(GLFWwindow* window, int button, int action, int) noexcept {
     // GLFW counts left, right, middle.
     static constexpr std::array buttons = {0, 2, 1};
     glutyAPI4* const api = current_api(window);
@@ -134,17 +137,17 @@ void mouse(GLFWwindow* window, int button, int action, int) {
     }
 }
 
-void wheel(GLFWwindow* window, double, double dy) {
+void wheel(GLFWwindow* window, double, double dy) noexcept {
     glutyAPI4* const api = current_api(window);
     cursor_t const cursor = cursor_of(window);
     api->mousewheel(0, dy < 0.0 ? -1 : dy > 0.0 ? 1 : 0, cursor.x, cursor.y);
 }
 
-void motion(GLFWwindow* window, double x, double y) {
+void motion(GLFWwindow* window, double x, double y) noexcept {
     current_api(window)->motion(static_cast<int>(x), static_cast<int>(y));
 }
 
-void drop(GLFWwindow* window, int count, char const** paths) {
+void drop(GLFWwindow* window, int count, char const** paths) noexcept {
     current_api(window)->drop(count, paths);
 }
 

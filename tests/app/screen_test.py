@@ -159,7 +159,7 @@ class LittleMemory(ViewerTest):
             out.write(bmp_headers(8000, 8000, 24))
             out.truncate(54 + 3 * 8000 * 8000)
         told = f"(.*: Error 1285: out of memory\n([a-z_]+: .*\n)*)+{self.path('b.bmp')}: not enough "
-        with Viewer(*PLAIN, self.folder.name, errors=f"({told}texture memory\\.\n){{2}}") as viewer:
+        with Viewer(*PLAIN, self.folder.name, errors=re.compile(f"({told}texture memory\\.\n){{2}}")) as viewer:
             viewer.await_box(380, 285, 419, 314)
             # Room for the file's mapping of 192 MB, but not for textures of 341 MB beside it.
             with open(f"/proc/{viewer.process.pid}/statm") as pages:

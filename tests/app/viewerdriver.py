@@ -57,16 +57,15 @@ def write_bmp(path, width, height, bits, pixel):
 
 class Viewer:
     """The program on the screen. `with` ends it by a key and looks at how it ended, and that
-    what it printed onto the error stream matches the pattern `errors`. A `command` must become the
-    program by exec."""
+    it printed `errors`, a text or a pattern, onto the error stream. A `command` must become the
+    program by exec. The program prints to `stream`."""
 
     def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
-                 cwd=None, **environment):
+                 cwd=None, stream=subprocess.PIPE, **environment):
         self.last_key, self.errors = last_key, errors
         self.home = tempfile.TemporaryDirectory()
         self.process = subprocess.Popen(
-            tuple(command) + arguments, cwd=cwd, text=True,
-            stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+            tuple(command) + arguments, cwd=cwd, text=True, stdout=stream, stderr=stream,
             env={**os.environ, "LANG": lang, "HOME": self.home.name,
                  "ASAN_OPTIONS": "detect_leaks=1:exitcode=0", **environment})
         self.window = wait_for("the window", self.search)
@@ -87,8 +86,10 @@ class Viewer:
         finally:
             self.process.kill()
             self.home.cleanup()
-        expected = ended[0] == "" and re.fullmatch(self.errors, ended[1]) and ended[2] == 0
-        assert kind or expected, f"output, errors, status: {ended}"
+        printed = ended[1]
+        if isinstance(self.errors, re.Pattern):
+            printed = self.errors if self.errors.fullmatch(printed) else printed
+        assert kind or (ended[0], printed, ended[2]) == ("", self.errors, 0), f"output, errors, status: {ended}"
 
     def end(self):
         """Standard output and error stream. What a sanitizer says is a fault, but for leaks in
@@ -151,18 +152,20 @@ class ViewerTest(unittest.TestCase):
         self.addCleanup(self.folder.cleanup)
 
     def start(self, *words):
-        """Starts a program that runs until the test ends, and returns its standard output."""
+        """Starts a program that runs until the test ends, and returns the process."""
         process = subprocess.Popen(words, text=True, stdout=subprocess.PIPE,
                                    stderr=subprocess.DEVNULL)
         self.addCleanup(process.communicate)
         self.addCleanup(process.terminate)
-        return process.stdout
+        return process
 
     def new_screen(self):
-        """A virtual screen of the test's own: a window manager leaves traces where it was."""
-        number = self.start("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset")
+        """A virtual screen of the test's own: a window manager leaves traces where it was. Returns
+        the server."""
+        server = self.start("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset")
         self.addCleanup(os.environ.update, DISPLAY=os.environ["DISPLAY"])
-        os.environ["DISPLAY"] = ":" + number.readline().strip()
+        os.environ["DISPLAY"] = ":" + server.stdout.readline().strip()
+        return server
 
     def path(self, name):
         return os.path.join(self.folder.name, name)

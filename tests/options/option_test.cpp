@@ -148,6 +148,14 @@ TEST_F(Option, TheUserDefaultFileStandsInHomeOrBesideTheProgram) {
         zanolib::option_load_user_default("prog", dir);
         EXPECT_EQ(capture.out(), std::string("load user default: ") + file + "\n");
     }
+    // A link to a file that is kept elsewhere stays.
+    g_option.verbose = false;
+    ::setenv("HOME", home.path().c_str(), 1);
+    std::filesystem::create_symlink("elsewhere", home.file(".prog"));
+    zanolib::option_save_user_default("prog", "");
+    EXPECT_TRUE(std::filesystem::is_symlink(home.file(".prog")));
+    EXPECT_NE(read_file(home.file("elsewhere")).find("-verbose-\n"), std::string::npos);
+    g_option.verbose = true;
     ::setenv("HOME", "/no/such", 1);
     zanolib::option_save_user_default("prog", "d/");
     EXPECT_EQ(capture.out() + capture.err(), "save user default: /no/such/.prog\n");

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+#include <array>
 #include <clocale>
 #include <cstring>
 #include <sstream>
@@ -80,6 +81,17 @@ TEST(path, fixed_rooms_are_not_left) {
     EXPECT_EQ(strlen(parts.drive) + strlen(parts.dir) + strlen(parts.ext), 3 * 1023U);
 }
 
+TEST(path, files_beside_a_picture_keep_its_whole_directory) {
+    ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+    std::string const deep = std::string(1200, 'd') + ".d/", run(300, 'n');
+    using row_t = std::array<std::string, 3>;  // directory, name, stem
+    for (auto const& [directory, name, stem] :
+         {row_t{"", "a.jpg", "a"}, row_t{"d\\", "a.b.jpg", "a.b"}, row_t{deep, "a", "a"},
+          row_t{deep, run + ".jpg", run.substr(0, 255)}}) {
+        EXPECT_EQ(path_beside((directory + name).c_str(), ".zvw"), directory + stem + ".zvw");
+    }
+}
+
 TEST(path, searches_in_order_and_compares_ends) {
     EXPECT_TRUE(extcasecmp("a.JPG", 5, ".jpg") == 0 && extcasecmp("g", 1, ".jpg") == -1);
     EXPECT_NE(extcasecmp(std::string("picture.jpeg"), ".jpg"), 0);
@@ -120,6 +132,22 @@ TEST(token, separates_joins_and_trims) {
         EXPECT_EQ(line + '|' + text, line.empty() ? "|" : std::string(" a \t\r\n\0| a", 10));
     }
     EXPECT_TRUE(stringcmp("-winsize", "-win") == 0 && stringcmp("-wi", "-win") < 0);
+}
+
+TEST(diagnostics, control_characters_are_escaped_and_nothing_else) {
+    using row_t = std::array<char const*, 3>;  // in UTF-8, as bytes
+    for (auto const& [text, utf8, bytes] :
+         {row_t{"a\\x1b \xC3\xA4", "a\\x1b \xC3\xA4", "a\\x1b \xC3\xA4"},
+          row_t{"\x1b[2J\n\t\x1f\x7f", R"(\x1b[2J\x0a\x09\x1f\x7f)", R"(\x1b[2J\x0a\x09\x1f\x7f)"},
+          row_t{"\xC2\x9B", R"(\xc2\x9b)", "\xC2\\x9b"},
+          row_t{"\xC2\xA0\xC2", "\xC2\xA0\xC2", "\xC2\xA0\xC2"},
+          row_t{"\xE6\x97\xA5", "\xE6\x97\xA5", "\xE6\\x97\xA5"}}) {
+        EXPECT_EQ(escape_controls(text, false), utf8);
+        EXPECT_EQ(escape_controls(text, true), bytes);
+        std::ostringstream out;
+        out << putname(text) << putname(nullptr);
+        EXPECT_EQ(out.str(), text) << "no terminal";
+    }
 }
 
 TEST(diagnostics, helpers_leave_the_stream_as_it_was) {
