@@ -59,11 +59,13 @@ class Viewer:
     """The program on the screen. `with` ends it by a key and looks at how it ended, and that it
     printed `errors` onto the error stream and nothing more."""
 
-    def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors=""):
+    def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", executable=PROGRAM):
         self.last_key, self.errors = last_key, errors
         self.home = tempfile.TemporaryDirectory()
+        self.error_file = tempfile.TemporaryFile("w+", errors="replace")
         self.process = subprocess.Popen(
-            (PROGRAM,) + arguments, text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+            (PROGRAM,) + arguments, executable=executable, text=True, stdout=subprocess.PIPE,
+            stderr=self.error_file,
             env={**os.environ, "LANG": lang, "HOME": self.home.name,
                  "ASAN_OPTIONS": "detect_leaks=1:exitcode=0"})
         self.window = wait_for("the window", self.search)
@@ -90,7 +92,10 @@ class Viewer:
         """Standard output and error stream. What a sanitizer says is a fault, but for leaks in
         which nothing of ours takes part: the GL driver has some, and is unloaded when they are
         counted."""
-        output, errors = self.process.communicate(timeout=30)
+        output, _ = self.process.communicate(timeout=30)
+        with self.error_file as file:
+            file.seek(0)
+            errors = file.read()
         errors, _, report = errors.partition("\n====")
         fault = re.search(r"\b(libgr|zanolib|zanoview2|wenk|libutils)::|main\.cpp"
                           "|ERROR: AddressSanitizer", report)
