@@ -1,11 +1,12 @@
-# What scripts/run and scripts/test share: packages, the build, a virtual screen.
+# What the scripts share: packages, the build, a virtual screen.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages="g++ cmake ninja-build pkg-config libglfw3-dev libx11-dev libgl-dev libglu1-mesa-dev libgl1 libgl1-mesa-dri libjpeg-dev libpng-dev"
 screen_packages="xvfb xdotool imagemagick"
-test_packages="libgtest-dev libbenchmark-dev python3 openbox x11-utils $screen_packages"
+test_packages="libgtest-dev zlib1g-dev libbenchmark-dev python3 openbox x11-utils $screen_packages"
 # What the tests of the installation need: checkers, an SVG renderer, the shells with completions.
 test_packages="$test_packages lintian desktop-file-utils appstream librsvg2-bin bash-completion zsh fish"
+fuzz_packages="clang libclang-rt-dev libgtest-dev zlib1g-dev"
 
 say() { printf '==> %s\n' "$*"; }
 

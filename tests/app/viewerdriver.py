@@ -61,11 +61,13 @@ class Viewer:
     program by exec. The program prints to `stream`."""
 
     def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
-                 cwd=None, stream=subprocess.PIPE, **environment):
+                 executable=None, cwd=None, stream=None, **environment):
         self.last_key, self.errors = last_key, errors
         self.home = tempfile.TemporaryDirectory()
+        self.error_file = tempfile.TemporaryFile("w+", errors="replace")
         self.process = subprocess.Popen(
-            tuple(command) + arguments, cwd=cwd, text=True, stdout=stream, stderr=stream,
+            tuple(command) + arguments, executable=executable, cwd=cwd, text=True,
+            stdout=stream or subprocess.PIPE, stderr=stream or self.error_file,
             env={**os.environ, "LANG": lang, "HOME": self.home.name,
                  "ASAN_OPTIONS": "detect_leaks=1:exitcode=0", **environment})
         self.window = wait_for("the window", self.search)
@@ -95,9 +97,12 @@ class Viewer:
         """Standard output and error stream. What a sanitizer says is a fault, but for leaks in
         which nothing of ours takes part: the GL driver has some, and is unloaded when they are
         counted."""
-        output, errors = self.process.communicate(timeout=30)
+        output, _ = self.process.communicate(timeout=30)
+        with self.error_file as file:
+            file.seek(0)
+            errors = file.read()
         # Mesa prints this although it hides the extension.
-        output = re.sub("Warning: extension '.*' cannot be disabled\n", "", output)
+        output = re.sub("Warning: extension '.*' cannot be disabled\n", "", output or "")
         errors, _, report = errors.partition("\n====")
         fault = re.search(r"\b(libgr|zanolib|zanoview2|wenk|libutils)::|main\.cpp"
                           "|ERROR: AddressSanitizer", report)

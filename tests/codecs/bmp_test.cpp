@@ -5,28 +5,11 @@
 #include "codecs/bmpimage.h"
 #include "codecs/bmpimage2.h"
 #include "codecs/bmpload.h"
-#include "tests/codecs/picturebytes.h"
+#include "tests/codecs/filemakers.h"
 
 namespace {
 
 using namespace libgr;
-
-/// A file with the fields that the writer gives it, unless told otherwise.
-struct bmp_t {
-    unsigned int width, height, depth;
-    std::string pixels;
-    std::string palette = {};
-    unsigned int compression = 0;
-    long offset = -1;  // of the pixels; -1 for behind the palette
-    std::string type = "BM";
-
-    std::string bytes() const {
-        auto const place = offset < 0 ? 54 + palette.size() : static_cast<unsigned long>(offset);
-        return type + le(54 + pixels.size(), 4) + le(0, 4) + le(place, 4) + le(40, 4) +
-               le(width, 4) + le(height, 4) + le(1, 2) + le(depth, 2) + le(compression, 4) +
-               le(pixels.size(), 4) + le(72, 4) + le(72, 4) + le(0, 8) + palette + pixels;
-    }
-};
 
 std::string const k_quads = ramp(64);
 std::string const k_area(1024, 'q');

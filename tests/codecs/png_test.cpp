@@ -4,9 +4,8 @@
 
 #include <gtest/gtest.h>
 #include <png.h>
-#include <zlib.h>
 
-#include "tests/codecs/picturebytes.h"
+#include "tests/codecs/filemakers.h"
 
 // Stands in front of the library's own, so that a test can change the version.
 static char const* s_version = PNG_LIBPNG_VER_STRING;
@@ -18,30 +17,6 @@ namespace {
 
 using namespace libgr;
 using namespace std::string_literals;
-
-std::string chunk(std::string const& name, std::string const& data) {
-    std::string const bytes = name + data;
-    auto const* const start = reinterpret_cast<unsigned char const*>(bytes.data());
-    return be(data.size(), 4) + bytes + be(crc32(0, start, static_cast<uInt>(bytes.size())), 4);
-}
-
-struct png_t {
-    unsigned int width, height, color_type, depth;
-    std::string rows;  // top row first, each behind its filter byte
-    std::string palette = {};
-    unsigned int interlace = 0;
-
-    std::string bytes() const {
-        auto const* const start = reinterpret_cast<unsigned char const*>(rows.data());
-        std::string const stored = "\x78\x01\x01" + le(rows.size(), 2) + le(~rows.size(), 2) +
-                                   rows + be(adler32(1, start, static_cast<uInt>(rows.size())), 4);
-        return "\x89PNG\r\n\x1a\n" +
-               chunk("IHDR", be(width, 4) + be(height, 4) + be(depth, 1) + be(color_type, 1) +
-                                 be(interlace, 3)) +
-               (palette.empty() ? "" : chunk("PLTE", palette)) + chunk("IDAT", stored) +
-               chunk("IEND", "");
-    }
-};
 
 struct Png : picture_test_t {
     Png() { testing::internal::CaptureStderr(); }

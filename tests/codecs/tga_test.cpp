@@ -11,26 +11,11 @@
 #include "codecs/bmpload.h"
 #include "codecs/jpegobject.h"
 #include "codecs/png.h"
-#include "tests/codecs/picturebytes.h"
+#include "tests/codecs/filemakers.h"
 
 namespace {
 
 using namespace libgr;
-
-struct tga_t {
-    unsigned int type, width, height, depth;
-    std::string pixels;
-    unsigned int descriptor = 0;
-    std::string id = {};
-    unsigned int map_first = 0, map_length = 0, entry_size = 0;
-    std::string map = {};
-
-    std::string bytes() const {
-        return le(id.size(), 1) + le(map_length != 0, 1) + le(type, 1) + le(map_first, 2) +
-               le(map_length, 2) + le(entry_size, 1) + le(0, 4) + le(width, 2) + le(height, 2) +
-               le(depth, 1) + le(descriptor, 1) + id + map + pixels;
-    }
-};
 
 using Tga = picture_test_t;
 
