@@ -76,6 +76,15 @@ preset_dir() {
 
 configure() { (cd "$root" && cmake --preset "$1" -B "$(preset_dir "$1")" --log-level=WARNING); }
 
+# build <preset> [target...]
+build() {
+    local preset=$1
+    shift
+    say "building the $preset preset"
+    configure "$preset"
+    cmake --build "$(preset_dir "$preset")" ${1:+--target "$@"}
+}
+
 # Prints the display of this user's running Xwayland, and the file with its key if it has one.
 xwayland() {
     local process words word last display key
