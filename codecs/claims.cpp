@@ -30,6 +30,10 @@ bool is_bearable_claim(std::uint64_t claimed, std::uint64_t held) {
            (claimed / k_bearable_ratio <= held && claimed <= physical_memory() / 2);
 }
 
+bool fits_in_memory(std::uint64_t bytes) {
+    return bytes <= physical_memory() / 2;
+}
+
 bool fits_in_memory(std::uint64_t width, std::uint64_t height, std::uint64_t pixel_bits) {
     std::uint64_t const pixel_bytes = libutils::max2<std::uint64_t>((pixel_bits + 7) / 8, 4);
     std::optional<std::uint64_t> const pixels = checked_product(width, height);

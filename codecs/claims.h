@@ -13,6 +13,9 @@ namespace libgr {
 /// than a megabyte only if a sixteenth of it is there.
 bool is_bearable_claim(std::uint64_t claimed, std::uint64_t held);
 
+/// Returns true if `bytes` bytes of pixels take at most half of the machine's memory.
+bool fits_in_memory(std::uint64_t bytes);
+
 /// Whether the machine can show a picture of this size: it takes at most half of the memory, with
 /// each pixel counted as the 32 bits that a texture keeps of it, or more. False without any pixel.
 bool fits_in_memory(std::uint64_t width, std::uint64_t height, std::uint64_t pixel_bits);

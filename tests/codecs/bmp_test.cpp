@@ -54,11 +54,14 @@ struct {
     {{4, 1, 8, ramp(4), "", 0, -1, "XY"}, "4x1 GRAYSCALE 8 0: 4", "-", "-"},
     {{4, 1, 8, ramp(4), "", 1}, "-", "-", "-"},
     {{2, 1, 16, ramp(4)}, "-", "-", "-"},
-    // Rows that run top to bottom, no pixels, and claims that few bytes can't bear out.
-    {{4, 0U - 4, 24, ramp(48)}, "-", "-", "-"},
+    // Rows that run top to bottom, no pixels, and sizes beyond the limits.
+    {{40000, 0U - 4, 24, ramp(120000)}, "-", "-", "-"},
     {{0, 4, 24, ramp(48)}, "-", "0x4 BGR 8 0: 0", "0x4 RGB 8 0: 0"},
     {{~0U, ~0U, 65535, ramp(48)}, "-", "-", "-"},
-    {{6, 1U << 22, 8, ramp(48)}, "-", "-", "-"},
+    {{6, 1U << 22, 8, ramp(48)},
+     "-",
+     "6x4194304 GRAYSCALE 8 0: 33554432",
+     "6x4194304 RGB 8 0: 25165824"},
 };
 
 using Bmp = picture_test_t;
@@ -98,6 +101,19 @@ TEST_F(Bmp, ReadersShowACutFileAsFarAsItGoes) {
         }
         ASSERT_EQ(image_bmp_t().load(image, path), size >= offset);
         EXPECT_TRUE(size < offset || pixels() == shown);
+        image = {};
+    }
+    // A short file takes no memory for the bytes that it does not have.
+    unsigned long const size = 8192UL * 12288 * 3;
+    write_file(file, bmp_t{8192, 12288, 24, ramp(700000)}.bytes());
+    for (bool const known : {false, true}) {
+        long const before = resident_bytes();
+        ASSERT_TRUE(known ? BmpLoad(image, path, IMAGE_FORMAT_RGB)
+                          : image_bmp_t().load(image, path));
+        EXPECT_LT(resident_bytes() - before, 64 << 20);
+        EXPECT_EQ(image.size(), size);
+        EXPECT_EQ(image[known ? 700001 : 699999], 0x60) << "the last byte of the file";
+        EXPECT_EQ(image[known ? 699999 : 700001] + image[size - 1], 0);
         image = {};
     }
     // Unpadded sizes with padded steps: the second row's swap of colours would leave the block.

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <numeric>
 #include <string>
 
@@ -65,6 +67,13 @@ inline std::string ramp(unsigned long size, char first = 1) {
     std::string bytes(size, '\0');
     std::iota(bytes.begin(), bytes.end(), first);
     return bytes;
+}
+
+/// Returns the bytes of memory that the process has in use.
+inline long resident_bytes() {
+    long total = 0, resident = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident;
+    return resident * sysconf(_SC_PAGESIZE);
 }
 
 inline libgr::image2d_t image_of(unsigned int width, unsigned int height,
