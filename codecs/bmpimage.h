@@ -15,10 +15,10 @@ struct bmpimage_t {
     image_bytes_t pixels;
 
     /// Reads the file and skips its palette. Returns false without a message if the file cannot be
-    /// opened, is not BMP, ends within its headers or before its pixel offset, or claims more
-    /// pixels than half of the machine's memory. Returns true for a file that ends within its
-    /// pixels; the missing bytes are 0 and take no memory until they are used. A picture whose rows
-    /// are shorter than a byte has no pixels.
+    /// opened, is not BMP, ends within its headers or before its pixel offset. Returns false with a
+    /// line on std::cerr if the pixels exceed the limit picture-memory (utils/limits.h). Returns
+    /// true for a file that ends within its pixels; the missing bytes are 0 and take no memory
+    /// until they are used. A picture whose rows are shorter than a byte has no pixels.
     bool load(char const* path, libutils::android_app* app);
 
     /// Completes the header fields and writes the headers and the pixels, never a palette. False

@@ -6,9 +6,9 @@
 #include <cstring>
 #include <iostream>
 
-#include "codecs/claims.h"
 #include "codecs/jpeglimits.h"
 #include "codecs/jpegmanagers.h"
+#include "codecs/sizelimits.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
 
@@ -51,7 +51,7 @@ void read_header(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
     cinfo->err = use_error_mgr(decoding.error, decoding.data);
     jpeg_create_decompress(cinfo);
-    use_work_limit(cinfo, decoding.limit, decoding.data.size());
+    use_work_limit(cinfo, decoding.limit, decoding.data);
     decoding.source = use_memory_source(cinfo, decoding.data);
     decoding.limit.source = decoding.source;
     jpeg_save_markers(cinfo, JPEG_COM, k_saved_length);
@@ -99,6 +99,7 @@ void read_whole_scans(decoding_t& failed) {
     jpeg_destroy_decompress(&failed.cinfo);
     decoding_t decoding(failed.data);
     decoding.limit.last_scan = failed.limit.scan;
+    decoding.limit.is_reported = failed.limit.is_reported;
     decoding.bottom = failed.bottom;
     decoding.row_size = failed.row_size;
     decoding.stored_rows = failed.stored_rows;
@@ -117,13 +118,12 @@ jpeg_info_desc_t const* row_of(jpeg_decompress_struct const& cinfo) {
     return nullptr;
 }
 
-/// Whether a picture of the header's size can come out of the file and be held, with the
-/// coefficients of all its scans where there are several.
-bool is_possible(decoding_t& decoding, image_desc_t const& desc) {
-    jpeg_decompress_struct& cinfo = decoding.cinfo;
+/// Checks the size in the header, with the coefficients of all scans if there are several.
+bool has_plausible_size(decoding_t const& decoding, image_desc_t const& desc) {
+    jpeg_decompress_struct const& cinfo = decoding.cinfo;
     auto const components = static_cast<std::uint64_t>(cinfo.num_components);
     std::uint64_t const coefficient_bits = decoding.has_scans ? components * sizeof(JCOEF) * 8 : 0;
-    return is_possible_picture(cinfo, desc.getPixelBits(), coefficient_bits, decoding.data.size());
+    return is_plausible_size(cinfo, desc.getPixelBits(), coefficient_bits, decoding.data);
 }
 
 void keep_markers(std::list<marker_t>& markers, jpeg_decompress_struct const& cinfo, bool whole) {
@@ -232,7 +232,7 @@ bool jpeginfo_t::decompress(image2d_t& image, jpegdata_t const& data, unsigned s
         return false;
     }
     image.desc = row->desc;
-    if (!is_possible(decoding, row->desc) ||
+    if (!has_plausible_size(decoding, row->desc) ||
         !allocate_store(image, square_unit, border, border_color) ||
         image.rowsize() < image.rowbyte()) {
         report(data, ": jpeg decompress fail, stop.");

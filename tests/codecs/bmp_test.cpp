@@ -31,10 +31,12 @@ struct bmp_t {
 std::string const k_quads = ramp(64);
 std::string const k_area(1024, 'q');
 std::string const k_far(4096, 'p');
+std::string const k_large(300000, 'l');
 std::string const k_srgb = "BGRs" + std::string(64, 'h') + "rgb0";
 struct {
     bmp_t file;
     char const *mapped, *streamed, *known;  // by image_bmp2_t, image_bmp_t, and BmpLoad as RGB
+    char const* limit = "";                 // that image_bmp2_t reports
 } const k_rows[] = {
     {{4, 2, 24, ramp(24)}, "4x2 BGR 8 0: 24", "4x2 BGR 8 0: 24", "4x2 RGB 8 0: 24"},
     {{1, 1, 24, ramp(4), k_quads}, "1x1 BGR 8 0: 4", "1x1 BGR 8 0: 4", "1x1 RGB 8 0: 3"},
@@ -55,13 +57,19 @@ struct {
     {{4, 1, 8, ramp(4), "", 1}, "-", "-", "-"},
     {{2, 1, 16, ramp(4)}, "-", "-", "-"},
     // Rows that run top to bottom, no pixels, and sizes beyond the limits.
-    {{40000, 0U - 4, 24, ramp(120000)}, "-", "-", "-"},
+    {{40000, 0U - 4, 24, ramp(120000)}, "-", "-", "-", "bmp-ratio "},
     {{0, 4, 24, ramp(48)}, "-", "0x4 BGR 8 0: 0", "0x4 RGB 8 0: 0"},
     {{~0U, ~0U, 65535, ramp(48)}, "-", "-", "-"},
     {{6, 1U << 22, 8, ramp(48)},
      "-",
      "6x4194304 GRAYSCALE 8 0: 33554432",
-     "6x4194304 RGB 8 0: 25165824"},
+     "6x4194304 RGB 8 0: 25165824",
+     "bmp-ratio "},
+    {{1, 2, 8, k_large, "", 0, 0},
+     "1x2 INDEX 8 65536: 300054",
+     "1x2 GRAYSCALE 8 0: 8",
+     "1x2 RGB 8 0: 2",
+     "bmp-palette "},
 };
 
 using Bmp = picture_test_t;
@@ -70,7 +78,9 @@ TEST_F(Bmp, ReadersTakeOrRefuseTheSameFiles) {
     for (auto const& row : k_rows) {
         SCOPED_TRACE(row.mapped);
         write_file(file, row.file.bytes());
+        capture_t capture;
         EXPECT_EQ(outcome(image_bmp2_t().load(image, path)), row.mapped);
+        EXPECT_EQ(limits_in(capture.err(), file), row.limit);
         image = {};
         EXPECT_EQ(outcome(image_bmp_t().load(image, path)), row.streamed);
         image.desc.bits = IMAGE_BITS_64;

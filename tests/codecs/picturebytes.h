@@ -76,6 +76,17 @@ inline long resident_bytes() {
     return resident * sysconf(_SC_PAGESIZE);
 }
 
+/// Returns the names of the limits that `lines` report for `file`, each followed by a blank.
+inline std::string limits_in(std::string const& lines, std::string const& file) {
+    std::string const words = file + ": exceeds limit ";
+    std::string names;
+    for (std::size_t at = 0; (at = lines.find(words, at)) != lines.npos;) {
+        at += words.size();
+        names += lines.substr(at, lines.find(' ', at) + 1 - at);
+    }
+    return names;
+}
+
 inline libgr::image2d_t image_of(unsigned int width, unsigned int height,
                                  libgr::e_image_format_t format, libgr::e_image_bits_t bits,
                                  std::string const& pixels) {
