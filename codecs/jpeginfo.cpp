@@ -146,14 +146,14 @@ unsigned short rounded_side(unsigned int side, unsigned short unit) {
     return rounded < side ? 0 : rounded;
 }
 
-/// Gives the image a store of `side` pixels in each of `rows` rows.
-bool allocate_rows(image2d_t& image, unsigned int side, unsigned int rows) {
+/// Gives the image a store of `side` rows of `side` pixels.
+bool allocate_square(image2d_t& image, unsigned int side, char const* file) {
     image.window.rowlength = side;
-    std::optional<std::uint64_t> const bytes = checked_product(image.rowsize(), rows);
-    return side != 0 && bytes && image.resize(*bytes, 0);
+    return fits_in_memory(side, side, image.getPixelBits(), file) &&
+           image.resize(image.rowsize() * side, 0);
 }
 
-/// Clears what the square has right of the picture and above it.
+/// Clears the pixels of the square that are right of the picture or above it.
 void clear_outside(image2d_t& image, unsigned int side) {
     auto const row_size = static_cast<std::size_t>(image.rowsize());
     auto const row_bytes = static_cast<std::size_t>(image.rowbyte());
@@ -186,24 +186,27 @@ void paint_border(image2d_t& image, color3ub_t const& color) {
 }
 
 /// Allocates the store for a picture whose sizes and description are set.
-bool allocate_store(image2d_t& image, unsigned short unit, bool border, color3ub_t const& color) {
+bool allocate_store(image2d_t& image, unsigned short unit, bool border, color3ub_t const& color,
+                    char const* file) {
     if (unit == 0 && !border) {
         return image.allocate();
     }
     unsigned int const longer = libutils::max2(image.m_width, image.m_height);
     if (!border) {
         unsigned int const side = rounded_side(longer, unit);
-        if (!allocate_rows(image, side, side)) {
+        bool const is_new = image.empty();
+        if (!allocate_square(image, side, file)) {
             return false;
         }
-        clear_outside(image, side);
+        if (!is_new) {  // new memory is 0 and is not touched before a row is decoded into it
+            clear_outside(image, side);
+        }
         return true;
     }
     image.window.skiprows = 1;
     // Without a unit the rows follow the width, so that a tall picture doesn't fit in.
     unsigned int const side = unit != 0 ? rounded_side(longer, unit) : image.m_width;
-    if (side == 0 || !allocate_rows(image, static_cast<unsigned short>(side + 2),
-                                    static_cast<unsigned short>(side + 2))) {
+    if (side == 0 || !allocate_square(image, static_cast<unsigned short>(side + 2), file)) {
         return false;
     }
     paint_border(image, color);
@@ -233,7 +236,7 @@ bool jpeginfo_t::decompress(image2d_t& image, jpegdata_t const& data, unsigned s
     }
     image.desc = row->desc;
     if (!has_plausible_size(decoding, row->desc) ||
-        !allocate_store(image, square_unit, border, border_color) ||
+        !allocate_store(image, square_unit, border, border_color, data.name) ||
         image.rowsize() < image.rowbyte()) {
         report(data, ": jpeg decompress fail, stop.");
         return false;

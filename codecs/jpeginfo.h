@@ -41,9 +41,9 @@ class jpeginfo_t {
     /// pixel, painted with `border_color` before the rows go in.
     ///
     /// Returns true if the picture was decoded, with a line if only in part; missing rows are left
-    /// as allocated. Returns false with a line for a damaged header and for a size that exceeds the
-    /// limit jpeg-ratio or picture-memory (utils/limits.h), and without a line for colours that the
-    /// table does not have, such as CMYK.
+    /// as allocated. Returns false with a line for a damaged header and for a size, of the picture
+    /// or of the square, that exceeds the limit jpeg-ratio or picture-memory (utils/limits.h), and
+    /// without a line for colours that the table does not have, such as CMYK.
     bool decompress(image2d_t& image, jpegdata_t const& data, unsigned short square_unit,
                     bool border, color3ub_t const& border_color);
 

@@ -6,6 +6,7 @@
 #include "codecs/jpegobject.h"
 #include "codecs/jpegtransform.h"
 #include "codecs/orientation.h"
+#include "codecs/sizelimits.h"
 #include "geometry/constants.h"
 #include "tests/codecs/jpegmaker.h"
 
@@ -248,6 +249,20 @@ TEST_F(JpegTest, LaysOutSquaresAndBorders) {
         };
         EXPECT_EQ(at(row.x, row.y), row.byte);
         EXPECT_NEAR(at(4, 5), smooth(0, 4, 5), 12);
+    }
+    // A strip whose square exceeds the memory of most machines. It takes none where it fits.
+    std::string strip = encoded(picture(3, 40, 60));
+    jpegdata_t const wide =
+        jpegdata_of(strip.replace(strip.find("\xFF\xC0") + 5, 4, be(0x3DFF4B, 4)));
+    for (bool const border : {false, true}) {
+        image = {};
+        long const before = resident_bytes();
+        testing::internal::CaptureStderr();
+        bool const loaded = jpeginfo_t().decompress(image, wide, 16, border, white3ub);
+        std::string const lines = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(limits_in(lines, "memory"), loaded ? "" : "picture-memory ");
+        EXPECT_EQ(loaded, fits_in_memory(65360, 65360, 24, nullptr));
+        EXPECT_LT(resident_bytes() - before, 1L << 30);
     }
 }
 
