@@ -8,7 +8,7 @@
 #include <limits>
 
 #include "codecs/bmpstream.h"
-#include "codecs/claims.h"
+#include "codecs/sizelimits.h"
 #include "codecs/streambytes.h"
 #include "utils/diagnostics.h"
 
@@ -70,7 +70,7 @@ bool bmpimage_t::load(char const* path, libutils::android_app*) {
     }
     // The product of two 32-bit numbers fits into 64 bits.
     std::uint64_t const size = std::uint64_t{row_bytes(infoheader)} * infoheader.biHeight;
-    return fits_in_memory(size) && read_pixels(pixels, stream, size);
+    return fits_in_memory(size, path) && read_pixels(pixels, stream, size);
 }
 
 bool bmpimage_t::save(char const* path, libutils::android_app*) {

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "codecs/bmpstream.h"
-#include "codecs/claims.h"
+#include "codecs/sizelimits.h"
 #include "codecs/streambytes.h"
 
 namespace libgr {
@@ -46,7 +46,7 @@ bool BmpLoad(image2d_t& image, char const* path, e_image_format_t format) {
     std::uint64_t const size = checked_product(row_bytes, image.m_height)
                                    .value_or(std::numeric_limits<std::uint64_t>::max());
     std::uint64_t const held = bytes_left(stream);
-    if (!fits_in_memory(size) || !read_pixels(image, stream, size)) {
+    if (!fits_in_memory(size, path) || !read_pixels(image, stream, size)) {
         return false;
     }
     image.desc.format = format;

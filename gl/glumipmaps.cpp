@@ -7,6 +7,7 @@
 #include "gl/glucalls.h"
 #include "gl/pixelstore.h"
 #include "gl/unpackreach.h"
+#include "utils/limits.h"
 
 namespace libgr {
 namespace {
@@ -71,13 +72,13 @@ constexpr pixelstore_t s_unpadded[] = {
     {GL_UNPACK_ALIGNMENT, 1}, {GL_UNPACK_ROW_LENGTH, 0},   {GL_UNPACK_SKIP_PIXELS, 0},
     {GL_UNPACK_SKIP_ROWS, 0}, {GL_UNPACK_IMAGE_HEIGHT, 0}, {GL_UNPACK_SKIP_IMAGES, 0}};
 
-/// GLU counts the bytes of its scaled copies in 32 bits: texels of up to 16 bytes, each side up by
-/// a third.
+/// Returns true if GLU can count the bytes of its scaled copies. Otherwise prints a line.
 bool can_be_counted(image3d_t const& read) {
-    constexpr unsigned long most = 1UL << 25;
-    return read.m_width <= most && read.m_height <= most && read.m_depth <= most &&
-           1UL * read.m_width * read.m_height <= most &&
-           1UL * read.m_width * read.m_height * read.m_depth <= most;
+    constexpr std::uint64_t max = libutils::limits::glu_texels.value;
+    bool const is_within = read.m_width <= max && read.m_height <= max && read.m_depth <= max &&
+                           max >= 1UL * read.m_width * read.m_height &&
+                           max >= 1UL * read.m_width * read.m_height * read.m_depth;
+    return is_within || libutils::report_limit(libutils::limits::glu_texels);
 }
 
 bool is_packed(GLenum type) {

@@ -203,6 +203,9 @@ TEST_F(ViewWindowTest, TheWindowFollowsThePicture) {
     resize(100, 100);
     zanolib::g_option.resize_magnify = false;  // and it shrinks by no means
     drop({"a.bmp"});
+    zanolib::g_option.resize_magnify = true;
+    zanolib::g_option.window_ratio_of_image = 20;
+    drop({"a.bmp"});  // 24000 by 18000 pixels
 }
 
 TEST_F(ViewWindowTest, ComesBackByEveryPolicy) {

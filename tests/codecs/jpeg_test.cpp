@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 // JPEG files made by the encoder, then cut, damaged and given markers.
-#include <unistd.h>
-
 #include <cstdlib>
 
 #include "codecs/jpeginfo.h"
 #include "codecs/jpegobject.h"
 #include "codecs/jpegtransform.h"
 #include "codecs/orientation.h"
+#include "codecs/sizelimits.h"
 #include "geometry/constants.h"
 #include "tests/codecs/jpegmaker.h"
 
@@ -181,8 +180,11 @@ TEST_F(JpegTest, ShowsWhatOneOfManyScansOrIntervalsLeaves) {
     EXPECT_EQ(load(std::string(intervals).erase(second + 4, third - second - 4)).find("fail"),
               intervals.npos);
     EXPECT_EQ(rows_as_in(intervals), 56u) << "but for the row of blocks with that interval";
-    EXPECT_TRUE(load(jpeg_without_end()).ends_with(file + ": decompress fail.\n"));
+    std::string const lines = load(jpeg_without_end());
+    EXPECT_TRUE(lines.ends_with(file + ": decompress fail.\n"));
+    EXPECT_EQ(limits_in(lines, file), "jpeg-blocks ");
     EXPECT_NE(pixel_row(image, image.m_height - 1)[0], 0) << "what the first scans tell";
+    EXPECT_EQ(limits_in(load(jpeg_without_end(32, 20)), file), "jpeg-scans ");
 }
 
 TEST_F(JpegTest, EndsWhereASegmentAfterTheRowsIsLongerThanTheFile) {
@@ -208,8 +210,9 @@ TEST_F(JpegTest, EndsWhereASegmentAfterTheRowsIsLongerThanTheFile) {
 TEST_F(JpegTest, RefusesWhatCantBeHeldAndSkipsWithinBounds) {
     std::string const jpeg = encoded(picture(3, 40, 60));
     std::size_t const frame = jpeg.find("\xFF\xC0");
-    EXPECT_EQ(load(std::string(jpeg).replace(frame + 5, 4, be(0xFFDCFFDC, 4))),
-              "false " + file + ": jpeg decompress fail, stop.\n");
+    std::string const lines = load(std::string(jpeg).replace(frame + 5, 4, be(0xFFDCFFDC, 4)));
+    EXPECT_EQ(limits_in(lines, file), "jpeg-ratio ");
+    EXPECT_TRUE(lines.starts_with("false ") && lines.ends_with(": jpeg decompress fail, stop.\n"));
     EXPECT_TRUE(image.empty());
     // A segment that says it is longer than the file.
     std::string const skipping = jpeg.substr(0, 2) + be(0xFFDCFFFF, 4) + "short";
@@ -246,6 +249,20 @@ TEST_F(JpegTest, LaysOutSquaresAndBorders) {
         };
         EXPECT_EQ(at(row.x, row.y), row.byte);
         EXPECT_NEAR(at(4, 5), smooth(0, 4, 5), 12);
+    }
+    // A strip whose square exceeds the memory of most machines. It takes none where it fits.
+    std::string strip = encoded(picture(3, 40, 60));
+    jpegdata_t const wide =
+        jpegdata_of(strip.replace(strip.find("\xFF\xC0") + 5, 4, be(0x3DFF4B, 4)));
+    for (bool const border : {false, true}) {
+        image = {};
+        long const before = resident_bytes();
+        testing::internal::CaptureStderr();
+        bool const loaded = jpeginfo_t().decompress(image, wide, 16, border, white3ub);
+        std::string const lines = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(limits_in(lines, "memory"), loaded ? "" : "picture-memory ");
+        EXPECT_EQ(loaded, fits_in_memory(65360, 65360, 24, nullptr));
+        EXPECT_LT(resident_bytes() - before, 1L << 30);
     }
 }
 

@@ -65,8 +65,14 @@ TEST(SquareTiles, EveryPictureIsCutFromItsBottomLeft) {
         image.compressed = false;
         image.m_width = image.m_height = 0x7fffffff;
         EXPECT_FALSE(zanolib::rectangle_to_squares(copies, image, row.maxsize, true));
+        image.m_width = 6 << 20;
+        image.m_height = 1;
+        EXPECT_FALSE(zanolib::rectangle_to_squares(copies, image, row.maxsize, true));
         EXPECT_EQ(streams.err(),
                   "rectangle_to_squares(): compressed format not supported.\n"
+                  "exceeds limit tiles (262144 tiles).\n"
+                  "rectangle_to_squares(): outimg allocate failed.\n"
+                  "exceeds limit texel-ratio (8 texels for each pixel).\n"
                   "rectangle_to_squares(): outimg allocate failed.\n");
         EXPECT_EQ(copies.m_cols + copies.m_rows + copies.m_squares.size(), 0U);
     }

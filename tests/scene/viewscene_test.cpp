@@ -131,7 +131,9 @@ TEST_F(SceneTest, TheExtensionAloneChoosesTheCodec) {
         bool const added = add(scene, bytes, name);
         scene.make_graph("");
         keep("glTexSubImage2D");
-        note(name, added ? "is shown" : "is refused");
+        std::string const lines = console.err();
+        note(name, (added ? "is shown" : "is refused") +
+                       lines.substr(std::min(lines.size(), dir.file(name).size())));
     }
 }
 
