@@ -2,7 +2,7 @@
 // Writes the first inputs of every fuzz target: makeseeds SOURCE_DIRECTORY SEED_DIRECTORY
 //
 // The files of target T go into SEED_DIRECTORY/T. They come from the generators and tables of the
-// tests, from samples/ and from data/.
+// tests and from data/.
 #include <cstdio>
 #include <utility>
 #include <vector>
@@ -33,21 +33,6 @@ std::vector<std::string> lines_of(fs::path const& path, char end = '\n') {
         lines.push_back(line);
     }
     return lines;
-}
-
-void add_samples() {
-    constexpr std::uintmax_t k_largest = 64 << 10;  // larger inputs run too slowly
-    for (auto const& entry : fs::directory_iterator(source / "samples")) {
-        std::string const extension = entry.path().extension().string();
-        if (extension.empty() || entry.file_size() > k_largest) {
-            continue;
-        }
-        std::string const bytes = read_file(entry.path());
-        add(extension == ".jpg" ? "jpeg" : extension.substr(1), bytes);
-        if (extension == ".bmp") {
-            add("bmpstream", bytes);
-        }
-    }
 }
 
 void add_bmps_and_tgas() {
@@ -202,7 +187,6 @@ int main(int argc, char** argv) {
     for (char const* target : {FUZZ_TARGETS}) {
         fs::create_directories(seeds / target);
     }
-    add_samples();
     add_bmps_and_tgas();
     add_pngs();
     add_jpegs();

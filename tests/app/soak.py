@@ -16,7 +16,6 @@ import time
 from viewerdriver import Viewer, run, write_bmp, xdotool
 
 SEED = 20
-SAMPLES = pathlib.Path(__file__).parents[2] / "samples"
 COUNTED = os.environ["ZANOVIEW3_COUNTED"]
 NAMES = "textures", "programs", "buffers", "framebuffers", "lists"
 KINDS = ".jpg", ".jpeg", ".png", ".bmp", ".tga"
@@ -30,7 +29,7 @@ MOST_GROWTH = 16 * MEGABYTE
 
 def make_pictures(folder, dice, directory):
     """Fills the folder with good pictures and with three damaged copies of each."""
-    for path in [*SAMPLES.iterdir(), *(sorted(directory.rglob("*")) if directory else ())]:
+    for path in sorted(directory.rglob("*")) if directory else ():
         if path.suffix.lower() in KINDS:
             shutil.copy(path, folder / f"{len(os.listdir(folder)):03}{path.suffix}")
     for bits in 1, 4, 8, 24, 32:
@@ -40,8 +39,9 @@ def make_pictures(folder, dice, directory):
     for name, *options in (("large.jpg", "-resize", "2000x1500!"), ("small.png", "-resize", "9x7"),
                            ("steps.jpg", "-interlace", "Plane"), ("gray.jpg", "-colorspace", "Gray"),
                            ("deep.png", "-depth", "16"), ("cmyk.jpg", "-colorspace", "CMYK"),
-                           ("colours.png", "-colors", "9"), ("padded.tga", "-resize", "32x32!")):
-        run("convert", SAMPLES / "dusk.jpg", *options, folder / name)
+                           ("colours.png", "-colors", "9"), ("padded.tga", "-resize", "32x32!"),
+                           ("wide.png", "-resize", "640x200!"), ("tall.jpg", "-resize", "300x900!")):
+        run("convert", "rose:", *options, folder / name)
     for path in sorted(folder.iterdir()):
         good = path.read_bytes()
         cut = bytearray(good[:dice.randrange(len(good))])
