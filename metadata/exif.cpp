@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The TIFF header of an Exif block and its 0th, Exif and 1st IFD.
+// The parser for the TIFF header and the 0th, Exif and 1st IFD of an Exif block.
 #include "metadata/exif.h"
 
 #include <string_view>
@@ -16,11 +16,11 @@ using libutils::refuse;
 
 using tiff_header_t = app1_marker_t::tiff_header_t;
 
-constexpr unsigned long tiff_start = 6;  // behind "Exif" and two NULs
+constexpr std::size_t tiff_offset = 6;  // after "Exif" and two NULs
 
-constexpr ifd_rules_t zeroth_rules = {ifd_bounds_t::zeroth, ifd_unknown_type_t::skip};
-constexpr ifd_rules_t exif_rules = {ifd_bounds_t::exif, ifd_unknown_type_t::stop};
-constexpr ifd_rules_t first_rules = {ifd_bounds_t::none, ifd_unknown_type_t::stop};
+constexpr ifd_rules_t zeroth_rules = {ifd_checks_t::zeroth, unknown_type_t::skip};
+constexpr ifd_rules_t exif_rules = {ifd_checks_t::exif, unknown_type_t::stop};
+constexpr ifd_rules_t first_rules = {ifd_checks_t::none, unknown_type_t::stop};
 
 using zeroth_t = ExifType::tag_0th_ifd;
 constexpr tag_row_t<zeroth_t> zeroth_tags[] = {
@@ -69,26 +69,26 @@ constexpr tag_row_t<first_t> first_tags[] = {
     {0x0202, 4, &first_t::JPEGInterchangeFormatLength},
 };
 
-/// Bytes of an IFD of `n` entries as the block's own IFDs are measured. That is two bytes short of
-/// the end of the next IFD's offset.
-unsigned long plain_ifd_size(unsigned long n) {
+/// Returns the size that the 0th, Exif, GPS and 1st IFD with `n` entries must have. It includes
+/// only half of the offset of the next IFD, because existing files depend on it.
+std::size_t plain_ifd_size(std::size_t n) {
     return ifd_size(n) + 2;
 }
 
-/// The view of the IFD at an offset in the block. A count that isn't there is 0.
-jpeg_bytes_t ifd_at(tiff_header_t const& header, unsigned long offset) {
-    return part_of(header, offset, plain_ifd_size(short_at(header, offset, *header.byteorder)));
+/// Returns a view of the IFD at an offset in the TIFF block.
+jpeg_bytes_t ifd_at(tiff_header_t const& header, std::uint64_t offset) {
+    return subview(header, offset, plain_ifd_size(short_at(header, offset, *header.byteorder)));
 }
 
 bool read_exif_ifd(tiff_header_t& header) {
     if (header.tag_0th_ifd.ExifIFDPointer.empty()) {
         return true;
     }
-    unsigned long const offset = header.tag_0th_ifd.ExifIFDPointer[0];
+    std::uint64_t const offset = header.tag_0th_ifd.ExifIFDPointer[0];
     if (header.size() <= offset) {
         return refuse("exif_ifd_offset size exceed: ", offset, " > ", header.size());
     }
-    unsigned long const end = offset + plain_ifd_size(short_at(header, offset, *header.byteorder));
+    std::uint64_t const end = offset + plain_ifd_size(short_at(header, offset, *header.byteorder));
     if (header.size() < end) {
         return refuse("exif ifd size exceed: ", end, " > ", header.size());
     }
@@ -100,9 +100,9 @@ bool set_gps_ifd(tiff_header_t& header) {
     if (header.tag_0th_ifd.GPSInfoIFDPointer.empty()) {
         return true;
     }
-    unsigned long const offset = header.tag_0th_ifd.GPSInfoIFDPointer[0];
-    // Only the IFD's own size is compared: where it begins doesn't count.
-    unsigned long const size = plain_ifd_size(short_at(header, offset, *header.byteorder));
+    std::uint64_t const offset = header.tag_0th_ifd.GPSInfoIFDPointer[0];
+    // The offset isn't checked, because existing files depend on it.
+    std::size_t const size = plain_ifd_size(short_at(header, offset, *header.byteorder));
     if (header.size() < size) {
         return refuse("gps_ifd size exceed: ", size, " > ", header.size());
     }
@@ -122,11 +122,11 @@ void tiff_header_t::set_tiff_buffer(jpeg_bytes_t const& block) {
 }
 
 bool tiff_header_t::is_intel() const {
-    return begins_with(*this, "II");
+    return has_prefix(*this, "II");
 }
 
 bool tiff_header_t::is_motorola() const {
-    return begins_with(*this, "MM");
+    return has_prefix(*this, "MM");
 }
 
 void tiff_header_t::clear() {
@@ -148,13 +148,13 @@ bool tiff_header_t::parse() {
     if (short_at(*this, 2, *byteorder) != 42) {
         return refuse("not tiff(0x00, 0x2a).");
     }
-    unsigned long const zeroth = long_at(*this, 4, *byteorder);
+    std::uint64_t const zeroth = long_at(*this, 4, *byteorder);
     ifd_0th = ifd_at(*this, zeroth);
     if (!parse_0th_ifd(ifd_0th)) {
         return false;
     }
-    unsigned long const next = zeroth + ifd_size(short_at(*this, zeroth, *byteorder));
-    unsigned long const first = long_at(*this, next, *byteorder);
+    std::uint64_t const next = zeroth + ifd_size(short_at(*this, zeroth, *byteorder));
+    std::uint64_t const first = long_at(*this, next, *byteorder);
     if (first != 0) {
         ifd_1st = ifd_at(*this, first);
         parse_1st_ifd(ifd_1st);
@@ -179,7 +179,7 @@ bool tiff_header_t::parse_1st_ifd(jpeg_bytes_t const& ifd) {
     collect_tags(first_rules, ifd, *this, byteorder.get(), first_tags, tag_1st_ifd);
     if (!tag_1st_ifd.JPEGInterchangeFormat.empty() &&
         !tag_1st_ifd.JPEGInterchangeFormatLength.empty()) {
-        thumbnail = part_of(*this, tag_1st_ifd.JPEGInterchangeFormat[0],
+        thumbnail = subview(*this, tag_1st_ifd.JPEGInterchangeFormat[0],
                             tag_1st_ifd.JPEGInterchangeFormatLength[0]);
     }
     return true;
@@ -190,14 +190,14 @@ void app1_marker_t::set_app1_buffer(jpeg_bytes_t const& payload) {
 }
 
 bool app1_marker_t::is_exif() const {
-    return begins_with(*this, std::string_view("Exif\0", 5));
+    return has_prefix(*this, std::string_view("Exif\0", 5));
 }
 
 bool app1_marker_t::parse() {
     if (!is_exif()) {
         return false;
     }
-    tiff_header.set_tiff_buffer(part_of(*this, tiff_start, to_end));
+    tiff_header.set_tiff_buffer(subview(*this, tiff_offset, to_end));
     return tiff_header.parse();
 }
 
