@@ -17,7 +17,8 @@
 ///
 /// `jpeginfo_t::get_marker(MARKER_APP1)` in codecs/jpeginfo.h returns the payload. The order of
 /// calls is `set_app1_buffer`, `parse`, and `clear` before the next payload. `parse` reads the tags
-/// that metadata/exiftype.h has members for, and the notes of these makers:
+/// that metadata/exiftype.h has members for, and the notes of these makers (all others are
+/// ignored):
 ///
 ///   Make, in any case       Note begins with     Function              Offsets are relative to
 ///   OLYMPUS...              OLYMP, or any text   parse_olympus_ifd     the TIFF block
@@ -78,8 +79,10 @@ class app1_marker_t : public jpeg_bytes_t {
         /// checked.
         bool parse();
 
+        /// Return true if the block begins with "II" (little-endian) or with "MM" (big-endian).
         bool is_intel() const;
         bool is_motorola() const;
+
         void byteorderclear() { byteorder.reset(); }
         void clear() override;
 

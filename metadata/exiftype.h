@@ -54,8 +54,8 @@ class ExifType {
         short_t ISOSpeedRatings;
         long_t StandardOutputSensitivity;
         long_t ISOSpeed;
-        std::string DateTimeOriginal;
-        std::string DateTimeDigitized;
+        std::string DateTimeOriginal;   ///< "YYYY:MM:DD HH:MM:SS"
+        std::string DateTimeDigitized;  ///< "YYYY:MM:DD HH:MM:SS"
         rationals_t ApertureValue;
         srationals_t ExposureBiasValue;
         rationals_t MaxApertureValue;

@@ -93,10 +93,20 @@ void store_value(ifd_entry_t const& entry, libutils::byteorder const& order, jpe
 /// The size of a tag that may have any size.
 inline constexpr unsigned int any_size = ~0U;
 
+/// The size, in bytes, of the value of a tag that is stored in a member of type M.
+template <typename M>
+inline constexpr unsigned int value_size = any_size;
+template <typename T>
+inline constexpr unsigned int value_size<std::vector<T>> = sizeof(T);
+
 /// A tag and the member of record R that stores its value. A value is ignored if it doesn't have
 /// `size` bytes. Its type isn't checked: the type of the member defines the conversion.
 template <typename R>
 struct tag_row_t {
+    template <typename M>
+    constexpr tag_row_t(unsigned short tag_number, M R::*target, unsigned int bytes = value_size<M>)
+        : tag(tag_number), size(bytes), member(target) {}
+
     unsigned short tag;
     unsigned int size;
     std::variant<ExifType::short_t R::*, ExifType::long_t R::*, ExifType::rationals_t R::*,

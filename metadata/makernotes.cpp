@@ -29,37 +29,37 @@ constexpr ifd_rules_t pentax5_rules = note_rules("pentax5 ifd: ");
 
 using olympus_t = ExifType::tag_olympus_ifd;
 constexpr tag_row_t<olympus_t> olympus_tags[] = {
-    {0x100B, 2, &olympus_t::tag_0x100B}, {0x100C, 8, &olympus_t::tag_0x100C},
-    {0x100F, 2, &olympus_t::tag_0x100F}, {0x1015, 4, &olympus_t::tag_0x1015},
-    {0x1029, 2, &olympus_t::tag_0x1029},
+    {0x100B, &olympus_t::tag_0x100B}, {0x100C, &olympus_t::tag_0x100C},
+    {0x100F, &olympus_t::tag_0x100F}, {0x1015, &olympus_t::tag_0x1015, 4},
+    {0x1029, &olympus_t::tag_0x1029},
 };
 
 using equipment_t = ExifType::tag_olympus3_equipment_ifd;
 constexpr tag_row_t<equipment_t> equipment_tags[] = {
-    {0x0203, any_size, &equipment_t::tag_0x0203},
+    {0x0203, &equipment_t::tag_0x0203},
 };
 
 using camerasettings_t = ExifType::tag_olympus3_camerasettings_ifd;
 constexpr tag_row_t<camerasettings_t> camerasettings_tags[] = {
-    {0x0500, 2, &camerasettings_t::tag_0x0500},
-    {0x0501, 2, &camerasettings_t::tag_0x0501},
-    {0x0804, 8, &camerasettings_t::tag_0x0804},
+    {0x0500, &camerasettings_t::tag_0x0500},
+    {0x0501, &camerasettings_t::tag_0x0501},
+    {0x0804, &camerasettings_t::tag_0x0804},
 };
 
 using focusinfo_t = ExifType::tag_olympus3_focusinfo_ifd;
 constexpr tag_row_t<focusinfo_t> focusinfo_tags[] = {
-    {0x0209, 2, &focusinfo_t::tag_0x0209}, {0x0300, 2, &focusinfo_t::tag_0x0300},
-    {0x0301, 2, &focusinfo_t::tag_0x0301}, {0x0303, 2, &focusinfo_t::tag_0x0303},
-    {0x0304, 2, &focusinfo_t::tag_0x0304}, {0x0305, 8, &focusinfo_t::tag_0x0305},
-    {0x0308, 2, &focusinfo_t::tag_0x0308}, {0x031B, 2, &focusinfo_t::tag_0x031B},
+    {0x0209, &focusinfo_t::tag_0x0209}, {0x0300, &focusinfo_t::tag_0x0300},
+    {0x0301, &focusinfo_t::tag_0x0301}, {0x0303, &focusinfo_t::tag_0x0303},
+    {0x0304, &focusinfo_t::tag_0x0304}, {0x0305, &focusinfo_t::tag_0x0305},
+    {0x0308, &focusinfo_t::tag_0x0308}, {0x031B, &focusinfo_t::tag_0x031B},
 };
 
 using pentax5_t = ExifType::tag_pentax5_ifd;
 constexpr tag_row_t<pentax5_t> pentax5_tags[] = {
-    {0x000D, 2, &pentax5_t::tag_0x000D},
-    {0x0010, 2, &pentax5_t::tag_0x0010},
-    {0x0019, 2, &pentax5_t::tag_0x0019},
-    {0x001A, 2, &pentax5_t::tag_0x001A},
+    {0x000D, &pentax5_t::tag_0x000D},
+    {0x0010, &pentax5_t::tag_0x0010},
+    {0x0019, &pentax5_t::tag_0x0019},
+    {0x001A, &pentax5_t::tag_0x001A},
 };
 
 using note_reader_t = bool (tiff_header_t::*)(jpeg_bytes_t const&, jpeg_bytes_t const&);
