@@ -22,7 +22,8 @@
 /// Everything here must be called from one thread. The OpenGL 1.1 functions need no flag. The
 /// functions of OpenGL 1.2 to 4.1 have no pointers of their own, with four exceptions (see
 /// `AGL_init_additional`): use the functions of the extensions, for example `glTexImage3DEXT`.
-/// tools/generate_glext.py writes the lists of functions and flags.
+/// The flag of an extension or core version has its name: `is_GL_EXT_bgra_supported`. To add one,
+/// add it to glext/extension_names.txt and run tools/generate_glext.py.
 
 #include <cstdint>
 
@@ -65,8 +66,8 @@ extern std::int32_t is_gl_extloader_inited;
 /// supports.
 ///
 /// A context must be current. The pointers and flags describe that context; a second context isn't
-/// supported. There is no error report: if the OpenGL library can't be opened, all pointers stay
-/// null and all flags stay 0, and a call through a null pointer crashes.
+/// supported. The functions of unsupported extensions stay null. If the OpenGL library can't be
+/// opened, all functions stay null and all flags 0. There is no error report.
 void gl_extloader_init();
 
 /// Returns the address of an entry point in the system's OpenGL library, or null if it has none.

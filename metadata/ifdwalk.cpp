@@ -184,7 +184,7 @@ void store_value(ifd_entry_t const& entry, byteorder const& order, ExifType::sra
 }
 
 void store_value(ifd_entry_t const& entry, byteorder const&, std::string& text) {
-    // Allocates no more memory than the file has bytes, whatever size the entry specifies.
+    // Allocates memory for the bytes in the file, not for the size that the entry specifies.
     std::size_t const size = entry.value.size();
     auto const* const first = reinterpret_cast<char const*>(entry.value.begin());
     text.assign(size, '\0');

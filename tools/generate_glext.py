@@ -21,7 +21,7 @@ from pathlib import Path
 GLEXT = Path(__file__).resolve().parent.parent / "glext"
 
 # Entry points of later versions that the program calls by their core names. gl_extloader_init
-# resolves them after those of OpenGL 1.1.
+# resolves them after the entry points of OpenGL 1.1.
 ADDITIONAL = ("glActiveTexture", "glGenerateMipmap", "glGetStringi", "glMultiTexCoord3f")
 
 # Core versions whose entry points stay unresolved. Callers use the functions of the extensions.

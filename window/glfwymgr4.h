@@ -34,8 +34,9 @@ namespace wenk {
 /// on request. The library has one instance, from before `main` to the end of the process.
 class glfwyMGR4 : public singleton<glfwyMGR4> {
   public:
-    /// Creates a window of 640 by 480 screen coordinates and its OpenGL context, sends its events
-    /// to `api`, makes the context current and calls `api->init()`, in which `win` works already.
+    /// Creates a window of 640 by 480 screen coordinates and its OpenGL context, with the current
+    /// window hints. Sends its events to `api`, makes the context current and calls `api->init()`,
+    /// in which `win` can be used.
     ///
     /// Returns null if `api` is null or if GLFW can't create the window. `api` isn't owned and must
     /// stay valid until the window is destroyed.
@@ -57,7 +58,7 @@ class glfwyMGR4 : public singleton<glfwyMGR4> {
     void Exit() { exit_requested = true; }
 
     /// Requests that the loop draws all windows after the current events. Several requests result
-    /// in one drawing. A request from a `display` or `idle` that the loop calls is lost.
+    /// in one drawing. A request from `display` is lost if the loop called `display`.
     void PostRedisplay();
 
     /// Swaps the buffers of the window of `api`. Only code that calls `display` itself needs it.

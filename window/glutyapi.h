@@ -36,13 +36,13 @@ class glutyAPI {
     /// key that GLFW doesn't know is 255.
     virtual void keyboard(unsigned char key, int x, int y);
     /// A key without a character was pressed, or repeats. `key` is GLFW's number of the key, for
-    /// example GLFW_KEY_LEFT. The digits of the keypad are reported as the keys that are
-    /// printed on their caps, 7 as GLFW_KEY_HOME, and 5 as 255.
+    /// example GLFW_KEY_LEFT. The digits of the keypad are reported as the keys that are printed on
+    /// their caps, 7 as GLFW_KEY_HOME, and 5 as 255.
     virtual void specialkey(int key, int x, int y);
     /// A button was pressed (`state` 0) or released (`state` 1). Button 0 is left, 1 middle, 2
     /// right.
     virtual void mouse(int button, int state, int x, int y);
-    /// The cursor was moved, whether a button is pressed or not.
+    /// The cursor was moved, with or without a pressed button.
     virtual void motion(int x, int y);
     /// Isn't called. `motion` reports all movements.
     virtual void passivemotion(int x, int y);
@@ -60,9 +60,9 @@ class glutyAPI {
 /// Adds key releases, wheels and dropped files. The default implementations do nothing.
 class glutyAPI4 : public glutyAPI {
   public:
-    /// A key was released. The arguments are those of `keyboard`.
+    /// A key was released. See `keyboard` for the arguments.
     virtual void keyboardup(unsigned char key, int x, int y);
-    /// A key was released. The arguments are those of `specialkey`.
+    /// A key was released. See `specialkey` for the arguments.
     virtual void specialkeyup(int key, int x, int y);
     /// A wheel was turned by one step: `direction` is 1 away from the user, -1 towards the user,
     /// and 0 for a horizontal movement. The main wheel is 0. Mouse buttons 4 and 5 are reported as
