@@ -64,7 +64,7 @@ image_bytes_t unpadded(image3d_t const& read, unsigned long long bits) {
     return copy;
 }
 
-/// Pixels without padding, packed and unpacked. GLU allocates the levels of a volume so, and then
+/// Rows and pictures without padding. GLU allocates the levels of a volume without padding, but
 /// writes and reads them by the state.
 constexpr pixelstore_t s_unpadded[] = {
     {GL_PACK_ALIGNMENT, 1},   {GL_PACK_ROW_LENGTH, 0},     {GL_PACK_SKIP_PIXELS, 0},

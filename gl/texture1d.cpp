@@ -10,7 +10,7 @@ namespace {
 
 constexpr GLenum s_target = GL_TEXTURE_1D;
 
-/// What an upload of one row needs and `unpack` doesn't set.
+/// The parameters that OpenGL reads a row by and that `unpack` doesn't set.
 constexpr pixelstore_t s_one_row[] = {{GL_UNPACK_ROW_LENGTH, 0}, {GL_UNPACK_SKIP_ROWS, 0}};
 
 }  // namespace

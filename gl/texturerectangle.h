@@ -10,9 +10,9 @@ namespace libgr {
 /// The image of a GL_TEXTURE_RECTANGLE, row 0 at the bottom, without mipmaps, border or
 /// compression.
 ///
-/// The pixels are read by OpenGL's initial unpack state, with rows padded to 4 bytes, whatever the
-/// record's window and store; the former state is put back. A record whose bytes end before what
-/// OpenGL would read is reported and left out.
+/// OpenGL reads the pixels with its initial unpack state, which takes rows as padded to 4 bytes.
+/// The record's window and store have no effect. The former state is put back. A record whose bytes
+/// end before what OpenGL would read is reported and left out.
 class grTextureRectangle : public grTexturableImageGL {
   public:
     void setImage(image2d_t const& image) { m_image = image; }

@@ -13,7 +13,7 @@ namespace libgr {
 image3d_t as_read(image1d_t const& image);
 image3d_t as_read(image2d_t const& image);
 image3d_t as_read(image3d_t const& image);
-/// The same in OpenGL's initial unpack state, the bytes being pixels.
+/// The same in OpenGL's initial unpack state. Compressed bytes count as pixels.
 image3d_t as_read_in_initial_state(image2d_t const& image);
 
 /// Bits that OpenGL reads for a pixel; 0 for a type that it turns down unread.

@@ -37,10 +37,10 @@ struct multi_texture_object_t {
     void draw_image(libgr::position2_t const& btm_lft, libgr::position2_t const& top_rit) const;
 };
 
-/// Describes a texture for each tile of `in`, all of one size. A tile that GLU would stretch over
-/// its texture, because it fills only a part of it, is copied into a full square with its edges
-/// repeated; all other tiles share their pixels. Makes no GL object, but the extension flags must
-/// be set. Returns true.
+/// Describes a texture for each tile of `in`, all of one size. A tile that GLU would stretch
+/// because it fills only a part of its texture is copied into a full square with its edges
+/// repeated. If there is no memory for the square, the tile is stretched. All other tiles share
+/// their pixels. Makes no GL object, but the extension flags must be set. Returns true.
 bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const& in);
 
 }  // namespace zanolib

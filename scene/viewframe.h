@@ -53,7 +53,7 @@ class ViewFrame : public libgr::grObject3D {
     void free_graph();
 
     using grObject3D::Draw;
-    /// Draws the band in one call, and leaves lighting, blending and texturing off and no emission.
+    /// Draws the band in one call. Leaves lighting, blending and texturing off, and no emission.
     /// Needs a current context.
     void Draw() const override;
 
