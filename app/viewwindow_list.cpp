@@ -7,6 +7,7 @@
 #include "app/viewwindow.h"
 #include "options/message.h"
 #include "options/option.h"
+#include "utils/allocator.h"
 #include "utils/diagnostics.h"
 #include "window/glfwymgr4.h"
 
@@ -152,6 +153,7 @@ void ViewWindow::page(Step const& step) {
     if (changed) {
         display();
         wenk::glfwyMGR4::getSingleton()->SwapBuffers(this);
+        libutils::release_unused_memory();
     }
 }
 
@@ -171,6 +173,7 @@ void ViewWindow::go_to(bool (ViewWindow::*end)()) {
         return true;
     });
     request_redisplay();
+    libutils::release_unused_memory();
 }
 
 void ViewWindow::first() {

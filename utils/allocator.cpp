@@ -3,6 +3,9 @@
 #include "utils/allocator.h"
 
 #include <fcntl.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,6 +19,12 @@
 #include "utils/mappingguard.h"
 
 namespace libutils {
+
+void release_unused_memory() {
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
+}
 
 char const* const memory_error = "can't alloc memory.\n";
 
