@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
         length = parent(path, length);
     }
     path[length] = '/';
-    std::strcpy(path + length + 1, program);
+    std::memcpy(path + length + 1, program, std::strlen(program) + 1);
     char* none[] = {path, nullptr};
     char** const arguments = argc > 0 ? argv : none;
     arguments[0] = path;
