@@ -9,13 +9,15 @@
 #include <chrono>
 #include <thread>
 
+#include "app/windowmanager.h"
 #include "utils/diagnostics.h"
+#include "utils/limits.h"
 
 namespace zanoview2::native {
 
 namespace {
 
-constexpr int largest_window_side = 16384;
+constexpr int max_window_side = static_cast<int>(libutils::limits::window_side.value);
 
 /// Waits until something that a window manager does has happened, at most a tenth of a second.
 template <typename Condition>
@@ -66,11 +68,14 @@ libgr::direction2l_t work_area() {
 }
 
 libgr::direction2l_t possible_window_size(libgr::direction2l_t const& size) {
-    return libgr::direction2l(std::clamp(size.x, 1, largest_window_side),
-                              std::clamp(size.y, 1, largest_window_side));
+    return libgr::direction2l(std::clamp(size.x, 1, max_window_side),
+                              std::clamp(size.y, 1, max_window_side));
 }
 
 void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
+    if (size.x > max_window_side || size.y > max_window_side) {
+        libutils::report_limit(libutils::limits::window_side);
+    }
     libgr::direction2l_t const asked = possible_window_size(size);
     glfwSetWindowSize(window, asked.x, asked.y);
 }
@@ -90,6 +95,9 @@ void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
 
 void iconify(GLFWwindow* window) {
     glfwIconifyWindow(window);
+    if (!is_managed(window)) {
+        return;
+    }
     await([&] { return glfwGetWindowAttrib(window, GLFW_ICONIFIED) == GLFW_TRUE; });
 }
 

@@ -26,12 +26,13 @@ libgr::position2l_t window_position(GLFWwindow* window);
 /// The size of the primary monitor's area that no panel covers; 0, 0 without a monitor.
 libgr::direction2l_t work_area();
 
-/// A size that a window can have: each side from 1 to 16384. A side of 0 ends an X program, and
-/// larger ones have been seen to crash software drivers.
+/// Returns the nearest size that a window can have: each side from 1, because a side of 0 ends an X
+/// program, to the limit window-side (utils/limits.h).
 libgr::direction2l_t possible_window_size(libgr::direction2l_t const& size);
 
-/// Asks for a window size in screen coordinates, or the nearest that a window can have. A window
-/// manager may grant it later or not at all.
+/// Requests a window size in screen coordinates, or the nearest that a window can have. Prints an
+/// error line if a side exceeds the limit window-side. A window manager may grant the size later or
+/// not at all.
 void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
 void set_window_position(GLFWwindow* window, libgr::position2l_t const& position);
 /// Sets the title, which is UTF-8. Control characters are shown escaped.
@@ -41,8 +42,9 @@ void set_title(GLFWwindow* window, std::string const& title);
 /// window manager answers late, and what is fitted into the window needs the size it will have.
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
 
-/// Takes the window down, and waits a tenth of a second at most until it is: a window that is told
-/// to come up before the window manager has put it away stays away.
+/// Iconifies the window. Under a window manager, waits until the window is iconified, at most a
+/// tenth of a second: a request to restore it that arrives earlier is lost, and the window stays
+/// iconified. Without a window manager, takes one reply of the X server at most.
 void iconify(GLFWwindow* window);
 /// Brings the window up again.
 void restore(GLFWwindow* window);

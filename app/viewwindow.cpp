@@ -71,11 +71,7 @@ void ViewWindow::init() {
         native::await_window_size(win, native::work_area());
     }
 
-    if (initial_load()) {
-        residue(true);
-        update_title();
-        scene.make_graph(dir.data());
-    }
+    load_first_picture();
     // The scene needs its projection before the first drawing, and no size event comes when the
     // window kept the size that it was made with. The size isn't recorded: the first event must not
     // scale the picture, which has been fitted already.

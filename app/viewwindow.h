@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <set>
 #include <string>
 
 #include "app/picturelist.h"
@@ -39,7 +40,8 @@ struct drag_t {
 /// Everything runs on the main thread, with the context current. It owns its scene, which may be
 /// destroyed after the windowing library has gone.
 ///
-/// At most one picture is in the scene. A picture that doesn't load is skipped without a word.
+/// At most one picture is in the scene. A picture that doesn't load is skipped without a word, and
+/// one that OpenGL has no memory for is skipped with a line on the error stream.
 class ViewWindow : public wenk::glutyAPI4 {
   public:
     /// Reads the message file and the options (built-in values, the user's default file, the
@@ -127,9 +129,14 @@ class ViewWindow : public wenk::glutyAPI4 {
     unsigned long paging_step() const;
     void set_zoom(int digit);
     void go_to(bool (ViewWindow::*end)());
+    bool add_to_scene(std::string const& path);
     bool settle(walk_t walk);
+    template <typename Step>
+    bool change_picture(Step const& step);
     void announce(std::string const& path) const;
-    void show_new_picture();
+    void load_first_picture();
+    template <typename Step>
+    void page(Step const& step);
     static bool covers_work_area();
     static void cover_work_area(GLFWwindow* window);
     void request_redisplay() const;
@@ -144,6 +151,7 @@ class ViewWindow : public wenk::glutyAPI4 {
     picture_list_t imagelist;
     picture_list_t::iterator current = imagelist.end();
     unsigned long current_index = 0;
+    std::set<std::string> too_large;  ///< paths that the running change of picture has to skip
     unsigned long image_count = 0;
     libgr::direction2l_t oldwinsize = libgr::datum2l;
     libgr::direction2l_t pixelratio = libgr::direction2l(1, 1);

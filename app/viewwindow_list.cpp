@@ -16,9 +16,7 @@ class ViewWindow::stage_t final : public picture_stage_t {
   public:
     explicit stage_t(ViewWindow& owner) : m_owner(owner) {}
 
-    bool add(std::string const& path) override {
-        return m_owner.scene.addImage(path.c_str(), m_owner.dir.data());
-    }
+    bool add(std::string const& path) override { return m_owner.add_to_scene(path); }
     void remove() override { m_owner.scene.delImage(); }
 
   private:
@@ -37,6 +35,10 @@ void ViewWindow::announce(std::string const& path) const {
     if (zanolib::g_option.verbose) {
         std::cout << "\ndisplay image: " << libutils::putname(path) << std::endl;
     }
+}
+
+bool ViewWindow::add_to_scene(std::string const& path) {
+    return !too_large.contains(path) && scene.addImage(path.c_str(), dir.data());
 }
 
 bool ViewWindow::initial_load() {
@@ -62,7 +64,7 @@ bool ViewWindow::settle(walk_t walk) {
     }
     announce(*current);
     if (walk == walk_t::stranded) {
-        scene.addImage(current->c_str(), dir.data());
+        add_to_scene(*current);
     }
     return true;
 }
@@ -109,35 +111,65 @@ bool ViewWindow::last_image() {
     }));
 }
 
-/// What a change of picture by paging entails; the picture is on the screen when it returns.
-void ViewWindow::show_new_picture() {
-    scene.free_graph();
-    residue(true);
-    update_title();
-    scene.make_graph(dir.data());
-    display();
-    wenk::glfwyMGR4::getSingleton()->SwapBuffers(this);
+/// Puts the picture that `step` leads to into the scene, adapts window and title to it and makes
+/// its GL resources. If there is no memory for them, starts again without that picture. Returns
+/// false if `step` does.
+template <typename Step>
+bool ViewWindow::change_picture(Step const& step) {
+    picture_place_t const start{current, current_index};
+    bool changed = false;
+    while ((changed = step())) {
+        residue(true);
+        update_title();
+        if (scene.make_graph(dir.data())) {
+            break;
+        }
+        too_large.insert(*current);
+        current = start.entry;
+        current_index = start.index;
+    }
+    if (!changed && !too_large.empty()) {
+        update_title();
+    }
+    too_large.clear();
+    return changed;
+}
+
+void ViewWindow::load_first_picture() {
+    change_picture([this] { return initial_load(); });
+}
+
+/// Pages by `step`; the picture is on the screen when it returns.
+template <typename Step>
+void ViewWindow::page(Step const& step) {
+    bool const changed = change_picture([&] {
+        if (!step()) {
+            return false;
+        }
+        scene.free_graph();
+        return true;
+    });
+    if (changed) {
+        display();
+        wenk::glfwyMGR4::getSingleton()->SwapBuffers(this);
+    }
 }
 
 void ViewWindow::forward(unsigned long n) {
-    if (next_image(n)) {
-        show_new_picture();
-    }
+    page([=, this] { return next_image(n); });
 }
 
 void ViewWindow::backward(unsigned long n) {
-    if (back_image(n)) {
-        show_new_picture();
-    }
+    page([=, this] { return back_image(n); });
 }
 
 /// Goes to an end of the list and has the picture there drawn with the next pass of the loop.
 void ViewWindow::go_to(bool (ViewWindow::*end)()) {
-    scene.free_graph();
-    (this->*end)();
-    residue(true);
-    update_title();
-    scene.make_graph(dir.data());
+    change_picture([=, this] {
+        scene.free_graph();
+        (this->*end)();
+        return true;
+    });
     request_redisplay();
 }
 

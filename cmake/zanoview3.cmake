@@ -6,6 +6,14 @@ target_compile_options(zv_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wcast-qual -Wformat=2
   -Wnon-virtual-dtor -Woverloaded-virtual
   $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond;-Wlogical-op>)
+# Release builds check the buffer sizes of C library calls, and map relocations read-only, which
+# resolves all symbols at start. Debian requires both of a package.
+if(NOT ZV_SANITIZE AND NOT ZV_COVERAGE)
+  target_compile_options(zv_flags INTERFACE
+    $<$<CONFIG:Release,RelWithDebInfo>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
+  target_link_options(zv_flags INTERFACE
+    $<$<CONFIG:Release,RelWithDebInfo>:LINKER:-z,relro,-z,now>)
+endif()
 if(ZV_BUILD_FUZZ)
   target_compile_options(zv_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
@@ -22,14 +30,15 @@ endif()
 # zv_library(<folder> SOURCES <file>... [LINK <library>...] [LINK_PRIVATE <library>...])
 #
 # Makes the static library zv_<folder> of one folder. Without sources it is an interface library.
+# The project's own flags don't reach those who use the installed library.
 function(zv_library folder)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
   if(ARG_SOURCES)
     add_library(zv_${folder} STATIC ${ARG_SOURCES})
-    target_link_libraries(zv_${folder} PUBLIC zv_flags ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
+    target_link_libraries(zv_${folder} PUBLIC $<BUILD_INTERFACE:zv_flags> ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
   else()
     add_library(zv_${folder} INTERFACE)
-    target_link_libraries(zv_${folder} INTERFACE zv_flags ${ARG_LINK})
+    target_link_libraries(zv_${folder} INTERFACE $<BUILD_INTERFACE:zv_flags> ${ARG_LINK})
   endif()
 endfunction()
 

@@ -8,7 +8,7 @@
 #include <limits>
 
 #include "codecs/bmpstream.h"
-#include "codecs/claims.h"
+#include "codecs/sizelimits.h"
 #include "codecs/streambytes.h"
 #include "utils/diagnostics.h"
 
@@ -68,9 +68,9 @@ bool bmpimage_t::load(char const* path, libutils::android_app*) {
     if (!open_file(stream, path) || !read_bmp_headers(stream, fileheader, infoheader)) {
         return false;
     }
-    // A row has 32 bits and so have the rows, hence the product has room.
+    // The product of two 32-bit numbers fits into 64 bits.
     std::uint64_t const size = std::uint64_t{row_bytes(infoheader)} * infoheader.biHeight;
-    return is_bearable_claim(size, bytes_left(stream)) && read_pixels(pixels, stream, size);
+    return fits_in_memory(size, path) && read_pixels(pixels, stream, size);
 }
 
 bool bmpimage_t::save(char const* path, libutils::android_app*) {

@@ -14,10 +14,11 @@ struct bmpimage_t {
     libutils::tagBITMAPINFOHEADER infoheader{};
     image_bytes_t pixels;
 
-    /// Reads the file; a palette is skipped unread. False, without a message, for a file that can't
-    /// be opened, isn't BMP, is cut within its headers, has its pixel offset past its end, or
-    /// claims far more pixel bytes than it holds. A file that ends within its pixels is true, with
-    /// the missing bytes 0. A picture whose rows are shorter than a byte has no pixels.
+    /// Reads the file and skips its palette. Returns false without a message if the file cannot be
+    /// opened, is not BMP, ends within its headers or before its pixel offset. Returns false with a
+    /// line on std::cerr if the pixels exceed the limit picture-memory (utils/limits.h). Returns
+    /// true for a file that ends within its pixels; the missing bytes are 0 and take no memory
+    /// until they are used. A picture whose rows are shorter than a byte has no pixels.
     bool load(char const* path, libutils::android_app* app);
 
     /// Completes the header fields and writes the headers and the pixels, never a palette. False

@@ -4,18 +4,18 @@
 
 #include <cstdint>
 #include <cstring>
-#include <optional>
+#include <limits>
 
-#include "codecs/claims.h"
+#include "codecs/sizelimits.h"
 #include "utils/bits.h"
 #include "utils/byteorder.h"
+#include "utils/limits.h"
 
 namespace libgr {
 
 namespace {
 
-/// No index of 8 bits reaches an entry behind these, whatever size the file gives the area.
-constexpr unsigned long k_palette_entries_max = 65536;
+namespace limits = libutils::limits;
 
 struct depth_row_t {
     std::uint16_t depth;
@@ -53,8 +53,12 @@ unsigned long palette_offset(image_bytes_t const& mapping, unsigned long pixels_
     return long_header ? 122 : 54;
 }
 
-bool take_palette(palette_t& palette, bmpimage2_t const& bmp) {
-    unsigned long const size = libutils::min2(bmp.palette.size(), k_palette_entries_max);
+bool take_palette(palette_t& palette, bmpimage2_t const& bmp, char const* file) {
+    unsigned long size = bmp.palette.size();
+    if (size > limits::bmp_palette.value) {
+        libutils::report_limit(limits::bmp_palette, file);
+        size = limits::bmp_palette.value;
+    }
     palette.clear();
     palette.resize(size);
     if (palette.red.count() < size || palette.green.count() < size || palette.blue.count() < size) {
@@ -69,51 +73,41 @@ bool take_palette(palette_t& palette, bmpimage2_t const& bmp) {
     return true;
 }
 
-/// Shares the pixels. Where the file ends early, copies what is there of them into a block of the
-/// picture's full size, so that they can be shown, unless that is less than a row or the size is
-/// out of proportion.
-bool take_pixels(image2d_t& image, bmpimage2_t const& bmp, std::uint64_t depth) {
+/// Returns true if a picture of `claimed` bytes of pixels may be shown with the `held` bytes that
+/// the file has of them.
+bool is_plausible_size(std::uint64_t claimed, std::uint64_t held, char const* file) {
+    return claimed <= limits::bmp_unchecked.value || claimed / limits::bmp_ratio.value <= held ||
+           libutils::report_limit(limits::bmp_ratio, file);
+}
+
+/// Shares the pixels. If the file ends within them, copies them into a block of the picture's full
+/// size instead. Returns false if the file has less than a row, or too few bytes for its size.
+bool take_pixels(image2d_t& image, bmpimage2_t const& bmp, std::uint64_t depth, char const* file) {
     std::uint64_t const width = image.m_width;
     std::uint64_t const height = image.m_height;
-    if (!fits_in_memory(width, height, depth)) {
+    std::uint64_t const held = bmp.pixels.size();
+    std::uint64_t const size = checked_product((depth * width + 31) / 32 * 4, height)
+                                   .value_or(std::numeric_limits<std::uint64_t>::max());
+    bool const is_cut = held < size;
+    if (held < (depth * width + 7) / 8 || (is_cut && !is_plausible_size(size, held, file)) ||
+        !fits_in_memory(width, height, depth, file)) {
         return false;
     }
-    std::uint64_t const row_size = (depth * width + 31) / 32 * 4;
-    std::uint64_t const size = row_size * height;
-    std::uint64_t const held = bmp.pixels.size();
-    if (held < size) {
-        image_bytes_t block;
-        if (held < (depth * width + 7) / 8 || !is_bearable_claim(size, held) ||
-            !block.resize(size, 0)) {
-            return false;
-        }
-        std::memcpy(block.begin(), bmp.pixels.begin(), held);
-        static_cast<image_bytes_t&>(image) = block;
+    if (!is_cut) {
+        static_cast<image_bytes_t&>(image) = bmp.pixels;
         return true;
     }
-    static_cast<image_bytes_t&>(image) = bmp.pixels;
-    return true;
-}
-
-}  // namespace
-
-bool bmpimage2_t::load(char const* path, libutils::android_app* app) {
-    image_bytes_t mapping;
-    if (!mapping.load(0, path, libutils::PROTECTION_READ, 0, false, app) ||
-        mapping.size() < sizeof(libutils::tagBITMAPFILEHEADER)) {
+    image_bytes_t block;
+    if (!block.resize(size, 0)) {
         return false;
     }
-    set_view(fileheader, mapping, 0, 1);
-    set_view(infoheader, mapping, sizeof(libutils::tagBITMAPFILEHEADER), 1);
-    unsigned long const pixels_offset = libutils::itohl(fileheader->bfOffBits);
-    unsigned long const entries_offset = palette_offset(mapping, pixels_offset);
-    // The area's bytes stand as the number of entries; an offset before it takes all there is.
-    set_view(palette, mapping, entries_offset, pixels_offset - entries_offset);
-    set_view(pixels, mapping, pixels_offset, image_bytes_t::to_end);
+    std::memcpy(block.begin(), bmp.pixels.begin(), held);
+    static_cast<image_bytes_t&>(image) = block;
     return true;
 }
 
-bool convert(image2d_t& image, bmpimage2_t const& bmp) {
+/// Converts as `convert` does, with `file` as the path for error lines, or null.
+bool convert_file(image2d_t& image, bmpimage2_t const& bmp, char const* file) {
     if (mapping_size(bmp) <
         sizeof(libutils::tagBITMAPFILEHEADER) + sizeof(libutils::tagBITMAPINFOHEADER)) {
         return false;
@@ -136,14 +130,36 @@ bool convert(image2d_t& image, bmpimage2_t const& bmp) {
         image.m_height = libutils::itohl(header.biHeight);
         image.compressed = false;
         image.palette.clear();
-        return take_pixels(image, bmp, row.depth) &&
-               (format != IMAGE_FORMAT_INDEX || take_palette(image.palette, bmp));
+        return take_pixels(image, bmp, row.depth, file) &&
+               (format != IMAGE_FORMAT_INDEX || take_palette(image.palette, bmp, file));
     }
     return false;
 }
 
+}  // namespace
+
+bool bmpimage2_t::load(char const* path, libutils::android_app* app) {
+    image_bytes_t mapping;
+    if (!mapping.load(0, path, libutils::PROTECTION_READ, 0, false, app) ||
+        mapping.size() < sizeof(libutils::tagBITMAPFILEHEADER)) {
+        return false;
+    }
+    set_view(fileheader, mapping, 0, 1);
+    set_view(infoheader, mapping, sizeof(libutils::tagBITMAPFILEHEADER), 1);
+    unsigned long const pixels_offset = libutils::itohl(fileheader->bfOffBits);
+    unsigned long const entries_offset = palette_offset(mapping, pixels_offset);
+    // The area's bytes stand as the number of entries; an offset before it takes all there is.
+    set_view(palette, mapping, entries_offset, pixels_offset - entries_offset);
+    set_view(pixels, mapping, pixels_offset, image_bytes_t::to_end);
+    return true;
+}
+
+bool convert(image2d_t& image, bmpimage2_t const& bmp) {
+    return convert_file(image, bmp, nullptr);
+}
+
 bool image_bmp2_t::load(image2d_t& image, char const* path) {
-    return m_bmp.load(path, nullptr) && convert(image, m_bmp);
+    return m_bmp.load(path, nullptr) && convert_file(image, m_bmp, path);
 }
 
 }  // namespace libgr

@@ -26,10 +26,13 @@ struct bmpimage2_t {
 };
 
 /// Describes the mapped file as a picture with its palette widened to 16 bits, and shares the pixel
-/// view, so that the pixels stay in the mapping as long as the picture lives. Where the file ends
-/// within its pixels, the picture gets a copy instead, whose missing rows are 0. False, without a
-/// message, for compressed files, for depths other than 1, 4, 8, 24 and 32, for 32 bits with a
-/// palette, and for a size that the file's bytes can't bear out (a negative height among them).
+/// view, so that the pixels stay in the mapping as long as the picture lives. If the file ends
+/// within its pixels, the picture gets a copy instead, whose missing rows are 0.
+///
+/// Returns false without a message for compressed files, for depths other than 1, 4, 8, 24 and 32,
+/// for 32 bits with a palette, and for files with less than a row of pixels. Returns false with a
+/// line on std::cerr for a size, such as a negative height, that exceeds the limit picture-memory
+/// or bmp-ratio (utils/limits.h).
 bool convert(image2d_t& image, bmpimage2_t const& bmp);
 
 /// The codec on top of bmpimage2_t; it has no writer.

@@ -4,26 +4,27 @@
 
 #include <cstdint>
 #include <fstream>
-#include <optional>
+#include <limits>
 #include <utility>
 
 #include "codecs/bmpstream.h"
-#include "codecs/claims.h"
+#include "codecs/sizelimits.h"
 #include "codecs/streambytes.h"
 
 namespace libgr {
 
 namespace {
 
-/// Swaps the first and third byte of each 3-byte pixel, stepping by rows padded to 4 bytes, as far
-/// as the block goes.
-void swap_red_and_blue(image_bytes_t& pixels, std::uint64_t width, std::uint64_t height) {
+/// Swaps the first and third byte of each 3-byte pixel that begins in the first `held` bytes,
+/// stepping by rows padded to 4 bytes.
+void swap_red_and_blue(image_bytes_t& pixels, std::uint64_t width, std::uint64_t height,
+                       std::uint64_t held) {
     std::uint64_t const row_size = (3 * width + 3) / 4 * 4;
     std::uint64_t const size = pixels.size();
     unsigned char* const data = pixels.begin();
-    for (std::uint64_t y = 0; y < height && y * row_size < size; ++y) {
+    for (std::uint64_t y = 0; y < height && y * row_size < held; ++y) {
         std::uint64_t p = y * row_size;
-        for (std::uint64_t x = 0; x < width && p + 3 <= size; ++x, p += 3) {
+        for (std::uint64_t x = 0; x < width && p < held && p + 3 <= size; ++x, p += 3) {
             std::swap(data[p], data[p + 2]);
         }
     }
@@ -41,12 +42,11 @@ bool BmpLoad(image2d_t& image, char const* path, e_image_format_t format) {
     }
     image.m_width = infoheader.biWidth;
     image.m_height = infoheader.biHeight;
-    std::optional<std::uint64_t> const row =
-        checked_product(infoheader.biBitCount >> 3, image.m_width);
-    std::optional<std::uint64_t> const size =
-        row ? checked_product(*row, image.m_height) : std::nullopt;
-    if (!size || !is_bearable_claim(*size, bytes_left(stream)) ||
-        !read_pixels(image, stream, *size)) {
+    std::uint64_t const row_bytes = std::uint64_t{infoheader.biBitCount} / 8 * image.m_width;
+    std::uint64_t const size = checked_product(row_bytes, image.m_height)
+                                   .value_or(std::numeric_limits<std::uint64_t>::max());
+    std::uint64_t const held = bytes_left(stream);
+    if (!fits_in_memory(size, path) || !read_pixels(image, stream, size)) {
         return false;
     }
     image.desc.format = format;
@@ -59,7 +59,7 @@ bool BmpLoad(image2d_t& image, char const* path, e_image_format_t format) {
             image.desc.bits = IMAGE_BITS_4;
             break;
         case 24:
-            swap_red_and_blue(image, image.m_width, image.m_height);
+            swap_red_and_blue(image, image.m_width, image.m_height, held);
             [[fallthrough]];
         case 8:
             image.desc.bits = IMAGE_BITS_8;

@@ -6,9 +6,9 @@
 #include <cstring>
 #include <iostream>
 
-#include "codecs/claims.h"
 #include "codecs/jpeglimits.h"
 #include "codecs/jpegmanagers.h"
+#include "codecs/sizelimits.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
 
@@ -51,7 +51,7 @@ void read_header(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
     cinfo->err = use_error_mgr(decoding.error, decoding.data);
     jpeg_create_decompress(cinfo);
-    use_work_limit(cinfo, decoding.limit, decoding.data.size());
+    use_work_limit(cinfo, decoding.limit, decoding.data);
     decoding.source = use_memory_source(cinfo, decoding.data);
     decoding.limit.source = decoding.source;
     jpeg_save_markers(cinfo, JPEG_COM, k_saved_length);
@@ -99,6 +99,7 @@ void read_whole_scans(decoding_t& failed) {
     jpeg_destroy_decompress(&failed.cinfo);
     decoding_t decoding(failed.data);
     decoding.limit.last_scan = failed.limit.scan;
+    decoding.limit.is_reported = failed.limit.is_reported;
     decoding.bottom = failed.bottom;
     decoding.row_size = failed.row_size;
     decoding.stored_rows = failed.stored_rows;
@@ -117,13 +118,12 @@ jpeg_info_desc_t const* row_of(jpeg_decompress_struct const& cinfo) {
     return nullptr;
 }
 
-/// Whether a picture of the header's size can come out of the file and be held, with the
-/// coefficients of all its scans where there are several.
-bool is_possible(decoding_t& decoding, image_desc_t const& desc) {
-    jpeg_decompress_struct& cinfo = decoding.cinfo;
+/// Checks the size in the header, with the coefficients of all scans if there are several.
+bool has_plausible_size(decoding_t const& decoding, image_desc_t const& desc) {
+    jpeg_decompress_struct const& cinfo = decoding.cinfo;
     auto const components = static_cast<std::uint64_t>(cinfo.num_components);
     std::uint64_t const coefficient_bits = decoding.has_scans ? components * sizeof(JCOEF) * 8 : 0;
-    return is_possible_picture(cinfo, desc.getPixelBits(), coefficient_bits, decoding.data.size());
+    return is_plausible_size(cinfo, desc.getPixelBits(), coefficient_bits, decoding.data);
 }
 
 void keep_markers(std::list<marker_t>& markers, jpeg_decompress_struct const& cinfo, bool whole) {
@@ -146,14 +146,14 @@ unsigned short rounded_side(unsigned int side, unsigned short unit) {
     return rounded < side ? 0 : rounded;
 }
 
-/// Gives the image a store of `side` pixels in each of `rows` rows.
-bool allocate_rows(image2d_t& image, unsigned int side, unsigned int rows) {
+/// Gives the image a store of `side` rows of `side` pixels.
+bool allocate_square(image2d_t& image, unsigned int side, char const* file) {
     image.window.rowlength = side;
-    std::optional<std::uint64_t> const bytes = checked_product(image.rowsize(), rows);
-    return side != 0 && bytes && image.resize(*bytes, 0);
+    return fits_in_memory(side, side, image.getPixelBits(), file) &&
+           image.resize(image.rowsize() * side, 0);
 }
 
-/// Clears what the square has right of the picture and above it.
+/// Clears the pixels of the square that are right of the picture or above it.
 void clear_outside(image2d_t& image, unsigned int side) {
     auto const row_size = static_cast<std::size_t>(image.rowsize());
     auto const row_bytes = static_cast<std::size_t>(image.rowbyte());
@@ -186,24 +186,27 @@ void paint_border(image2d_t& image, color3ub_t const& color) {
 }
 
 /// Allocates the store for a picture whose sizes and description are set.
-bool allocate_store(image2d_t& image, unsigned short unit, bool border, color3ub_t const& color) {
+bool allocate_store(image2d_t& image, unsigned short unit, bool border, color3ub_t const& color,
+                    char const* file) {
     if (unit == 0 && !border) {
         return image.allocate();
     }
     unsigned int const longer = libutils::max2(image.m_width, image.m_height);
     if (!border) {
         unsigned int const side = rounded_side(longer, unit);
-        if (!allocate_rows(image, side, side)) {
+        bool const is_new = image.empty();
+        if (!allocate_square(image, side, file)) {
             return false;
         }
-        clear_outside(image, side);
+        if (!is_new) {  // new memory is 0 and is not touched before a row is decoded into it
+            clear_outside(image, side);
+        }
         return true;
     }
     image.window.skiprows = 1;
     // Without a unit the rows follow the width, so that a tall picture doesn't fit in.
     unsigned int const side = unit != 0 ? rounded_side(longer, unit) : image.m_width;
-    if (side == 0 || !allocate_rows(image, static_cast<unsigned short>(side + 2),
-                                    static_cast<unsigned short>(side + 2))) {
+    if (side == 0 || !allocate_square(image, static_cast<unsigned short>(side + 2), file)) {
         return false;
     }
     paint_border(image, color);
@@ -232,8 +235,8 @@ bool jpeginfo_t::decompress(image2d_t& image, jpegdata_t const& data, unsigned s
         return false;
     }
     image.desc = row->desc;
-    if (!is_possible(decoding, row->desc) ||
-        !allocate_store(image, square_unit, border, border_color) ||
+    if (!has_plausible_size(decoding, row->desc) ||
+        !allocate_store(image, square_unit, border, border_color, data.name) ||
         image.rowsize() < image.rowbyte()) {
         report(data, ": jpeg decompress fail, stop.");
         return false;

@@ -40,9 +40,10 @@ class jpeginfo_t {
     /// rounded up to a multiple of it, the rest zero. With `border` the store has a margin of one
     /// pixel, painted with `border_color` before the rows go in.
     ///
-    /// True when the picture was decoded, be it in part: then with a line, and the missing rows as
-    /// allocating left them. False for a damaged header or a picture that can't be held, with a
-    /// line, and, silently, for colours that the table doesn't have, as CMYK.
+    /// Returns true if the picture was decoded, with a line if only in part; missing rows are left
+    /// as allocated. Returns false with a line for a damaged header and for a size, of the picture
+    /// or of the square, that exceeds the limit jpeg-ratio or picture-memory (utils/limits.h), and
+    /// without a line for colours that the table does not have, such as CMYK.
     bool decompress(image2d_t& image, jpegdata_t const& data, unsigned short square_unit,
                     bool border, color3ub_t const& border_color);
 

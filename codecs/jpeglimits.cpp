@@ -1,27 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The limits that a JPEG's header and scans are held against.
+// Limits of a decompressor's time and memory.
 #include "codecs/jpeglimits.h"
 
 #include <jerror.h>
 
-#include "codecs/claims.h"
+#include "codecs/sizelimits.h"
+#include "utils/limits.h"
 
 namespace libgr {
 
 namespace {
 
-constexpr int k_most_scans = 100;
-
-/// A picture of one colour takes a bit a block at least, hence some 1500 times its file's bytes;
-/// there is no such bound in arithmetic coding.
-constexpr std::uint64_t k_densest_ratio = 4096;
-constexpr std::uint64_t k_harmless_claim = std::uint64_t{64} << 20;  // bytes
-constexpr std::uint64_t k_harmless_arithmetic_claim = std::uint64_t{1} << 30;
-
-/// A block of a picture of one colour takes some bits in one scan at least, but for arithmetic
-/// coding, and a picture for viewing has some ten scans.
-constexpr std::uint64_t k_blocks_of_a_byte = 64;
-constexpr std::uint64_t k_harmless_blocks = std::uint64_t{16} << 20;
+namespace limits = libutils::limits;
 
 /// Blocks that the present scan reads in a row of iMCUs.
 std::uint64_t blocks_of_row(jpeg_decompress_struct const& cinfo) {
@@ -43,8 +33,20 @@ std::uint64_t blocks_of_picture(jpeg_decompress_struct const& cinfo) {
     return blocks;
 }
 
-/// libjpeg's progress hook: comes round at each row of iMCUs that is read, and at each row of
-/// samples that is given out.
+/// Returns the limit that the scans read so far exceed, or null.
+libutils::limit_t const* exceeded_limit(jpeg_decompress_struct const& cinfo,
+                                        work_limit_t const& limit) {
+    if (static_cast<std::uint64_t>(limit.scan) > limits::jpeg_scans.value) {
+        return &limits::jpeg_scans;
+    }
+    std::uint64_t const max_blocks = limits::jpeg_blocks_unchecked.value +
+                                     limits::jpeg_blocks.value * limit.data->size() +
+                                     2 * blocks_of_picture(cinfo);
+    return limit.blocks > max_blocks ? &limits::jpeg_blocks : nullptr;
+}
+
+/// libjpeg's progress hook, which is called for each row of iMCUs read and each row of samples
+/// returned.
 void limit_work(j_common_ptr any) {
     auto* const cinfo = reinterpret_cast<j_decompress_ptr>(any);
     auto& limit = *reinterpret_cast<work_limit_t*>(cinfo->progress);
@@ -54,11 +56,13 @@ void limit_work(j_common_ptr any) {
     limit.scan = cinfo->input_scan_number;
     limit.row = cinfo->input_iMCU_row;
     limit.blocks += blocks_of_row(*cinfo);
-    std::uint64_t const most =
-        k_harmless_blocks + k_blocks_of_a_byte * limit.held + 2 * blocks_of_picture(*cinfo);
-    bool const is_behind_last =
-        limit.scan == limit.last_scan && limit.row == cinfo->total_iMCU_rows;
-    limit.is_reached = limit.scan > k_most_scans || limit.blocks > most || is_behind_last;
+    libutils::limit_t const* const exceeded = exceeded_limit(*cinfo, limit);
+    if (exceeded != nullptr && !limit.is_reported) {
+        libutils::report_limit(*exceeded, limit.data->name);
+        limit.is_reported = true;
+    }
+    bool const ends_last = limit.scan == limit.last_scan && limit.row == cinfo->total_iMCU_rows;
+    limit.is_reached = exceeded != nullptr || ends_last;
     if (limit.is_reached && limit.source == nullptr) {
         ERREXIT(cinfo, JERR_BAD_PROGRESSION);
     } else if (limit.is_reached) {
@@ -69,20 +73,23 @@ void limit_work(j_common_ptr any) {
 
 }  // namespace
 
-void use_work_limit(j_decompress_ptr cinfo, work_limit_t& limit, std::uint64_t held) {
-    limit.held = held;
+void use_work_limit(j_decompress_ptr cinfo, work_limit_t& limit, jpegdata_t const& data) {
+    limit.data = &data;
     limit.base.progress_monitor = limit_work;
     cinfo->progress = &limit.base;
 }
 
-bool is_possible_picture(jpeg_decompress_struct const& cinfo, std::uint64_t pixel_bits,
-                         std::uint64_t other_bits, std::uint64_t held) {
+bool is_plausible_size(jpeg_decompress_struct const& cinfo, std::uint64_t pixel_bits,
+                       std::uint64_t other_bits, jpegdata_t const& data) {
     std::uint64_t const claimed =
         std::uint64_t{cinfo.image_width} * cinfo.image_height * pixel_bits / 8;
-    std::uint64_t const harmless =
-        cinfo.arith_code != FALSE ? k_harmless_arithmetic_claim : k_harmless_claim;
-    return fits_in_memory(cinfo.image_width, cinfo.image_height, pixel_bits + other_bits) &&
-           (claimed <= harmless || claimed / k_densest_ratio <= held);
+    libutils::limit_t const& unchecked =
+        cinfo.arith_code != FALSE ? limits::jpeg_arithmetic_unchecked : limits::jpeg_unchecked;
+    if (claimed > unchecked.value && claimed / limits::jpeg_ratio.value > data.size()) {
+        return libutils::report_limit(limits::jpeg_ratio, data.name);
+    }
+    return fits_in_memory(cinfo.image_width, cinfo.image_height, pixel_bits + other_bits,
+                          data.name);
 }
 
 }  // namespace libgr

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What keeps a decompressor from working for ever or filling the memory for a small file.
+// Limits of a decompressor's time and memory. Exceeded limits are reported by an error line that
+// names them; see utils/limits.h.
 #pragma once
 
 #include <cstdint>
@@ -11,23 +12,23 @@ namespace libgr {
 /// Counts the blocks that a decompressor reads of a file of several scans.
 struct work_limit_t {
     jpeg_progress_mgr base{};
-    std::uint64_t held = 0;                  ///< bytes of the file
+    jpegdata_t const* data = nullptr;
     jpeg_memory_source_t* source = nullptr;  ///< ends when the limit is reached; null: an error
     bool is_reached = false;
-    int last_scan = 0;  ///< the scan behind which the limit is reached in any case; 0 for none
+    bool is_reported = false;  ///< an error line has been printed
+    int last_scan = 0;         ///< the scan after which decoding ends in any case; 0 for none
     std::uint64_t blocks = 0;  ///< read so far, in all scans
     int scan = 0;              ///< the last row that was counted
     JDIMENSION row = 0;
 };
 
-/// Has the decompressor, which must have been created, go no further when the scans of a file of
-/// `held` bytes come to more than 100, or have read more blocks than scans made for viewing do:
-/// such a file may be made to keep a decoder busy.
-void use_work_limit(j_decompress_ptr cinfo, work_limit_t& limit, std::uint64_t held);
+/// Stops the decompressor, which must have been created, when the scans of `data` exceed the limit
+/// jpeg-scans or jpeg-blocks.
+void use_work_limit(j_decompress_ptr cinfo, work_limit_t& limit, jpegdata_t const& data);
 
-/// Whether a picture of the header's size can come out of a file of `held` bytes and be held in
-/// memory, with `pixel_bits` for each of its pixels and `other_bits` of what is kept beside them.
-bool is_possible_picture(jpeg_decompress_struct const& cinfo, std::uint64_t pixel_bits,
-                         std::uint64_t other_bits, std::uint64_t held);
+/// Returns true if the size in the header is within the limits jpeg-ratio and picture-memory, with
+/// `pixel_bits` for each pixel and `other_bits` for its coefficients.
+bool is_plausible_size(jpeg_decompress_struct const& cinfo, std::uint64_t pixel_bits,
+                       std::uint64_t other_bits, jpegdata_t const& data);
 
 }  // namespace libgr

@@ -37,7 +37,8 @@ boolean src_fill_input_buff(j_decompress_ptr cinfo) {
     if (source.has_run_out() && source.in_header) {
         ERREXIT(cinfo, JERR_INPUT_EOF);
     }
-    if (source.has_run_out() && jpeg_has_multiple_scans(cinfo)) {
+    bool const has_all_rows = cinfo->output_scanline >= cinfo->output_height;
+    if (source.has_run_out() && (has_all_rows || jpeg_has_multiple_scans(cinfo))) {
         end_source(source);
     } else {
         source.base.next_input_byte = source.data->begin();

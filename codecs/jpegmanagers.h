@@ -39,11 +39,14 @@ template <typename state_t>
 
 /// A source manager that delivers the whole of `data`.
 ///
-/// The first fill delivers the file. While the header is read, a file that ends is an error. Later
-/// the file is delivered again from its first byte: the marker that the decoder then meets in
-/// entropy-coded data makes it go on with what it has. Only a file of several scans gets an end of
-/// image in its place, since its coefficients are all read before the first row comes out and the
-/// marker would be an error there.
+/// The first fill delivers the file. A file that ends within its header is an error. While rows are
+/// decoded, later fills deliver the file again from its first byte: the decoder then finds a marker
+/// in entropy-coded data and continues with the data that it has. Two cases deliver an end-of-image
+/// marker instead:
+/// - a file with several scans, because all its coefficients are read before the first row and the
+///   start of the file would be an error there;
+/// - a file whose rows have all been decoded, because a segment that is longer than the rest of the
+///   file would otherwise read the file again and again without end.
 struct jpeg_memory_source_t {
     jpeg_source_mgr base;
     jpegdata_t const* data;

@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "codecs/claims.h"
 #include "codecs/jpeglimits.h"
 #include "codecs/jtransform.h"
+#include "codecs/sizelimits.h"
 #include "utils/diagnostics.h"
 
 namespace libgr {
@@ -56,17 +56,18 @@ std::uint64_t coefficient_bits(int components) {
     return static_cast<std::uint64_t>(components) * sizeof(JCOEF) * 8;
 }
 
-/// Whether the picture that the header promises can be held as coefficients, before and after.
-bool is_possible(reading_t const& reading) {
+/// Checks the size in the header, with the coefficients of the input and the output.
+bool has_plausible_size(reading_t const& reading) {
     int const components = reading.cinfo.num_components;
-    return is_possible_picture(reading.cinfo, static_cast<std::uint64_t>(components) * 8,
-                               2 * coefficient_bits(components), reading.data.size());
+    return is_plausible_size(reading.cinfo, static_cast<std::uint64_t>(components) * 8,
+                             2 * coefficient_bits(components), reading.data);
 }
 
-/// The same of the output, which a crop may have made larger.
-bool is_possible(jpeg_transform_info const& info) {
+/// Checks the size of the output, which a crop may have made larger.
+bool has_plausible_output(reading_t const& reading) {
+    jpeg_transform_info const& info = reading.info;
     return fits_in_memory(info.output_width, info.output_height,
-                          2 * coefficient_bits(info.num_components));
+                          2 * coefficient_bits(info.num_components), reading.data.name);
 }
 
 /// Whether a block's AC coefficients, and the steps between DC coefficients from `low` to `high`,
@@ -147,16 +148,16 @@ void read_and_write(reading_t& reading) {
     j_decompress_ptr const cinfo = &reading.cinfo;
     cinfo->err = use_error_mgr(reading.error, reading.data);
     jpeg_create_decompress(cinfo);
-    use_work_limit(cinfo, reading.limit, reading.data.size());
+    use_work_limit(cinfo, reading.limit, reading.data);
     jpeg_memory_source_t* const source = use_memory_source(cinfo, reading.data);
     jcopy_markers_setup(cinfo, reading.option);
     jpeg_read_header(cinfo, TRUE);
     source->base.fill_input_buffer = refuse_to_fill;
-    if (!is_possible(reading)) {
+    if (!has_plausible_size(reading)) {
         ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
     }
     reading.is_perfect = jtransform_request_workspace(cinfo, &reading.info);
-    if (reading.is_perfect && !is_possible(reading.info)) {
+    if (reading.is_perfect && !has_plausible_output(reading)) {
         ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
     }
     if (!reading.is_perfect || !run_jpeg_step(write, reading.writing)) {

@@ -16,19 +16,17 @@
 #include <memory>
 #include <new>
 
-#include "codecs/claims.h"
+#include "codecs/sizelimits.h"
 #include "codecs/streambytes.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
+#include "utils/limits.h"
 
 namespace libgr {
 
 namespace {
 
 constexpr unsigned int k_signature_bytes = 4;
-
-/// Deflate needs at least one bit for each 129 bytes that it makes.
-constexpr std::uint64_t k_deflate_ratio = 1032;
 
 struct format_row_t {
     int color_type;
@@ -125,12 +123,16 @@ void read_rows(reading_t& reading) {
     png_read_image(reading.png, reading.rows);
 }
 
-/// Whether the claimed picture can come out of a file of this size and be held.
-bool is_possible(reading_t const& reading, std::uint64_t file_size) {
+/// Returns true if a file of `file_size` bytes can contain a picture of the header's size, and the
+/// machine's memory can hold it. Otherwise prints a line.
+bool is_plausible_size(reading_t const& reading, std::uint64_t file_size, char const* path) {
     std::uint64_t const pixel_bits = std::uint64_t{png_get_channels(reading.png, reading.info)} *
                                      static_cast<std::uint64_t>(reading.depth);
-    return fits_in_memory(reading.width, reading.height, pixel_bits) &&
-           std::uint64_t{reading.row_bytes} * reading.height / k_deflate_ratio <= file_size;
+    libutils::limit_t const& ratio = libutils::limits::png_ratio;
+    if (std::uint64_t{reading.row_bytes} * reading.height / ratio.value > file_size) {
+        return libutils::report_limit(ratio, path);
+    }
+    return fits_in_memory(reading.width, reading.height, pixel_bits, path);
 }
 
 void describe(image2d_t& image, reading_t const& reading) {
@@ -285,7 +287,7 @@ int loadpng(char const* path, image2d_t& image, libutils::android_app*) {
     if (reading.info == nullptr) {
         return -3;
     }
-    if (!run_step(read_header, reading) || !is_possible(reading, file_size)) {
+    if (!run_step(read_header, reading) || !is_plausible_size(reading, file_size, path)) {
         return fail();
     }
     image.clear();

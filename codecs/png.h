@@ -27,8 +27,9 @@ extern template bool check_if_png<std::ifstream>(char const* path, std::ifstream
 void png_read(png_struct_def* png, unsigned char* data, unsigned long length);
 
 /// Reads a PNG file in its own pixel layout (palette indices, packed samples and big-endian 16-bit
-/// samples stay as they are), bottom row first, into the image's window. A picture that the file's
-/// bytes can't hold, or the machine's memory, is refused before it is allocated.
+/// samples stay as they are), bottom row first, into the image's window. A size that exceeds the
+/// limit picture-memory or png-ratio (utils/limits.h) is an error, reported before anything is
+/// allocated.
 /// Returns 0; -1 not readable as PNG; -2, -3 libpng couldn't be set up; -4 an error from libpng or
 /// no memory for the pixels, with "FAIL" on std::cerr.
 int loadpng(char const* path, image2d_t& image, libutils::android_app* app);

@@ -6,8 +6,9 @@
 #include <cstdint>
 #include <fstream>
 #include <limits>
+#include <utility>
 
-#include "codecs/claims.h"
+#include "codecs/sizelimits.h"
 #include "codecs/streambytes.h"
 #include "image/pixelconvert.h"
 
@@ -81,6 +82,25 @@ void write_vector(std::ostream& stream, std::vector<unsigned char> const& bytes)
                  static_cast<std::streamsize>(bytes.size()));
 }
 
+/// Converts as `convert` does, with `file` as the path for error lines, or null.
+bool convert_file(image2d_t& image, tgaimage_t const& tga, char const* file) {
+    if ((tga.image_type != 1 && tga.image_type != 2) || (tga.descriptor & k_top_down) != 0) {
+        return false;
+    }
+    auto const* const row = std::find_if(std::begin(k_depths), std::end(k_depths),
+                                         [&](auto const& r) { return r.depth == tga.depth; });
+    if (row == std::end(k_depths) || tga.pixels.size() < pixels_size(tga) ||
+        !fits_in_memory(tga.width, tga.height, tga.depth, file)) {
+        return false;
+    }
+    image.desc = {row->format, IMAGE_TYPE_UINT, row->bits};
+    image.m_width = tga.width;
+    image.m_height = tga.height;
+    image.compressed = false;
+    static_cast<image_bytes_t&>(image) = tga.pixels;
+    return true;
+}
+
 }  // namespace
 
 bool tgaimage_t::load(char const* path, libutils::android_app*) {
@@ -102,7 +122,7 @@ bool tgaimage_t::load(char const* path, libutils::android_app*) {
     }
     std::uint64_t const size = pixels_size(*this);
     std::uint64_t const held = bytes_left(stream);
-    return held >= size && is_bearable_claim(size, held) && read_pixels(pixels, stream, size) &&
+    return held >= size && fits_in_memory(size, path) && read_pixels(pixels, stream, size) &&
            stream.good();
 }
 
@@ -132,21 +152,7 @@ bool tgaimage_t::save(char const* path, libutils::android_app*) {
 }
 
 bool convert(image2d_t& image, tgaimage_t const& tga) {
-    if ((tga.image_type != 1 && tga.image_type != 2) || (tga.descriptor & k_top_down) != 0) {
-        return false;
-    }
-    auto const* const row = std::find_if(std::begin(k_depths), std::end(k_depths),
-                                         [&](auto const& r) { return r.depth == tga.depth; });
-    if (row == std::end(k_depths) || tga.pixels.size() < pixels_size(tga) ||
-        !fits_in_memory(tga.width, tga.height, tga.depth)) {
-        return false;
-    }
-    image.desc = {row->format, IMAGE_TYPE_UINT, row->bits};
-    image.m_width = tga.width;
-    image.m_height = tga.height;
-    image.compressed = false;
-    static_cast<image_bytes_t&>(image) = tga.pixels;
-    return true;
+    return convert_file(image, tga, nullptr);
 }
 
 bool convert(tgaimage_t& tga, image2d_t const& image) {
@@ -174,18 +180,21 @@ bool convert(tgaimage_t& tga, image2d_t const& image) {
     if (!rgb2bgr(swapped, image) && row->bits == IMAGE_BITS_8) {
         return false;
     }
-    tga = tgaimage_t{};
-    tga.image_type = 2;
-    tga.width = static_cast<std::uint16_t>(image.m_width);
-    tga.height = static_cast<std::uint16_t>(image.m_height);
-    tga.depth = row->depth;
-    tga.pixels = swapped;
+    tgaimage_t converted;
+    converted.image_type = 2;
+    converted.width = static_cast<std::uint16_t>(image.m_width);
+    converted.height = static_cast<std::uint16_t>(image.m_height);
+    converted.depth = row->depth;
+    converted.image_id.swap(tga.image_id);
+    converted.colormap.swap(tga.colormap);
+    converted.pixels = swapped;
+    tga = std::move(converted);
     return true;
 }
 
 bool image_tga_t::load(image2d_t& image, char const* path) {
     tgaimage_t tga;
-    return tga.load(path, nullptr) && convert(image, tga);
+    return tga.load(path, nullptr) && convert_file(image, tga, path);
 }
 
 bool image_tga_t::save(image2d_t const& image, char const* path) {

@@ -30,8 +30,9 @@ struct tgaimage_t {
     std::vector<unsigned char> colormap;
     image_bytes_t pixels;
 
-    /// Reads the file. False, without a message, for a file that can't be opened or holds fewer
-    /// bytes than its header claims; nothing is allocated for bytes that aren't there.
+    /// Reads the file. Returns false without a message if the file cannot be opened or has fewer
+    /// bytes than its header claims, and with a line on std::cerr if the pixels exceed the limit
+    /// picture-memory (utils/limits.h). Nothing is allocated for bytes that the file does not have.
     bool load(char const* path, libutils::android_app* app);
 
     /// Completes the header fields and writes header, id, colour map and pixels. False when the
@@ -39,14 +40,16 @@ struct tgaimage_t {
     bool save(char const* path, libutils::android_app* app);
 };
 
-/// Describes the record as a picture and shares its pixels; the colour map is not looked at. False,
-/// without a message, for other types than 1 and 2 (run-length coding among them), for files that
-/// run top to bottom, for depths other than 8, 16, 24 and 32, and for a picture without pixels.
+/// Describes the record as a picture and shares its pixels; the colour map is ignored. Returns
+/// false without a message for other types than 1 and 2 (run-length coding among them), for files
+/// with the top row first, for depths other than 8, 16, 24 and 32, and for a picture without
+/// pixels. Returns false with a line on std::cerr if the pixels exceed the limit picture-memory
+/// (utils/limits.h).
 bool convert(image2d_t& image, tgaimage_t const& tga);
 
 /// Describes the picture as a TGA record with the bytes in BGR order. Takes RGB pictures of 8 bits,
 /// RGBA ones of 8 bits and of 5, 5, 5 and 1, up to 65535 pixels a side; others are false, also
-/// those that are in BGR order already.
+/// those that are in BGR order already. The record keeps the bytes of its id and colour map.
 bool convert(tgaimage_t& tga, image2d_t const& image);
 
 /// The codec on top of tgaimage_t.

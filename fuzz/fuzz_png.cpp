@@ -3,8 +3,6 @@
 #include "codecs/png.h"
 #include "fuzz/codecrun.h"
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size);
-
 int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     run_codec<libgr::image_png_t>(data, size);
     return 0;

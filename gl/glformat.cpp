@@ -52,6 +52,11 @@ bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t d
     return converted;
 }
 
+std::optional<gl_loading_format_t> find_gl_format(image_desc_t desc, bool compress) {
+    gl_loading_format_t terms{};
+    return convert(&terms, desc, compress) ? std::optional(terms) : std::nullopt;
+}
+
 unsigned int internal_format_of(image_desc_t desc, bool compress) {
     gl_loading_format_t terms{};
     return grConvertImageFormatToGlFormatFULL(&terms, desc, compress) ? terms.internalformat

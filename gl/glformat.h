@@ -2,6 +2,8 @@
 // How an image description is spoken of to OpenGL: internal format, pixel format and pixel type.
 #pragma once
 
+#include <optional>
+
 #include "image/image.h"
 
 namespace libgr {
@@ -20,6 +22,9 @@ struct gl_loading_format_t {
 /// can't become a texture is reported on the error stream, leaves `out` in part written and gives
 /// false. No GL call is made, but the extension flags must be set.
 bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t desc, bool compress);
+
+/// The same conversion without a report: nothing for a description that can't become a texture.
+std::optional<gl_loading_format_t> find_gl_format(image_desc_t desc, bool compress);
 
 /// The internal format that the conversion gives, or GL_INVALID_VALUE where it refuses.
 unsigned int internal_format_of(image_desc_t desc, bool compress);

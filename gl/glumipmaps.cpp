@@ -2,12 +2,12 @@
 // Mipmaps by GLU, kept within the bytes that it is given.
 #include "gl/glumipmaps.h"
 
-#include <array>
 #include <cstring>
 
 #include "gl/glucalls.h"
+#include "gl/pixelstore.h"
 #include "gl/unpackreach.h"
-#include "glext/glextloader.h"
+#include "utils/limits.h"
 
 namespace libgr {
 namespace {
@@ -64,41 +64,21 @@ image_bytes_t unpadded(image3d_t const& read, unsigned long long bits) {
     return copy;
 }
 
-/// Pixels without padding, packed and unpacked, until the end of the block. GLU allocates the
-/// levels of a volume so, and then writes and reads them by the state.
-class unpadded_state_t {
-  public:
-    unpadded_state_t() {
-        for (std::size_t i = 0; i < s_names.size(); ++i) {
-            bool const is_alignment =
-                s_names[i] == GL_PACK_ALIGNMENT || s_names[i] == GL_UNPACK_ALIGNMENT;
-            glGetIntegerv(s_names[i], &m_former[i]);
-            glPixelStorei(s_names[i], is_alignment ? 1 : 0);
-        }
-    }
-    unpadded_state_t(unpadded_state_t const&) = delete;
-    unpadded_state_t& operator=(unpadded_state_t const&) = delete;
-    ~unpadded_state_t() {
-        for (std::size_t i = 0; i < s_names.size(); ++i) {
-            glPixelStorei(s_names[i], m_former[i]);
-        }
-    }
+/// Pixels without padding, packed and unpacked. GLU allocates the levels of a volume so, and then
+/// writes and reads them by the state.
+constexpr pixelstore_t s_unpadded[] = {
+    {GL_PACK_ALIGNMENT, 1},   {GL_PACK_ROW_LENGTH, 0},     {GL_PACK_SKIP_PIXELS, 0},
+    {GL_PACK_SKIP_ROWS, 0},   {GL_PACK_IMAGE_HEIGHT, 0},   {GL_PACK_SKIP_IMAGES, 0},
+    {GL_UNPACK_ALIGNMENT, 1}, {GL_UNPACK_ROW_LENGTH, 0},   {GL_UNPACK_SKIP_PIXELS, 0},
+    {GL_UNPACK_SKIP_ROWS, 0}, {GL_UNPACK_IMAGE_HEIGHT, 0}, {GL_UNPACK_SKIP_IMAGES, 0}};
 
-  private:
-    static constexpr std::array<GLenum, 12> s_names = {
-        GL_PACK_ALIGNMENT,     GL_PACK_ROW_LENGTH,  GL_PACK_SKIP_PIXELS,    GL_PACK_SKIP_ROWS,
-        GL_PACK_IMAGE_HEIGHT,  GL_PACK_SKIP_IMAGES, GL_UNPACK_ALIGNMENT,    GL_UNPACK_ROW_LENGTH,
-        GL_UNPACK_SKIP_PIXELS, GL_UNPACK_SKIP_ROWS, GL_UNPACK_IMAGE_HEIGHT, GL_UNPACK_SKIP_IMAGES};
-    std::array<GLint, s_names.size()> m_former{};
-};
-
-/// GLU counts the bytes of its scaled copies in 32 bits: texels of up to 16 bytes, each side up by
-/// a third.
+/// Returns true if GLU can count the bytes of its scaled copies. Otherwise prints a line.
 bool can_be_counted(image3d_t const& read) {
-    constexpr unsigned long most = 1UL << 25;
-    return read.m_width <= most && read.m_height <= most && read.m_depth <= most &&
-           1UL * read.m_width * read.m_height <= most &&
-           1UL * read.m_width * read.m_height * read.m_depth <= most;
+    constexpr std::uint64_t max = libutils::limits::glu_texels.value;
+    bool const is_within = read.m_width <= max && read.m_height <= max && read.m_depth <= max &&
+                           max >= 1UL * read.m_width * read.m_height &&
+                           max >= 1UL * read.m_width * read.m_height * read.m_depth;
+    return is_within || libutils::report_limit(libutils::limits::glu_texels);
 }
 
 bool is_packed(GLenum type) {
@@ -156,7 +136,7 @@ bool build_mipmaps(unsigned int target, gl_loading_format_t const& terms, image3
     if (pixels.empty()) {
         return false;
     }
-    unpadded_state_t const state;
+    grPixelStoreKeeper const state(s_unpadded);
     gluBuild3DMipmaps(target, static_cast<GLint>(terms.internalformat),
                       static_cast<GLsizei>(image.m_width), static_cast<GLsizei>(image.m_height),
                       static_cast<GLsizei>(image.m_depth), terms.format, terms.type,

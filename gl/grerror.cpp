@@ -9,10 +9,25 @@
 
 namespace libgr {
 
+namespace {
+
+unsigned long g_out_of_memory = 0;  // errors GL_OUT_OF_MEMORY that were reported
+
+}  // namespace
+
+grMemoryWatch::grMemoryWatch() : m_before(g_out_of_memory) {}
+
+bool grMemoryWatch::is_exhausted() const {
+    return g_out_of_memory != m_before;
+}
+
 bool grPrintError(const char* label) {
     const GLenum code = glGetError();
     if (code == GL_NO_ERROR) {
         return false;
+    }
+    if (code == GL_OUT_OF_MEMORY) {
+        ++g_out_of_memory;
     }
     if (label != nullptr) {
         std::cerr << label << ": ";

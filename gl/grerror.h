@@ -11,4 +11,18 @@ namespace libgr {
 /// force.
 bool grPrintError(const char* label);
 
+/// Watches for GL_OUT_OF_MEMORY among the errors that `grPrintError` takes. Uploads return no
+/// result, and the error is no longer pending after they have reported it.
+class grMemoryWatch {
+  public:
+    grMemoryWatch();
+
+    /// Returns true if the error was reported since the construction. OpenGL's state is undefined
+    /// then, and what was made meanwhile may be incomplete.
+    [[nodiscard]] bool is_exhausted() const;
+
+  private:
+    unsigned long m_before;
+};
+
 }  // namespace libgr

@@ -11,14 +11,14 @@ namespace libgr {
 
 namespace {
 
-struct pixelstore_t {
-    GLenum pname;
+struct parameter_t {
+    GLenum name;
     unsigned int value;
 };
 
-void set(std::initializer_list<pixelstore_t> parameters) {
-    for (const pixelstore_t& parameter : parameters) {
-        glPixelStorei(parameter.pname, static_cast<GLint>(parameter.value));
+void set(std::initializer_list<parameter_t> parameters) {
+    for (const parameter_t& parameter : parameters) {
+        glPixelStorei(parameter.name, static_cast<GLint>(parameter.value));
     }
 }
 

@@ -2,10 +2,42 @@
 // How images lie in memory, told to OpenGL: glPixelStore from image records, sizes of pixel types.
 #pragma once
 
+#include <cstddef>
+
 #include "glext/glextloader.h"
 #include "image/image.h"
 
 namespace libgr {
+
+/// A parameter of glPixelStorei with a value.
+struct pixelstore_t {
+    GLenum name;
+    GLint value;
+};
+
+/// Gives pixel store parameters the values of a list, and puts the former values back at the end of
+/// the block. Needs a current context at both ends.
+template <std::size_t N>
+class grPixelStoreKeeper {
+  public:
+    explicit grPixelStoreKeeper(pixelstore_t const (&parameters)[N]) {
+        for (std::size_t i = 0; i < N; ++i) {
+            m_former[i] = {parameters[i].name, 0};
+            glGetIntegerv(parameters[i].name, &m_former[i].value);
+            glPixelStorei(parameters[i].name, parameters[i].value);
+        }
+    }
+    grPixelStoreKeeper(grPixelStoreKeeper const&) = delete;
+    grPixelStoreKeeper& operator=(grPixelStoreKeeper const&) = delete;
+    ~grPixelStoreKeeper() {
+        for (pixelstore_t const& parameter : m_former) {
+            glPixelStorei(parameter.name, parameter.value);
+        }
+    }
+
+  private:
+    pixelstore_t m_former[N];
+};
 
 // Each sets the parameters named, in this order, and needs a current context. Nothing restores
 // them.

@@ -2,12 +2,16 @@
 // The images of a 1-D texture and the ways of getting them into it.
 #include "gl/texture1d.h"
 
+#include "gl/pixelstore.h"
 #include "gl/textureupload.h"
 
 namespace libgr {
 namespace {
 
 constexpr GLenum s_target = GL_TEXTURE_1D;
+
+/// What an upload of one row needs and `unpack` doesn't set.
+constexpr pixelstore_t s_one_row[] = {{GL_UNPACK_ROW_LENGTH, 0}, {GL_UNPACK_SKIP_ROWS, 0}};
 
 }  // namespace
 
@@ -24,6 +28,7 @@ void grTexture1D::Load() const {
     if (m_images.empty()) {
         return;
     }
+    grPixelStoreKeeper const state(s_one_row);
     grPalette palette;
     load_palette(palette, m_images[0]);
     if (m_buildmipmap) {

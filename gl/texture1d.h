@@ -9,7 +9,7 @@
 namespace libgr {
 
 /// The images of a GL_TEXTURE_1D, one record a level, with the rules of grTexture2D for records and
-/// sizes.
+/// sizes. The row length and the skipped rows of earlier pictures have no effect.
 class grTexture1D : public grTexturableLevels<image1d_t, texparameter1d_t> {
   public:
     /// Makes `image` the picture of mipmap level `level` and drops the levels above it. `size` 0

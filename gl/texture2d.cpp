@@ -18,6 +18,10 @@ unsigned int given_level_side(unsigned int size, bool border, std::size_t level)
     return (level == shifted ? both : 0) + (level == 0 ? both : 0);
 }
 
+mipmap_route_t route_of(gl_loading_format_t const& terms) {
+    return mipmap_route(terms.internalformat, is_GL_VERSION_3_0_supported != 0);
+}
+
 void upload_given_level(gl_loading_format_t const& terms, image2d_t const& image, std::size_t i,
                         unsigned int size, bool border) {
     auto const level = static_cast<GLint>(i);
@@ -110,6 +114,14 @@ void grTexture2D::Reload() const {
     apply_parameters();
 }
 
+bool grTexture2D::isBuiltByGLU() const {
+    if (!m_buildmipmap || m_images.empty() || m_images[0].compressed) {
+        return false;
+    }
+    auto const terms = find_gl_format(m_images[0].desc, m_internalcompression);
+    return terms && route_of(*terms) == mipmap_route_t::glu;
+}
+
 void grTexture2D::send_base_level(bool reload) const {
     image2d_t const& image = m_images[0];
     auto const terms = resolve(image, m_internalcompression);
@@ -120,7 +132,7 @@ void grTexture2D::send_base_level(bool reload) const {
     auto const send = [&] {
         reload ? resend(*terms, image, 0) : full_upload(s_target, *terms, image, m_size, m_border);
     };
-    switch (mipmap_route(terms->internalformat, is_GL_VERSION_3_0_supported != 0)) {
+    switch (route_of(*terms)) {
         case mipmap_route_t::gl3:
             reload ? resend_checked(*terms, image, m_size, m_border) : send();
             glGenerateMipmap(s_target);

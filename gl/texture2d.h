@@ -36,6 +36,11 @@ class grTexture2D : public grTexturableLevels<image2d_t, texparameter2d_t> {
     /// Needs a current context.
     void Reload() const override;
 
+    /// Returns true if Load has GLU build the levels. GLU scales the image to sides that are powers
+    /// of two, so that it covers the whole texture: the `size` of setImage has no effect then.
+    /// Makes no GL call, but the extension flags must be set.
+    bool isBuiltByGLU() const;
+
   private:
     /// Level 0 and the levels generated from it; on `reload` into the storage that is there.
     void send_base_level(bool reload) const;

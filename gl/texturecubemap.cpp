@@ -62,7 +62,7 @@ void build_face(GLenum target, gl_loading_format_t const& terms, image2d_t const
 
 void grTextureCubeMap::setImage(image2d_t const (&images)[6], unsigned int size,
                                 unsigned long level) {
-    replace_from(s_faces * libutils::min2(level, s_most_records), images, size);
+    replace_from(s_faces * libutils::min2(level, s_max_images), images, size);
 }
 
 void grTextureCubeMap::setImages(std::vector<image2d_t[6]> const& images, unsigned int size,
@@ -72,7 +72,7 @@ void grTextureCubeMap::setImages(std::vector<image2d_t[6]> const& images, unsign
     for (auto const& faces : images) {
         flat.insert(flat.end(), std::begin(faces), std::end(faces));
     }
-    overwrite_from(s_faces * libutils::min2(level, s_most_records), flat, size);
+    overwrite_from(s_faces * libutils::min2(level, s_max_images), flat, size);
 }
 
 void grTextureCubeMap::Load() const {

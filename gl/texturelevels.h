@@ -11,6 +11,7 @@
 #include "glext/glextloader.h"
 #include "image/image.h"
 #include "utils/bits.h"
+#include "utils/limits.h"
 
 namespace libgr {
 
@@ -52,12 +53,12 @@ class grTexturableLevels : public grTexturableImageGL {
     }
 
   protected:
-    /// No texture has as many levels; images for them are left aside.
-    static constexpr unsigned long s_most_records = 6 * 32;
+    static constexpr unsigned long s_max_images = libutils::limits::texture_images.value;
 
     /// Makes the vector exactly `first + images.size()` long and puts the images at its end.
     void replace_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
-        if (first >= s_most_records) {
+        if (first >= s_max_images) {
+            libutils::report_limit(libutils::limits::texture_images);
             return;
         }
         m_images.resize(first + images.size());
@@ -65,7 +66,8 @@ class grTexturableLevels : public grTexturableImageGL {
     }
     /// Makes the vector at least `first + images.size()` long and puts the images at `first`.
     void overwrite_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
-        if (first >= s_most_records) {
+        if (first >= s_max_images) {
+            libutils::report_limit(libutils::limits::texture_images);
             return;
         }
         if (m_images.size() < first + images.size()) {

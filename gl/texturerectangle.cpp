@@ -3,9 +3,19 @@
 #include "gl/texturerectangle.h"
 
 #include "gl/glformat.h"
+#include "gl/pixelstore.h"
 #include "gl/textureupload.h"
 
 namespace libgr {
+namespace {
+
+constexpr pixelstore_t s_initial_state[] = {{GL_UNPACK_SWAP_BYTES, 0},
+                                            {GL_UNPACK_ALIGNMENT, 4},
+                                            {GL_UNPACK_ROW_LENGTH, 0},
+                                            {GL_UNPACK_SKIP_PIXELS, 0},
+                                            {GL_UNPACK_SKIP_ROWS, 0}};
+
+}  // namespace
 
 unsigned int grTextureRectangle::GetInternalFormat() const {
     return m_image.empty() ? GL_INVALID_VALUE
@@ -24,9 +34,10 @@ void grTextureRectangle::send(bool reload) const {
     if (m_image.empty()) {
         return;
     }
+    grPixelStoreKeeper const state(s_initial_state);
     grPalette palette;
     load_palette(palette, m_image);
-    auto const terms = resolve_without_unpack(m_image, m_image.compressed);
+    auto const terms = resolve_in_initial_state(m_image, m_image.compressed);
     if (!terms) {
         return;
     }

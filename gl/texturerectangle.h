@@ -10,8 +10,9 @@ namespace libgr {
 /// The image of a GL_TEXTURE_RECTANGLE, row 0 at the bottom, without mipmaps, border or
 /// compression.
 ///
-/// The unpack state of OpenGL is taken as it stands: the record's own window and store aren't told
-/// to OpenGL, and a record whose bytes end before what OpenGL would read is reported and left out.
+/// The pixels are read by OpenGL's initial unpack state, with rows padded to 4 bytes, whatever the
+/// record's window and store; the former state is put back. A record whose bytes end before what
+/// OpenGL would read is reported and left out.
 class grTextureRectangle : public grTexturableImageGL {
   public:
     void setImage(image2d_t const& image) { m_image = image; }

@@ -77,8 +77,8 @@ std::optional<gl_loading_format_t> resolve(image3d_t const& image, bool compress
     return resolve_image(image, compress);
 }
 
-std::optional<gl_loading_format_t> resolve_without_unpack(image2d_t const& image, bool compress) {
-    return resolve_if_read_within(image, compress, as_read_without_unpack);
+std::optional<gl_loading_format_t> resolve_in_initial_state(image2d_t const& image, bool compress) {
+    return resolve_if_read_within(image, compress, as_read_in_initial_state);
 }
 
 void unpack(image1d_t const& image) {

@@ -58,8 +58,8 @@ mipmap_route_t mipmap_route(GLenum internalformat, bool has_gl3);
 std::optional<gl_loading_format_t> resolve(image1d_t const& image, bool compress);
 std::optional<gl_loading_format_t> resolve(image2d_t const& image, bool compress);
 std::optional<gl_loading_format_t> resolve(image3d_t const& image, bool compress);
-/// The same for an upload that sets no unpack parameter and treats compressed bytes as pixels.
-std::optional<gl_loading_format_t> resolve_without_unpack(image2d_t const& image, bool compress);
+/// The same for an upload in OpenGL's initial unpack state that treats compressed bytes as pixels.
+std::optional<gl_loading_format_t> resolve_in_initial_state(image2d_t const& image, bool compress);
 
 /// Sets the unpack parameters from store and window. Nothing is ever restored, and without a store
 /// the alignment of the image before holds.

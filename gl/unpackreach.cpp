@@ -17,15 +17,10 @@ constexpr auto s_largest = static_cast<unsigned int>(std::numeric_limits<GLint>:
 
 /// OpenGL's alignments, by the logarithm.
 constexpr image_store_t s_stores[] = {{false, 1}, {false, 2}, {false, 4}, {false, 8}};
+constexpr image_store_t const& s_initial_store = s_stores[2];
 
 bool is_alignment(unsigned int bytes) {
     return bytes <= 8 && libutils::Is_2nSize(bytes);
-}
-
-unsigned int unpack_parameter(GLenum name) {
-    GLint value = 0;
-    glGetIntegerv(name, &value);
-    return static_cast<unsigned int>(value);
 }
 
 /// OpenGL keeps its alignment where a store is missing or names none of OpenGL's.
@@ -33,8 +28,10 @@ image_store_t const* effective_store(image_store_t const* store) {
     if (store != nullptr && is_alignment(store->alignment)) {
         return store;
     }
-    unsigned int const kept = unpack_parameter(GL_UNPACK_ALIGNMENT);
-    return is_alignment(kept) ? &s_stores[libutils::Get_TopBitPos(kept) - 1] : &s_stores[2];
+    GLint value = 0;
+    glGetIntegerv(GL_UNPACK_ALIGNMENT, &value);
+    auto const kept = static_cast<unsigned int>(value);
+    return is_alignment(kept) ? &s_stores[libutils::Get_TopBitPos(kept) - 1] : &s_initial_store;
 }
 
 image3d_t make_read(image_bytes_t const& bytes, image_store_t const* store,
@@ -63,11 +60,8 @@ bool fits_parameters(image3d_t const& read) {
 }  // namespace
 
 image3d_t as_read(image1d_t const& image) {
-    // One row is read as a picture's: row length and skipped rows of earlier pictures hold.
-    image3d_t read = make_read(image, image.store,
-                               {unpack_parameter(GL_UNPACK_ROW_LENGTH), 0, image.window.skippixels,
-                                unpack_parameter(GL_UNPACK_SKIP_ROWS), 0},
-                               image.m_width, 1, 1);
+    image3d_t read =
+        make_read(image, image.store, {0, 0, image.window.skippixels, 0, 0}, image.m_width, 1, 1);
     read.compressed = image.compressed;
     return read;
 }
@@ -87,12 +81,8 @@ image3d_t as_read(image3d_t const& image) {
     return read;
 }
 
-image3d_t as_read_without_unpack(image2d_t const& image) {
-    return make_read(
-        image, nullptr,
-        {unpack_parameter(GL_UNPACK_ROW_LENGTH), 0, unpack_parameter(GL_UNPACK_SKIP_PIXELS),
-         unpack_parameter(GL_UNPACK_SKIP_ROWS), 0},
-        image.m_width, image.m_height, 1);
+image3d_t as_read_in_initial_state(image2d_t const& image) {
+    return make_read(image, &s_initial_store, {}, image.m_width, image.m_height, 1);
 }
 
 unsigned long long read_bits(gl_loading_format_t const& terms) {

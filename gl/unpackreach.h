@@ -8,13 +8,13 @@
 namespace libgr {
 
 /// A record as OpenGL reads it: a volume of `m_depth` pictures of `m_height` rows, with the window
-/// and alignment that are in force once the record is unpacked. What unpacking doesn't set is that
-/// of the context, so these need a current one.
+/// and alignment that are in force once the record is unpacked. Without a store the alignment is
+/// that of the context, so these need a current one.
 image3d_t as_read(image1d_t const& image);
 image3d_t as_read(image2d_t const& image);
 image3d_t as_read(image3d_t const& image);
-/// The same where nothing is unpacked: the bytes are pixels, and all else is the context's.
-image3d_t as_read_without_unpack(image2d_t const& image);
+/// The same in OpenGL's initial unpack state, the bytes being pixels.
+image3d_t as_read_in_initial_state(image2d_t const& image);
 
 /// Bits that OpenGL reads for a pixel; 0 for a type that it turns down unread.
 unsigned long long read_bits(gl_loading_format_t const& terms);

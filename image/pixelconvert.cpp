@@ -9,6 +9,7 @@
 #include <cstring>
 #include <iostream>
 
+#include "image/samples.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
 
@@ -138,12 +139,6 @@ std::array<colour_bytes_t, 256> colour_table(palette_t const& palette) {
     return table;
 }
 
-/// Pixel `x` of a row of indices of `bits` bits, the first of a byte in its highest bits.
-unsigned int index_at(unsigned char const* row, unsigned long long bits, unsigned long long x) {
-    unsigned long long const position = x * bits;
-    return (row[position / 8] >> (8 - bits - position % 8)) & ((1U << bits) - 1U);
-}
-
 using libutils::refuse;
 
 /// Whether a colour can be painted onto the image; the wrong kind of image gets its line.
@@ -231,7 +226,8 @@ bool index2rgb(image2d_t& dst, image2d_t const& src) {
         unsigned char const* const row = whole_row(src, y);
         unsigned char* to = pixel_row(dst, y);
         for (unsigned int x = 0; x < src.m_width; ++x, to += 3) {
-            unsigned int const index = index_at(row, pixelbits, 0ULL + src.window.skippixels + x);
+            unsigned int const index =
+                packed_sample(row, pixelbits, 0ULL + src.window.skippixels + x);
             std::memcpy(to, colours[index].data(), 3);
         }
     }

@@ -26,13 +26,6 @@ class number_list_t {
   public:
     explicit number_list_t(char const* text) : m_next(text) {}
 
-    /// Whether the text begins with a number.
-    bool begins() const {
-        char* end = nullptr;
-        std::strtol(m_next, &end, 0);
-        return end != m_next;
-    }
-
     /// Reads the next number, 0 when the text has none there. False behind the text's end.
     bool read(long& number) {
         if (!m_is_first) {
@@ -88,10 +81,6 @@ void set_pair(option_entity_t const& row, char const* text) {
 void set_color(option_entity_t const& row, char const* text) {
     number_list_t numbers(text);
     auto* const color = static_cast<libgr::color3aub_t*>(row.target);
-    if (!numbers.begins()) {
-        *color = {};  // what isn't a number is 0, so that a saved colour is as a whole
-        return;
-    }
     long number = 0;
     for (unsigned char* const field : {&color->r, &color->g, &color->b, &color->a}) {
         if (!numbers.read(number)) {

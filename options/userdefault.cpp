@@ -2,6 +2,9 @@
 // The user default file: all options, one a line, in the form of the command line.
 #include "options/userdefault.h"
 
+#include <strings.h>
+
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <list>
@@ -28,6 +31,22 @@ std::string user_default_path(char const* prog, char const* dir) {
     return path + "." + prog;
 }
 
+/// Returns true if `words` is the colour option with a value that doesn't begin with a number, as
+/// `option_save` writes it.
+bool is_saved_color(std::vector<char const*> const& words) {
+    auto const is_named = [&](option_entity_t const& row) {
+        return row.type == OPTION_TYPE_COLOR && words[0][0] == '-' &&
+               strcasecmp(words[0] + 1, row.name) == 0;
+    };
+    if (words.size() < 2 ||
+        std::none_of(option_entity_table.begin(), option_entity_table.end(), is_named)) {
+        return false;
+    }
+    char* end = nullptr;
+    std::strtol(words[1], &end, 0);
+    return end == words[1];
+}
+
 void apply_line(std::string line) {
     libutils::chop(line);
     std::list<std::string> tokens;
@@ -37,7 +56,11 @@ void apply_line(std::string line) {
     }
     std::vector<char const*> arguments;
     libutils::makecharptrarray(arguments, tokens);
-    arguments.push_back(nullptr);  // no value behind an option alone on its line
+    if (is_saved_color(arguments)) {
+        // A NUL or a blank among the saved bytes cuts the value short. All four must become 0.
+        arguments[1] = "0,0,0,0";
+    }
+    arguments.push_back(nullptr);  // an option alone on its line has no value
     option_each_analyze(arguments.data());
 }
 

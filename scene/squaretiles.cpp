@@ -10,13 +10,29 @@
 #include "options/option.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
+#include "utils/limits.h"
 
 namespace zanolib {
 
 namespace {
 
+namespace limits = libutils::limits;
+
 bool refuse(char const* reason) {
     return libutils::refuse("rectangle_to_squares()", reason);
+}
+
+/// Moves the skipped rows and pixels from the window into the offset of the bytes, so that the tile
+/// stays the same without them. Drivers that swap bytes do so in a copy of the window and may then
+/// skip once more in that copy, past its end.
+void skip_by_offset(libgr::image2d_t& tile) {
+    auto const skipped = static_cast<unsigned long>(libgr::pixel_row(tile, 0) - tile.begin());
+    tile.offset += skipped;
+    if (tile.count != libgr::image_bytes_t::to_end) {
+        tile.count -= std::min(tile.count, skipped);
+    }
+    tile.window.skippixels = 0;
+    tile.window.skiprows = 0;
 }
 
 bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const& window,
@@ -30,14 +46,20 @@ bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const&
     if (!use_window && !libgr::copy(tile, copied)) {
         return refuse(": copy() failed.");
     }
+    if (tile.store != nullptr && tile.store->swapbytes) {
+        skip_by_offset(tile);
+    }
     return true;
 }
 
-/// Whether the tiles' textures, which a strip fills for a small part only, are in keeping with the
-/// picture.
-bool is_bearable(tile_plan_t const& plan, libgr::image2d_t const& in) {
+/// Returns true if the textures of the tiles, of which a strip fills only a small part, are not too
+/// large for the picture.
+bool is_plausible_plan(tile_plan_t const& plan, libgr::image2d_t const& in) {
     std::uint64_t const texels = std::uint64_t{plan.cols()} * plan.lines() * plan.tile * plan.tile;
-    return texels <= harmless_texels || texels / 8 <= std::uint64_t{in.m_width} * in.m_height;
+    std::uint64_t const pixels = std::uint64_t{in.m_width} * in.m_height;
+    return texels <= limits::texels_unchecked.value ||
+           texels / limits::texel_ratio.value <= pixels ||
+           libutils::report_limit(limits::texel_ratio);
 }
 
 }  // namespace
@@ -78,8 +100,8 @@ tile_plan_t plan_tiles(std::uint32_t width, std::uint32_t height, std::uint32_t 
 bool multi_square_image_t::allocate() {
     m_squares.clear();
     std::uint64_t const count = std::uint64_t{m_cols} * m_rows;
-    if (count > max_tiles) {
-        return false;
+    if (count > limits::tiles.value) {
+        return libutils::report_limit(limits::tiles);
     }
     try {
         m_squares.resize(count);
@@ -115,7 +137,7 @@ bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsig
     float const scale = plan.tile != 0 ? 1.0f / static_cast<float>(plan.tile) : 0.0f;
     out.m_size = libgr::direction2(static_cast<float>(in.m_width) * scale,
                                    static_cast<float>(in.m_height) * scale);
-    if (plan.tile == 0 || !is_bearable(plan, in) || !out.allocate()) {
+    if (plan.tile == 0 || !is_plausible_plan(plan, in) || !out.allocate()) {
         out.clear();
         return refuse(": outimg allocate failed.");
     }

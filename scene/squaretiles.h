@@ -12,15 +12,6 @@
 
 namespace zanolib {
 
-/// The greatest number of tiles that a picture is cut into: some seventeen thousand million pixels
-/// in tiles of 256. A header that claims more can't be met by a file, and no records are made for
-/// it.
-inline constexpr std::uint64_t max_tiles = std::uint64_t{1} << 18;
-
-/// The most texels that a picture's textures may have when it fills less than an eighth of them, as
-/// a strip of one row does: 512 MiB of a GL's memory. Such a picture isn't cut.
-inline constexpr std::uint64_t harmless_texels = std::uint64_t{1} << 27;
-
 /// How one axis of a picture is cut.
 struct axis_plan_t {
     std::uint32_t full = 0;     ///< tiles that the picture fills
@@ -65,17 +56,18 @@ struct multi_square_image_t {
     std::uint32_t m_rows = 0;
     libgr::direction2_t m_size{0.0f, 0.0f};  ///< the picture measured in tile sides
 
-    /// Makes `m_cols` times `m_rows` default images in place of what was there. False when there
-    /// are more than `max_tiles` or no memory for them; there are no tiles then.
+    /// Replaces the tiles by `m_cols` times `m_rows` default images. Returns false without any tile
+    /// if there is no memory for them, or, with an error line, if they exceed the limit tiles
+    /// (utils/limits.h).
     bool allocate();
     /// Drops the tiles and sets the columns and rows to 0. `m_size` and the pixel description stay.
     void clear();
 };
 
 /// Cuts `in` into the squares of `plan_tiles`. With `use_window` each tile is a window that shares
-/// the pixels of `in`, without it a copy of its own. A compressed image, a size or a limit of 0, a
-/// strip that would take more than `harmless_texels` and a failed allocation are told on the error
-/// stream and give false.
+/// the pixels of `in`, without it a copy of its own. Returns false after an error line for a
+/// compressed image, a size or a limit of 0, a failed allocation, and a picture that exceeds the
+/// limit tiles or texel-ratio (utils/limits.h).
 bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsigned long maxsize,
                           bool use_window);
 

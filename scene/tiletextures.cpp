@@ -3,11 +3,14 @@
 #include "scene/tiletextures.h"
 
 #include <algorithm>
+#include <bit>
 #include <iostream>
+#include <new>
 
 #include "geometry/textstream.h"
 #include "gl/grerror.h"
 #include "gl/matrixmgr.h"
+#include "image/repeatedges.h"
 #include "options/option.h"
 
 namespace zanolib {
@@ -32,13 +35,28 @@ void draw_quad(tile_quad_t const& quad) {
     glVertex2f(quad.x0, quad.y1);
 }
 
+bool is_square_of(libgr::image2d_t const& tile, unsigned int side) {
+    return tile.m_width == side && tile.m_height == side;
+}
+
 }  // namespace
 
-void multi_texture_object_t::Preload() {
-    m_texobjs.resize(m_textures.size());
-    for (std::size_t i = 0; i < m_textures.size(); ++i) {
-        m_texobjs[i].Preload(&m_textures[i]);
+bool multi_texture_object_t::Preload() {
+    libgr::grMemoryWatch const memory;
+    bool loaded = false;
+    try {
+        m_texobjs.resize(m_textures.size());
+        for (std::size_t i = 0; i < m_textures.size() && !memory.is_exhausted(); ++i) {
+            m_texobjs[i].Preload(&m_textures[i]);
+        }
+        loaded = !memory.is_exhausted();
+    } catch (std::bad_alloc const&) {
+        // A driver that keeps textures in the process's own memory leaves none for their names.
     }
+    if (!loaded) {
+        Unload();
+    }
+    return loaded;
 }
 
 void multi_texture_object_t::Unload() {
@@ -105,12 +123,18 @@ bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const&
     for (libgr::image2d_t const& tile : in.m_squares) {
         dim = std::max({dim, tile.m_width, tile.m_height});
     }
+    unsigned int const side = std::bit_ceil(dim);
     for (std::size_t i = 0; i < in.m_squares.size(); ++i) {
         libgr::grTexture2D& texture = out.m_textures[i];
         texture.setInternalCompression(false);
         texture.setBuildMipmap(true);
         texture.setBorder(false);
         texture.setImage(in.m_squares[i], dim, 0);
+        libgr::image2d_t square;
+        if (texture.isBuiltByGLU() && !is_square_of(in.m_squares[i], side) &&
+            libgr::repeat_edges(square, in.m_squares[i], side, side)) {
+            texture.setImage(square, dim, 0);
+        }
     }
     return true;
 }

@@ -24,8 +24,9 @@ struct multi_texture_object_t {
 
     /// Sets the record that `draw_image` applies to each tile; it has to outlive this object.
     void setTexParm(libgr::texparameter2d_t const* parm) { m_texparm = parm; }
-    /// Creates and fills the GL textures. Needs a current context.
-    void Preload();
+    /// Creates and fills the GL textures. If there is no memory for all of them, stops at the first
+    /// that fails, deletes those before it and returns false. Needs a current context.
+    bool Preload();
     /// Lets go of the GL textures; a later `Preload` makes new ones. Needs a current context.
     void Unload();
     /// Whether the GL holds all textures resident. Those that aren't loaded don't count against it.
@@ -36,7 +37,10 @@ struct multi_texture_object_t {
     void draw_image(libgr::position2_t const& btm_lft, libgr::position2_t const& top_rit) const;
 };
 
-/// Describes a texture for each tile of `in`, all of one size. Makes no GL object. Always true.
+/// Describes a texture for each tile of `in`, all of one size. A tile that GLU would stretch over
+/// its texture, because it fills only a part of it, is copied into a full square with its edges
+/// repeated; all other tiles share their pixels. Makes no GL object, but the extension flags must
+/// be set. Returns true.
 bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const& in);
 
 }  // namespace zanolib

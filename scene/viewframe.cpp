@@ -122,6 +122,7 @@ void ViewFrame::end_flower() {
     glDisable(GL_BLEND);
     glDisable(GL_LIGHTING);
     glDisable(normal_switch());
+    libgr::grMaterial(GL_FRONT, GL_EMISSION, libgr::black);
 }
 
 void ViewFrame::begin_programs() {

@@ -53,8 +53,8 @@ class ViewFrame : public libgr::grObject3D {
     void free_graph();
 
     using grObject3D::Draw;
-    /// Draws the band in one call, and leaves lighting, blending and texturing off. Needs a current
-    /// context.
+    /// Draws the band in one call, and leaves lighting, blending and texturing off and no emission.
+    /// Needs a current context.
     void Draw() const override;
 
   private:

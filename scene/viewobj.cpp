@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <climits>
 #include <iostream>
+#include <iterator>
 
 #include "codecs/bmpimage2.h"
 #include "codecs/jpegobject.h"
@@ -15,6 +16,7 @@
 #include "gl/readpixels.h"
 #include "glext/glextloader.h"
 #include "image/pixelconvert.h"
+#include "image/samples.h"
 #include "options/option.h"
 #include "utils/diagnostics.h"
 #include "utils/path.h"
@@ -27,12 +29,6 @@ namespace {
 constexpr GLint max_tile_side = 256;
 
 using codec_ptr_t = libutils::ptr_t<libgr::image_object_t>;
-
-struct codec_row_t {
-    char const* extension;  // with its dot; told apart without regard to case
-    codec_ptr_t* codec;
-    libgr::image_object_t* (*make)();
-};
 
 template <class T>
 libgr::image_object_t* make_codec() {
@@ -59,19 +55,27 @@ bool has_pixels(libgr::image2d_t const& image) {
            image.m_height <= INT_MAX;
 }
 
-bool resolve_indices(libgr::image2d_t& image) {
-    if (image.desc.format != libgr::IMAGE_FORMAT_INDEX) {
-        return true;
-    }
-    libgr::image2d_t rgb;
-    if (!libgr::index2rgb(rgb, image)) {
+using conversion_t = bool(libgr::image2d_t& dst, libgr::image2d_t const& src);
+
+bool convert_in_place(libgr::image2d_t& image, conversion_t* convert) {
+    libgr::image2d_t converted;
+    if (!convert(converted, image)) {
         return false;
     }
-    image = rgb;
+    image = converted;
     return true;
 }
 
 }  // namespace
+
+/// The codec of a file kind. It lives for one load; one left over from a failed load serves the
+/// next.
+struct ViewObject::codec_row_t {
+    char const* extension;  ///< with its dot; compared without regard to case
+    codec_ptr_t* codec;
+    libgr::image_object_t* (*make)();
+    libgr::image_store_t const* wide_store;  ///< byte order of samples of more than 8 bits, or null
+};
 
 codec_ptr_t ViewObject::m_jpeg1imgobj;
 codec_ptr_t ViewObject::m_bmpimgobj;
@@ -86,23 +90,24 @@ ViewObject::ViewObject()
     : m_texparameter(libgr::texparameter2d(GL_LINEAR_MIPMAP_LINEAR, GL_LINEAR, GL_CLAMP_TO_EDGE,
                                            GL_CLAMP_TO_EDGE, 1.0f)) {}
 
-libgr::image_object_t* ViewObject::find_codec(std::string const& path) {
+ViewObject::codec_row_t const* ViewObject::find_codec(std::string const& path) {
     static constexpr codec_row_t codecs[] = {
-        {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
-        {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>},
-        {".bmp", &m_bmpimgobj, make_codec<libgr::image_bmp2_t>},
-        {".png", &m_pngimgobj, make_codec<libgr::image_png_t>},
-        {".tga", &m_tgaimgobj, make_codec<libgr::image_tga_t>},
+        {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, nullptr},
+        {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, nullptr},
+        {".bmp", &m_bmpimgobj, make_codec<libgr::image_bmp2_t>, nullptr},
+        {".png", &m_pngimgobj, make_codec<libgr::image_png_t>, &libgr::big_endian_store},
+        {".tga", &m_tgaimgobj, make_codec<libgr::image_tga_t>, &libgr::little_endian_store},
     };
-    for (codec_row_t const& row : codecs) {
-        if (libutils::extcasecmp(path, row.extension) == 0) {
-            if (!*row.codec) {
-                *row.codec = row.make();
-            }
-            return *row.codec;
-        }
+    auto const* const row = std::ranges::find_if(codecs, [&](codec_row_t const& candidate) {
+        return libutils::extcasecmp(path, candidate.extension) == 0;
+    });
+    if (row == std::end(codecs)) {
+        return nullptr;
     }
-    return nullptr;
+    if (!*row->codec) {
+        *row->codec = row->make();
+    }
+    return row;
 }
 
 void ViewObject::release_codecs() {
@@ -113,17 +118,22 @@ void ViewObject::release_codecs() {
 
 bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
     m_path = path;
-    libgr::image_object_t* const codec = find_codec(m_path);
-    if (codec == nullptr) {
+    codec_row_t const* const row = find_codec(m_path);
+    if (row == nullptr) {
         return false;
     }
+    libgr::image_object_t& codec = **row->codec;
     m_image.store = nullptr;
-    if (!codec->load(m_image, path) || !has_pixels(m_image)) {
+    if (!codec.load(m_image, path) || !has_pixels(m_image)) {
         return false;
     }
-    m_rightrotatecount = codec->rightrotatecount();
+    m_rightrotatecount = codec.rightrotatecount();
     GLint const limit = tile_limit();
-    if (!resolve_indices(m_image)) {
+    if (m_image.store == nullptr && libgr::has_byte_order(m_image.desc.bits)) {
+        m_image.store = row->wide_store;
+    }
+    if (!convert_in_place(m_image, libgr::widen_samples) ||
+        !convert_in_place(m_image, libgr::index2rgb)) {
         return false;
     }
     libgr::grPrintError("before rectangle_to_squares");
@@ -157,11 +167,9 @@ bool ViewObject::saveImage(char const* path) {
     return codec.save(image, name.c_str()) || fail(": jpeg1 save fail.");
 }
 
-void ViewObject::load_texture() {
-    if (!m_texture_loaded) {
-        m_texobject.Preload();
-        m_texture_loaded = true;
-    }
+bool ViewObject::load_texture() {
+    m_texture_loaded = m_texture_loaded || m_texobject.Preload();
+    return m_texture_loaded;
 }
 
 void ViewObject::free_texture() {

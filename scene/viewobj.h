@@ -31,10 +31,15 @@ class ViewObject : public libgr::grObject3D {
     ViewObject& operator=(ViewObject const&) = delete;
     ~ViewObject() override = default;
 
-    /// Loads and tiles the file at `path` with the codec that the extension names. `datapath` isn't
-    /// used. False, silently, for an extension without a codec, a codec's failure, a picture
-    /// without pixels or with a side beyond 2^31 - 1, and indices that can't be resolved. Asks the
-    /// GL for its largest texture, so it needs a current context, but makes no GL object.
+    /// Loads the file at `path` with the codec that its extension names and cuts the picture into
+    /// tiles. Samples that OpenGL would misread get another form first: indices become RGB, gray of
+    /// less than 8 bits becomes gray of 8 bits, and wider samples get a store with the byte order
+    /// of the file. `datapath` is not used.
+    ///
+    /// Returns false, and prints nothing of its own, if no codec has the extension, the codec
+    /// fails, the picture has no pixels or a side of 2^31 pixels or more, or a conversion fails.
+    /// Asks OpenGL for its largest texture, so it needs a current context, but makes no OpenGL
+    /// object.
     bool setImage(char const* path, char const* datapath);
 
     /// Writes what the window shows now, frame and view included, as a JPEG to the snapshot path of
@@ -42,8 +47,9 @@ class ViewObject : public libgr::grObject3D {
     /// and then an old snapshot is unchanged. Needs a current context.
     bool saveImage(char const* path);
 
-    /// Creates the tile textures unless they are there. Needs a current context.
-    void load_texture();
+    /// Creates the tile textures unless they are there. Returns false, without textures, if there
+    /// is no memory for all of them. Needs a current context.
+    bool load_texture();
     /// Lets go of the tile textures. Needs a current context when they were loaded.
     void free_texture();
     /// Whether the GL holds all tile textures resident.
@@ -55,6 +61,8 @@ class ViewObject : public libgr::grObject3D {
 
     /// Width and height of the stored picture in pixels, before any turn.
     [[nodiscard]] libgr::direction2l_t getImageSize() const;
+    /// Returns the path that was last given to `setImage`.
+    [[nodiscard]] std::string const& path() const { return m_path; }
     /// Quarter turns to the right that the file asks for; 0 until a load succeeds.
     [[nodiscard]] unsigned long rightrotatecount() const { return m_rightrotatecount; }
 
@@ -63,8 +71,11 @@ class ViewObject : public libgr::grObject3D {
     void Draw() const override;
 
   private:
-    /// The codec for the extension of `path`, made when there is none left over; null for no codec.
-    static libgr::image_object_t* find_codec(std::string const& path);
+    struct codec_row_t;
+
+    /// Returns the row for the extension of `path`, with its codec made if there is none left over,
+    /// or null if no codec has that extension.
+    static codec_row_t const* find_codec(std::string const& path);
     static void release_codecs();
 
     std::string m_path;
@@ -77,7 +88,6 @@ class ViewObject : public libgr::grObject3D {
     bool m_texture_loaded = false;
     bool m_magsmooth = true;
 
-    // A codec lives here for one load; one left over from a failed load serves the next.
     static libutils::ptr_t<libgr::image_object_t> m_jpeg1imgobj;
     static libutils::ptr_t<libgr::image_object_t> m_bmpimgobj;
     static libutils::ptr_t<libgr::image_object_t> m_pngimgobj;

@@ -41,18 +41,25 @@ bool ViewScene::obj_t::load(char const* path, char const* datapath) {
     return true;
 }
 
-void ViewScene::obj_t::make_graph(char const* datapath) {
+bool ViewScene::obj_t::make_graph(char const* datapath) {
     if (graph_made) {
-        return;
+        return true;
     }
     libgr::grPrintError("ViewScene::obj_t::make_graph() - before viewobj.load_texture().");
-    viewobj.load_texture();
+    libgr::grMemoryWatch const memory;
+    graph_made = viewobj.load_texture();
     libgr::grPrintError("ViewScene::obj_t::make_graph() - after viewobj.load_texture().");
-    objdspl.Preload(&viewobj);
-    libgr::grPrintError("ViewScene::obj_t::make_graph() - after objdspl.Preload().");
-    viewframe.make_graph(datapath);
-    libgr::grPrintError("ViewScene::obj_t::make_graph() - after viewframe.make_graph().");
-    graph_made = true;
+    // Drivers may crash in the following calls if they have no memory.
+    if (graph_made && !memory.is_exhausted()) {
+        objdspl.Preload(&viewobj);
+        libgr::grPrintError("ViewScene::obj_t::make_graph() - after objdspl.Preload().");
+        viewframe.make_graph(datapath);
+        libgr::grPrintError("ViewScene::obj_t::make_graph() - after viewframe.make_graph().");
+    }
+    if (memory.is_exhausted()) {
+        free_graph();
+    }
+    return graph_made;
 }
 
 void ViewScene::obj_t::free_graph() {
@@ -119,11 +126,20 @@ bool ViewScene::delImage() {
     if (!has_current()) {
         return false;
     }
-    m_current = m_objlist.erase(m_current);
-    if (m_current == m_objlist.end() && m_current != m_objlist.begin()) {
-        --m_current;
-    }
+    remove(m_current);
     return true;
+}
+
+std::list<ViewScene::obj_t>::iterator ViewScene::remove(std::list<obj_t>::iterator place) {
+    bool const is_current = place == m_current;
+    auto const next = m_objlist.erase(place);
+    if (is_current) {
+        m_current = next;
+        if (m_current == m_objlist.end() && m_current != m_objlist.begin()) {
+            --m_current;
+        }
+    }
+    return next;
 }
 
 void ViewScene::setCurrent(unsigned long n) {
@@ -131,15 +147,21 @@ void ViewScene::setCurrent(unsigned long n) {
     m_current = std::next(m_objlist.begin(), static_cast<std::ptrdiff_t>(steps));
 }
 
-void ViewScene::make_graph(char const* datapath) {
+bool ViewScene::make_graph(char const* datapath) {
+    bool all_made = true;
     unsigned long count = 0;
-    for (obj_t& object : m_objlist) {
+    for (auto place = m_objlist.begin(); place != m_objlist.end(); ++count) {
         if (g_option.debug) {
             std::cout << "ViewScene::make_graph() count= " << count << std::endl;
         }
-        object.make_graph(datapath);
-        ++count;
+        if (place->make_graph(datapath)) {
+            ++place;
+        } else {
+            all_made = libutils::refuse(place->viewobj.path(), ": not enough texture memory.");
+            place = remove(place);
+        }
     }
+    return all_made;
 }
 
 void ViewScene::free_graph() {

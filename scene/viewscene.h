@@ -43,9 +43,9 @@ class ViewScene {
         /// Loads the picture, sets the frame up by the options and joins the nodes. False when the
         /// picture doesn't load. Needs a current context.
         bool load(char const* path, char const* datapath);
-        /// Creates textures, display list and the frame's resources unless they are there. Needs a
-        /// current context.
-        void make_graph(char const* datapath);
+        /// Creates textures, display list and the frame's resources unless they are there. Returns
+        /// false, without any of them, if OpenGL runs out of memory. Needs a current context.
+        bool make_graph(char const* datapath);
         /// Releases what `make_graph` made, in reverse order. The view matrix stays.
         void free_graph();
     };
@@ -71,8 +71,10 @@ class ViewScene {
     bool delImage();
     /// Makes the n-th picture current, counted from 0; none when there are no more than n.
     void setCurrent(unsigned long n);
-    /// Creates the GL resources of all pictures. Needs a current context.
-    void make_graph(char const* datapath);
+    /// Creates the GL resources of all pictures. Pictures for which OpenGL has no memory are
+    /// removed, each with a line on the error stream; false is returned if there were any. Needs a
+    /// current context.
+    bool make_graph(char const* datapath);
     /// Releases the GL resources of all pictures. Needs a current context.
     void free_graph();
     /// Whether the GL holds the textures of all pictures resident.
@@ -118,6 +120,9 @@ class ViewScene {
 
   private:
     [[nodiscard]] bool has_current() const { return m_current != m_objlist.end(); }
+    /// Removes a picture and returns the place after it. If it is the current one, the picture
+    /// after it, or else the last, becomes current.
+    std::list<obj_t>::iterator remove(std::list<obj_t>::iterator place);
     /// M := M * `transform` for the current picture, if any.
     void append(libgr::matrix3w_t const& transform);
     /// Turns the current picture by the quarter turns that its file asks for.

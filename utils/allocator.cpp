@@ -13,6 +13,7 @@
 #include <new>
 
 #include "utils/bits.h"
+#include "utils/mappingguard.h"
 
 namespace libutils {
 
@@ -78,12 +79,17 @@ class spare_block_t {
 
 spare_block_t s_spare;
 
-/// mmap, once more without the spare where there is no room beside it.
+/// Maps a guarded file or anonymous pages. When there is no room, gives up the spare and tries
+/// again.
 void* map(void* hint, unsigned long size, int prot, int flags, int fd, unsigned long long offset) {
     void* storage = MAP_FAILED;
     do {
         storage = ::mmap(hint, size, prot, flags, fd, static_cast<off_t>(offset));
     } while (storage == MAP_FAILED && s_spare.drop());
+    if (storage != MAP_FAILED && fd != -1 && !guard_mapping(storage, size, prot, fd, offset)) {
+        ::munmap(storage, size);
+        return MAP_FAILED;
+    }
     return storage;
 }
 
@@ -215,6 +221,9 @@ void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long 
 void alloc_mmap_unix::deallocate(void* p) {
     bool const is_kept = (flags & MAP_ANON) != 0 && !failed(p) && s_spare.keep(p, size);
     if (!is_kept && !failed(p)) {
+        if ((flags & MAP_ANON) == 0) {
+            unguard_mapping(p);
+        }
         ::munmap(p, size);
     }
     if (fd != -1) {

@@ -44,7 +44,8 @@ struct alloc_new {
 };
 
 /// Storage by mmap: a file's own pages, or anonymous pages, which read as 0 and cost nothing until
-/// they are touched. A large anonymous mapping that was given back is kept for the next one to
+/// they are touched. The part of a mapped file that another program truncates reads as 0, see
+/// utils/mappingguard.h. A large anonymous mapping that was given back is kept for the next one to
 /// come, which then has its pages at once; the next small one gives it up. A failed mmap is handed
 /// on as the system's failed-map pointer, not as null; a mapping of 0 bytes always is one.
 struct alloc_mmap_unix {

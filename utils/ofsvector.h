@@ -85,9 +85,10 @@ class refvector2 {
 
     /// Fills the handle with `number` elements of a file from byte `offset` on, or of new storage
     /// where `path` is null. A `number` of 0 with a path means the whole file; an empty file loads
-    /// as an empty array. With `keep`, the old contents go on top of the new block's, as far as
-    /// they fit, which a read-only mapping refuses, and stay as they are on failure; without it
-    /// they are let go first. False on failure.
+    /// as an empty array. With `keep` and a `number`, the old contents overwrite the start of the
+    /// new block, and of the file that it maps; a read-only mapping fails. With `keep`, a failure
+    /// leaves the handle as it was. Without `keep`, the handle is emptied first. Returns false on
+    /// failure.
     virtual bool load(unsigned long number, char const* path, e_prot_t prot,
                       unsigned long long offset, bool keep, android_app* app);
 
@@ -222,7 +223,8 @@ bool refvector2<T, A>::load(unsigned long number, char const* path, e_prot_t pro
     if (block == nullptr) {
         return false;
     }
-    unsigned long const kept = min2(storage_bytes(), block->size);
+    // A whole file is loaded for its own bytes, so the old contents must not go over them.
+    unsigned long const kept = number != 0 ? min2(storage_bytes(), block->size) : 0;
     if (kept != 0) {
         if (!block->allocator.writable()) {
             return false;

@@ -7,6 +7,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdint>
+
+#include "utils/limits.h"
 
 namespace libutils {
 
@@ -37,7 +40,8 @@ small_file_t read_small_file(std::vector<char>& buffer, char const* path) {
     struct stat status {};
     small_file_t outcome = small_file_t::UNREADABLE;
     if (fstat(fd, &status) == 0 && S_ISREG(status.st_mode)) {
-        if (status.st_size > static_cast<off_t>(small_file_limit)) {
+        if (static_cast<std::uint64_t>(status.st_size) > limits::small_file.value) {
+            report_limit(limits::small_file, path);
             outcome = small_file_t::TOO_LONG;
         } else {
             buffer.resize(static_cast<std::size_t>(status.st_size));

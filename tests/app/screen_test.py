@@ -2,6 +2,7 @@
 """The viewer on a real screen: exact pixels, start and end."""
 import os
 import re
+import resource
 import subprocess
 import time
 import unittest
@@ -111,6 +112,30 @@ class Session(ViewerTest):
             viewer.key("d")
             wait_for("the end of it", lambda: not os.path.exists(self.path("a.zvw")))
 
+    def test_does_not_wait_for_a_window_manager_that_is_not_there(self):
+        with Viewer("-frametype", "0", self.folder.name) as viewer:
+            viewer.await_title("/a.bmp (1/4)")
+            start = time.monotonic()
+            xdotool("key", "--delay", 8, *40 * ["R"], "space")
+            viewer.await_title("/b.bmp (2/4)")
+            self.assertLess(time.monotonic() - start, 3, "seconds for 40 times down and up")
+
+    def test_truncated_while_shown(self):
+        names = "l.bmp", "m.bmp"
+        expected = [write_bmp(self.path(name), 400, 1200, 24, pattern(24)) for name in names][0]
+        with Viewer("-frametype", "0", *map(self.path, names)) as viewer:
+            viewer.await_title("/l.bmp (1/2)")
+            viewer.key("0")
+            shown = lambda: part(viewer.look(), 200, 0, 400, 600)
+            wait_for("the middle", lambda: shown() == expected[300 * 1200:900 * 1200])
+            # Rows are stored from the bottom: 450 remain, 150 of them inside the window.
+            os.truncate(self.path("l.bmp"), 54 + 450 * 1200)
+            viewer.key("F5", "0")
+            rest = bytes(450 * 1200) + expected[750 * 1200:900 * 1200]
+            wait_for("the rest", lambda: shown() == rest)
+            viewer.key("space")
+            viewer.await_title("/m.bmp (2/2)")
+
     def test_sleeps_when_nothing_happens(self):
         with Viewer(self.path("a.bmp"), lang="ja_JP.UTF-8") as viewer:
             viewer.await_title("/a.bmp (1/1)")
@@ -123,6 +148,29 @@ class Session(ViewerTest):
             before = spent()
             time.sleep(3)
             self.assertEqual(spent(), before)
+
+
+@unittest.skipIf(b"__asan_init" in open(PROGRAM, "rb").read(), "its memory knows no such limit")
+class LittleMemory(ViewerTest):
+    def test_passes_over_a_picture_without_texture_memory(self):
+        for name, colour in ("a.bmp", (200, 0, 0)), ("c.bmp", (0, 0, 200)):
+            write_bmp(self.path(name), 40, 30, 24, lambda x, y, c=colour: c)
+        with open(self.path("b.bmp"), "wb") as out:
+            out.write(bmp_headers(8000, 8000, 24))
+            out.truncate(54 + 3 * 8000 * 8000)
+        told = f"(.*: Error 1285: out of memory\n([a-z_]+: .*\n)*)+{self.path('b.bmp')}: not enough "
+        with Viewer(*PLAIN, self.folder.name, errors=re.compile(f"({told}texture memory\\.\n){{2}}")) as viewer:
+            viewer.await_box(380, 285, 419, 314)
+            # Room for the file's mapping of 192 MB, but not for textures of 341 MB beside it.
+            with open(f"/proc/{viewer.process.pid}/statm") as pages:
+                size = int(pages.read().split()[0]) * resource.getpagesize() + (300 << 20)
+            resource.prlimit(viewer.process.pid, resource.RLIMIT_AS, (size, size))
+            for key, title, pixel in (("space", "/c.bmp (3/3)", (0, 0, 200)),
+                                      ("BackSpace", "/a.bmp (1/3)", (200, 0, 0))):
+                viewer.key(key)
+                viewer.await_title(title)
+                wait_for("the picture",
+                         lambda p=pixel: part(viewer.look(), 390, 300, 1, 1) == bytes(p))
 
 
 class UnderAWindowManager(ViewerTest):

@@ -8,6 +8,7 @@
 
 #include "options/option.h"
 #include "tests/scene/scenefiles.h"
+#include "tests/support/files/transcript.h"
 #include "tests/support/gl/glrecorder.h"
 #include "tests/support/glfw/fakeglfw.h"
 #include "window/glfwymgr4.h"
@@ -43,7 +44,7 @@ class ViewWindowTest : public testing::Test {
     }
     void TearDown() override {
         auto const* const test = testing::UnitTest::GetInstance()->current_test_info();
-        EXPECT_TRUE(same_as_file(m_text, std::string(SESSIONS) + test->name() + ".txt"));
+        EXPECT_TRUE(matches_file(m_text, std::string(SESSIONS) + test->name() + ".txt"));
     }
 
     /// Ends a step.
@@ -161,6 +162,18 @@ TEST_F(ViewWindowTest, PagesTitlesAndComesBack) {
     press({GLFW_KEY_HOME});
 }
 
+TEST_F(ViewWindowTest, PassesOverPicturesWithoutTextureMemory) {
+    gl_flag_t const modern(is_GL_VERSION_3_0_supported, 1);
+    m_recorder->most_textures = 20;  // as many as one of the others has tiles
+    write_file(m_folder.file("big.bmp"), test_bmp(1201, 1100));
+    drop({"a.bmp", "big.bmp", "c.bmp"});
+    press({GLFW_KEY_SPACE, GLFW_KEY_BACKSPACE});
+    m_recorder->most_textures = 3;
+    press({GLFW_KEY_F5, GLFW_KEY_HOME});
+    m_recorder->most_textures = 20;
+    press({GLFW_KEY_HOME});
+}
+
 TEST_F(ViewWindowTest, StoresViewsAndBringsThemBack) {
     drop({"a.bmp", "b.bmp"});
     press({GLFW_KEY_0, GLFW_KEY_RIGHT, GLFW_KEY_KP_0});
@@ -190,6 +203,9 @@ TEST_F(ViewWindowTest, TheWindowFollowsThePicture) {
     resize(100, 100);
     zanolib::g_option.resize_magnify = false;  // and it shrinks by no means
     drop({"a.bmp"});
+    zanolib::g_option.resize_magnify = true;
+    zanolib::g_option.window_ratio_of_image = 20;
+    drop({"a.bmp"});  // 24000 by 18000 pixels
 }
 
 TEST_F(ViewWindowTest, ComesBackByEveryPolicy) {

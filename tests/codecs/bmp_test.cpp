@@ -5,36 +5,21 @@
 #include "codecs/bmpimage.h"
 #include "codecs/bmpimage2.h"
 #include "codecs/bmpload.h"
-#include "tests/codecs/picturebytes.h"
+#include "tests/codecs/filemakers.h"
 
 namespace {
 
 using namespace libgr;
 
-/// A file with the fields that the writer gives it, unless told otherwise.
-struct bmp_t {
-    unsigned int width, height, depth;
-    std::string pixels;
-    std::string palette = {};
-    unsigned int compression = 0;
-    long offset = -1;  // of the pixels; -1 for behind the palette
-    std::string type = "BM";
-
-    std::string bytes() const {
-        auto const place = offset < 0 ? 54 + palette.size() : static_cast<unsigned long>(offset);
-        return type + le(54 + pixels.size(), 4) + le(0, 4) + le(place, 4) + le(40, 4) +
-               le(width, 4) + le(height, 4) + le(1, 2) + le(depth, 2) + le(compression, 4) +
-               le(pixels.size(), 4) + le(72, 4) + le(72, 4) + le(0, 8) + palette + pixels;
-    }
-};
-
 std::string const k_quads = ramp(64);
 std::string const k_area(1024, 'q');
 std::string const k_far(4096, 'p');
+std::string const k_large(300000, 'l');
 std::string const k_srgb = "BGRs" + std::string(64, 'h') + "rgb0";
 struct {
     bmp_t file;
     char const *mapped, *streamed, *known;  // by image_bmp2_t, image_bmp_t, and BmpLoad as RGB
+    char const* limit = "";                 // that image_bmp2_t reports
 } const k_rows[] = {
     {{4, 2, 24, ramp(24)}, "4x2 BGR 8 0: 24", "4x2 BGR 8 0: 24", "4x2 RGB 8 0: 24"},
     {{1, 1, 24, ramp(4), k_quads}, "1x1 BGR 8 0: 4", "1x1 BGR 8 0: 4", "1x1 RGB 8 0: 3"},
@@ -54,11 +39,20 @@ struct {
     {{4, 1, 8, ramp(4), "", 0, -1, "XY"}, "4x1 GRAYSCALE 8 0: 4", "-", "-"},
     {{4, 1, 8, ramp(4), "", 1}, "-", "-", "-"},
     {{2, 1, 16, ramp(4)}, "-", "-", "-"},
-    // Rows that run top to bottom, no pixels, and claims that few bytes can't bear out.
-    {{4, 0U - 4, 24, ramp(48)}, "-", "-", "-"},
+    // Rows that run top to bottom, no pixels, and sizes beyond the limits.
+    {{40000, 0U - 4, 24, ramp(120000)}, "-", "-", "-", "bmp-ratio "},
     {{0, 4, 24, ramp(48)}, "-", "0x4 BGR 8 0: 0", "0x4 RGB 8 0: 0"},
     {{~0U, ~0U, 65535, ramp(48)}, "-", "-", "-"},
-    {{6, 1U << 22, 8, ramp(48)}, "-", "-", "-"},
+    {{6, 1U << 22, 8, ramp(48)},
+     "-",
+     "6x4194304 GRAYSCALE 8 0: 33554432",
+     "6x4194304 RGB 8 0: 25165824",
+     "bmp-ratio "},
+    {{1, 2, 8, k_large, "", 0, 0},
+     "1x2 INDEX 8 65536: 300054",
+     "1x2 GRAYSCALE 8 0: 8",
+     "1x2 RGB 8 0: 2",
+     "bmp-palette "},
 };
 
 using Bmp = picture_test_t;
@@ -67,7 +61,9 @@ TEST_F(Bmp, ReadersTakeOrRefuseTheSameFiles) {
     for (auto const& row : k_rows) {
         SCOPED_TRACE(row.mapped);
         write_file(file, row.file.bytes());
+        capture_t capture;
         EXPECT_EQ(outcome(image_bmp2_t().load(image, path)), row.mapped);
+        EXPECT_EQ(limits_in(capture.err(), file), row.limit);
         image = {};
         EXPECT_EQ(outcome(image_bmp_t().load(image, path)), row.streamed);
         image.desc.bits = IMAGE_BITS_64;
@@ -98,6 +94,19 @@ TEST_F(Bmp, ReadersShowACutFileAsFarAsItGoes) {
         }
         ASSERT_EQ(image_bmp_t().load(image, path), size >= offset);
         EXPECT_TRUE(size < offset || pixels() == shown);
+        image = {};
+    }
+    // A short file takes no memory for the bytes that it does not have.
+    unsigned long const size = 8192UL * 12288 * 3;
+    write_file(file, bmp_t{8192, 12288, 24, ramp(700000)}.bytes());
+    for (bool const known : {false, true}) {
+        long const before = resident_bytes();
+        ASSERT_TRUE(known ? BmpLoad(image, path, IMAGE_FORMAT_RGB)
+                          : image_bmp_t().load(image, path));
+        EXPECT_LT(resident_bytes() - before, 64 << 20);
+        EXPECT_EQ(image.size(), size);
+        EXPECT_EQ(image[known ? 700001 : 699999], 0x60) << "the last byte of the file";
+        EXPECT_EQ(image[known ? 699999 : 700001] + image[size - 1], 0);
         image = {};
     }
     // Unpadded sizes with padded steps: the second row's swap of colours would leave the block.

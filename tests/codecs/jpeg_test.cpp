@@ -4,7 +4,9 @@
 
 #include "codecs/jpeginfo.h"
 #include "codecs/jpegobject.h"
+#include "codecs/jpegtransform.h"
 #include "codecs/orientation.h"
+#include "codecs/sizelimits.h"
 #include "geometry/constants.h"
 #include "tests/codecs/jpegmaker.h"
 
@@ -38,13 +40,16 @@ std::string encoded(image2d_t const& image, jpeginfo_t info = {}) {
 }
 
 struct JpegTest : picture_test_t {
-    /// Loads these bytes as a file. The result is all lines, behind "true " or "false ".
+    /// Loads these bytes as a file. Returns "true " or "false " and all lines of the error stream.
+    /// A load that does not end is ended by SIGALRM.
     std::string load(std::string const& bytes) {
         write_file(file, bytes);
         codec = {};
         image = {};
         testing::internal::CaptureStderr();
+        alarm(20);
         std::string const loaded = codec.load(image, path) ? "true " : "false ";
+        alarm(0);
         return loaded + testing::internal::GetCapturedStderr();
     }
 
@@ -60,6 +65,18 @@ struct JpegTest : picture_test_t {
             }
         }
         return image.m_height;
+    }
+
+    /// Returns how many rows are equal to those of `bytes` in a plain decoder.
+    unsigned int rows_as_in(std::string const& bytes) const {
+        pixels_t const plain = pixels_of(bytes);
+        unsigned int const row_bytes = plain.width * plain.components;
+        unsigned int rows = 0;
+        for (unsigned int y = 0; y < image.m_height; ++y) {
+            unsigned char const* const row = pixel_row(image, image.m_height - 1 - y);
+            rows += std::equal(row, row + row_bytes, plain.samples.begin() + y * row_bytes);
+        }
+        return rows;
     }
 
     image_jpeg1_t codec;
@@ -142,17 +159,6 @@ TEST_F(JpegTest, ShowsACutFileAsFarAsItGoes) {
 }
 
 TEST_F(JpegTest, ShowsWhatOneOfManyScansOrIntervalsLeaves) {
-    /// Rows that are as a plain decoder has them, from the top.
-    auto const rows_as_in = [&](std::string const& bytes) {
-        pixels_t const plain = pixels_of(bytes);
-        unsigned int rows = 0;
-        for (unsigned int y = 0; y < image.m_height; ++y) {
-            rows += std::equal(pixel_row(image, image.m_height - 1 - y),
-                               pixel_row(image, image.m_height - 1 - y) + plain.width,
-                               plain.samples.begin() + y * plain.width);
-        }
-        return rows;
-    };
     std::string const scans = jpeg_of({70, 50, JCS_GRAYSCALE, 1, 1, true});
     EXPECT_EQ(load(scans), "true ");
     EXPECT_EQ(rows_as_in(scans), 50u);
@@ -174,15 +180,39 @@ TEST_F(JpegTest, ShowsWhatOneOfManyScansOrIntervalsLeaves) {
     EXPECT_EQ(load(std::string(intervals).erase(second + 4, third - second - 4)).find("fail"),
               intervals.npos);
     EXPECT_EQ(rows_as_in(intervals), 56u) << "but for the row of blocks with that interval";
-    EXPECT_TRUE(load(jpeg_without_end()).ends_with(file + ": decompress fail.\n"));
+    std::string const lines = load(jpeg_without_end());
+    EXPECT_TRUE(lines.ends_with(file + ": decompress fail.\n"));
+    EXPECT_EQ(limits_in(lines, file), "jpeg-blocks ");
     EXPECT_NE(pixel_row(image, image.m_height - 1)[0], 0) << "what the first scans tell";
+    EXPECT_EQ(limits_in(load(jpeg_without_end(32, 20)), file), "jpeg-scans ");
+}
+
+TEST_F(JpegTest, EndsWhereASegmentAfterTheRowsIsLongerThanTheFile) {
+    for (layout_t const& layout : {layout_t{300, 200, JCS_GRAYSCALE, 1, 1},
+                                   {300, 200, JCS_GRAYSCALE, 1, 1, false, 3},
+                                   {300, 200, JCS_GRAYSCALE, 1, 1, true},
+                                   {300, 200, JCS_GRAYSCALE, 1, 1, false, 0, true}}) {
+        std::string const whole = jpeg_of(layout), rows = whole.substr(0, whole.size() - 2);
+        for (unsigned long const tail : {0xFFE0FFF0, 0xFFFEFFFF, 0xFFE58000, 0xFFDBFFFF}) {
+            std::string const bytes = rows + be(tail, 4);
+            EXPECT_TRUE(load(bytes).starts_with("true ")) << std::hex << tail;
+            EXPECT_EQ(rows_as_in(whole), 200u) << std::hex << tail;
+            jpegdata_t const data = jpegdata_of(bytes);
+            jpegdata_t turned;
+            alarm(20);
+            EXPECT_TRUE(jpeginfo_t().analyze_markers(data));
+            EXPECT_FALSE(transform(1, turned, data));
+            alarm(0);
+        }
+    }
 }
 
 TEST_F(JpegTest, RefusesWhatCantBeHeldAndSkipsWithinBounds) {
     std::string const jpeg = encoded(picture(3, 40, 60));
     std::size_t const frame = jpeg.find("\xFF\xC0");
-    EXPECT_EQ(load(std::string(jpeg).replace(frame + 5, 4, be(0xFFDCFFDC, 4))),
-              "false " + file + ": jpeg decompress fail, stop.\n");
+    std::string const lines = load(std::string(jpeg).replace(frame + 5, 4, be(0xFFDCFFDC, 4)));
+    EXPECT_EQ(limits_in(lines, file), "jpeg-ratio ");
+    EXPECT_TRUE(lines.starts_with("false ") && lines.ends_with(": jpeg decompress fail, stop.\n"));
     EXPECT_TRUE(image.empty());
     // A segment that says it is longer than the file.
     std::string const skipping = jpeg.substr(0, 2) + be(0xFFDCFFFF, 4) + "short";
@@ -219,6 +249,20 @@ TEST_F(JpegTest, LaysOutSquaresAndBorders) {
         };
         EXPECT_EQ(at(row.x, row.y), row.byte);
         EXPECT_NEAR(at(4, 5), smooth(0, 4, 5), 12);
+    }
+    // A strip whose square exceeds the memory of most machines. It takes none where it fits.
+    std::string strip = encoded(picture(3, 40, 60));
+    jpegdata_t const wide =
+        jpegdata_of(strip.replace(strip.find("\xFF\xC0") + 5, 4, be(0x3DFF4B, 4)));
+    for (bool const border : {false, true}) {
+        image = {};
+        long const before = resident_bytes();
+        testing::internal::CaptureStderr();
+        bool const loaded = jpeginfo_t().decompress(image, wide, 16, border, white3ub);
+        std::string const lines = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(limits_in(lines, "memory"), loaded ? "" : "picture-memory ");
+        EXPECT_EQ(loaded, fits_in_memory(65360, 65360, 24, nullptr));
+        EXPECT_LT(resident_bytes() - before, 1L << 30);
     }
 }
 

@@ -93,12 +93,13 @@ inline pixels_t pixels_of(std::string const& bytes) {
     return pixels;
 }
 
-/// Thirty scans, each of a million blocks that its few bytes don't tell of.
-inline std::string jpeg_without_end() {
+/// A picture of `side` by `side` pixels in six scans, which come `times` times. Without arguments
+/// it has thirty scans of a million blocks each in a few bytes.
+inline std::string jpeg_without_end(unsigned long side = 8000, int times = 5) {
     std::string bytes = jpeg_of({32, 32, JCS_GRAYSCALE, 1, 1, true});
     std::string const scans = bytes.substr(bytes.find("\xFF\xDA"), bytes.npos);
-    bytes.replace(bytes.find("\xFF\xC2") + 5, 4, be(8000, 2) + be(8000, 2));
-    for (int i = 0; i < 4; ++i) {
+    bytes.replace(bytes.find("\xFF\xC2") + 5, 4, be(side, 2) + be(side, 2));
+    for (int i = 1; i < times; ++i) {
         bytes.insert(bytes.size() - 2, scans.substr(0, scans.size() - 2));
     }
     return bytes;

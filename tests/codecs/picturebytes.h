@@ -3,9 +3,11 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <numeric>
 #include <string>
 
@@ -65,6 +67,24 @@ inline std::string ramp(unsigned long size, char first = 1) {
     std::string bytes(size, '\0');
     std::iota(bytes.begin(), bytes.end(), first);
     return bytes;
+}
+
+/// Returns the bytes of memory that the process has in use.
+inline long resident_bytes() {
+    long total = 0, resident = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident;
+    return resident * sysconf(_SC_PAGESIZE);
+}
+
+/// Returns the names of the limits that `lines` report for `file`, each followed by a blank.
+inline std::string limits_in(std::string const& lines, std::string const& file) {
+    std::string const words = file + ": exceeds limit ";
+    std::string names;
+    for (std::size_t at = 0; (at = lines.find(words, at)) != lines.npos;) {
+        at += words.size();
+        names += lines.substr(at, lines.find(' ', at) + 1 - at);
+    }
+    return names;
 }
 
 inline libgr::image2d_t image_of(unsigned int width, unsigned int height,

@@ -11,26 +11,11 @@
 #include "codecs/bmpload.h"
 #include "codecs/jpegobject.h"
 #include "codecs/png.h"
-#include "tests/codecs/picturebytes.h"
+#include "tests/codecs/filemakers.h"
 
 namespace {
 
 using namespace libgr;
-
-struct tga_t {
-    unsigned int type, width, height, depth;
-    std::string pixels;
-    unsigned int descriptor = 0;
-    std::string id = {};
-    unsigned int map_first = 0, map_length = 0, entry_size = 0;
-    std::string map = {};
-
-    std::string bytes() const {
-        return le(id.size(), 1) + le(map_length != 0, 1) + le(type, 1) + le(map_first, 2) +
-               le(map_length, 2) + le(entry_size, 1) + le(0, 4) + le(width, 2) + le(height, 2) +
-               le(depth, 1) + le(descriptor, 1) + id + map + pixels;
-    }
-};
 
 using Tga = picture_test_t;
 
@@ -88,6 +73,19 @@ TEST_F(Tga, SavesRedFirstPicturesAlone) {
         image.m_width = 65538;
         EXPECT_FALSE(image_tga_t().save(image, path));
     }
+}
+
+TEST_F(Tga, ConvertKeepsIdAndColourMap) {
+    write_file(file, tga_t{1, 4, 1, 8, ramp(4), 0, "id", 1, 2, 3, ramp(9)}.bytes());
+    tgaimage_t tga;
+    ASSERT_TRUE(tga.load(path, nullptr));
+    ASSERT_TRUE(convert(tga, image_of(2, 1, IMAGE_FORMAT_RGB, IMAGE_BITS_8, ramp(8))));
+    EXPECT_EQ(std::tuple(tga.image_id.size(), tga.colormap.size()), std::tuple(2u, 9u));
+    ASSERT_TRUE(tga.save(path, nullptr));
+    std::string written =
+        tga_t{2, 2, 1, 24, {"\3\2\1\6\5\4\0\0", 8}, 0, "id", 0, 0, 0, ramp(9)}.bytes();
+    written[1] = 1;  // a colour map of no entries
+    EXPECT_EQ(read_file(file), written);
 }
 
 /// A reader that waited for a writer would never come back.

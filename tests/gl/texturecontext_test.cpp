@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <string>
 
+#include "gl/texture1d.h"
 #include "gl/texture2d.h"
 #include "gl/texture3d.h"
 #include "gl/texturecubemap.h"
+#include "gl/texturerectangle.h"
 #include "tests/support/gl/glcontext.h"
 #include "tests/support/gl/glrecorder.h"
 
@@ -94,6 +96,32 @@ TEST_F(texturecontext, pictures_arrive_by_every_route) {
             }
         }
     }
+}
+
+TEST_F(texturecontext, rows_and_rectangles_do_not_see_the_window_of_the_tile_before) {
+    image2d_t square;
+    square.desc = {IMAGE_FORMAT_RGBA, IMAGE_TYPE_UINT, IMAGE_BITS_8};
+    square.m_width = square.m_height = 4;
+    ASSERT_TRUE(square.allocate());
+    paint(square, 9);
+    image1d_t line;
+    static_cast<image_bytes_t&>(line) = square;
+    line.desc = square.desc;
+    line.m_width = 4;
+    grTexture1D row;
+    row.setImage(line, 0, 0);
+    grTextureRectangle rectangle;
+    rectangle.setImage(square);
+    square.window = {4, 3, 3};
+    square.m_width = square.m_height = 1;
+    grTexture2D tile;
+    tile.setImage(square, 0, 0);
+    std::string const painted(square.begin(), square.end());
+    grTextureObject().Preload(&tile);
+    row.Load();
+    EXPECT_EQ(painted.substr(0, 16), level_t(GL_TEXTURE_1D, 0, GL_RGBA, 4).texels);
+    rectangle.Load();
+    EXPECT_EQ(painted, level_t(GL_TEXTURE_RECTANGLE, 0, GL_RGBA, 4).texels);
 }
 
 TEST_F(texturecontext, cube_maps_arrive_by_every_route) {

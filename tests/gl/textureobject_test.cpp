@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Tests of texture objects, pixel store and read-back, on recorded calls.
+#include "gl/glumipmaps.h"
 #include "gl/pixelstore.h"
 #include "gl/readpixels.h"
 #include "gl/texture.h"
+#include "gl/texture2d.h"
 #include "tests/gl/recordedtest.h"
 
 using namespace libgr;
@@ -48,6 +50,14 @@ TEST_F(TextureObject, CopiesOfATextureShareOneNameUntilTheLast) {
     }
     second.clear();
     note("cleared");
+}
+
+TEST_F(TextureObject, SizesBeyondTheLimitsAreReported) {
+    grTexture2D texture;
+    texture.setImages(std::vector<image2d_t>(1), 0, 192);
+    image2d_t image;
+    image.m_width = image.m_height = 8192;
+    note("built:", build_mipmaps(GL_TEXTURE_2D, {}, image));
 }
 
 TEST_F(TextureObject, ReadBackDescribesWhatTheLevelHolds) {

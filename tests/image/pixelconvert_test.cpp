@@ -7,6 +7,8 @@
 #include <cmath>
 #include <tuple>
 
+#include "image/repeatedges.h"
+#include "image/samples.h"
 #include "tests/image/testimages.h"
 #include "tests/support/files/testfiles.h"
 
@@ -91,6 +93,29 @@ TEST(index2rgb, reads_every_index_size_and_stays_in_the_palette) {
     }
 }
 
+TEST(widen_samples, spreads_gray_over_the_range_and_keeps_indices) {
+    using row = std::tuple<e_image_format_t, e_image_bits_t, unsigned int, row_t, row_t>;
+    for (auto const& [format, bits, skip, bytes, wide] :
+         {row{IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_1, 7, {0x01, 0x40}, {255, 0, 255}},
+          row{IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_2, 0, {0x1B, 0x80}, {0, 85, 170, 255, 170}},
+          row{IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_4, 1, {0x01, 0xFA}, {17, 255, 170}},
+          row{IMAGE_FORMAT_INDEX, IMAGE_BITS_2, 2, {0x1B}, {2, 3}}}) {
+        image2d_t src = picture({format, IMAGE_TYPE_UINT, bits},
+                                static_cast<unsigned int>(skip + wide.size()), {{}, bytes});
+        src.window = {src.m_width, skip, 1};
+        src.m_width -= skip;
+        src.m_height = 1;
+        src.palette.resize(4);
+        image2d_t dst = picture(rgb8, 9, rows_t(9)), shared;
+        ASSERT_TRUE(widen_samples(dst, src) && dst.desc == bytes_desc(format)) << bits;
+        EXPECT_EQ(pixels(dst), rows_t{wide}) << bits;
+        EXPECT_EQ(dst.palette.red.begin(), src.palette.red.begin()) << bits;
+        EXPECT_TRUE(widen_samples(shared, dst) && shared.begin() == dst.begin()) << bits;
+        src.window.skiprows = 2;
+        EXPECT_FALSE(widen_samples(dst, src)) << bits;
+    }
+}
+
 TEST(copy, is_deep_clears_padding_and_drops_the_window) {
     image2d_t const src = windowed(picture(rgb8, 1, {{1, 2, 3}, {4, 5, 6}}));
     image2d_t dst = picture(gray8, 8, rows_t(2));  // with bytes in its padding
@@ -140,6 +165,22 @@ TEST(rotate, turns_clockwise_by_quarters) {
         EXPECT_TRUE(rotate(count, dst, src) && pixels(dst) == turned[count]) << count;
     }
     EXPECT_FALSE(rotate(4, dst, src) || rotate(1, dst, spoilt(src)[4]) || dst.m_width != 3);
+}
+
+TEST(repeat_edges, fills_the_rest_with_the_last_column_and_the_top_row) {
+    constexpr image_store_t swapped{true, 4};
+    image2d_t src = windowed(picture(bytes_desc(IMAGE_FORMAT_RG), 2, {{1, 2, 3, 4}, {5, 6, 7, 8}}));
+    src.store = &swapped;
+    image2d_t dst, bits = src;
+    bits.desc = {IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_4};
+    EXPECT_TRUE(repeat_edges(dst, src, 4, 3) && dst.desc == src.desc && dst.store == &swapped);
+    EXPECT_EQ(
+        pixels(dst),
+        (rows_t{{1, 2, 3, 4, 3, 4, 3, 4}, {5, 6, 7, 8, 7, 8, 7, 8}, {5, 6, 7, 8, 7, 8, 7, 8}}));
+    EXPECT_FALSE(repeat_edges(dst, src, 1, 3) || repeat_edges(dst, src, 4, 1) ||
+                 repeat_edges(dst, bits, 4, 3) || repeat_edges(dst, image2d_t(), 4, 3) ||
+                 repeat_edges(dst, spoilt(src)[3], 4, 3) ||
+                 repeat_edges(dst, spoilt(src)[4], 4, 3) || dst.m_width != 4);
 }
 
 TEST(makewindow, cuts_by_the_whole_skip_and_wraps_beyond) {

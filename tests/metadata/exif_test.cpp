@@ -4,63 +4,17 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <iomanip>
 #include <set>
 #include <sstream>
 #include <vector>
 
+#include "tests/metadata/exifblocks.h"
 #include "tests/metadata/segmentbytes.h"
-#include "tests/support/files/testfiles.h"
 
 namespace {
 
 using namespace libgr;
 using namespace std::string_literals;
-
-/// A TIFF block in one byte order.
-struct block_t {
-    bool intel;
-    std::string bytes = {};
-
-    std::string app1() const { return std::string("Exif\0\0", 6) + bytes; }
-    /// Puts a word, told as its size, a colon and its value, at a place in the block.
-    void put(std::size_t at, std::string const& word) {
-        auto const size = static_cast<unsigned int>(word[0] - '0');
-        unsigned long const value = std::stoul(word.substr(2), nullptr, 0);
-        bytes.resize(std::max(bytes.size(), at + size));
-        for (unsigned int i = 0; i < size; ++i) {
-            bytes[at + (intel ? i : size - 1 - i)] = static_cast<char>(value >> (8 * i));
-        }
-    }
-    /// Adds a part of the file of blocks.
-    void add(std::string const& part) {
-        std::string const parts = read_file(EXIF_BLOCKS);
-        std::istringstream in(parts.substr(parts.find("[" + part + "]") + part.size() + 2));
-        for (std::string token; (in >> std::ws).peek() != '[' && in.good();) {
-            bool const is_text = in.peek() == '"';
-            in >> std::quoted(token);
-            if (is_text) {
-                bytes += token;
-            } else if (token == "#") {
-                std::getline(in, token);
-            } else {
-                put(bytes.size(), token);
-            }
-        }
-    }
-};
-
-block_t good_block(bool intel, std::string maker, std::string const& note) {
-    block_t block{intel, intel ? "II" : "MM"}, noted{intel};
-    block.add("block");
-    noted.add(note);
-    maker.resize(24);
-    block.bytes.replace(86, 24, maker);
-    block.put(178, "4:" + std::to_string(noted.bytes.size()));
-    block.bytes += noted.bytes;
-    return block;
-}
 
 using fields_t = std::set<std::string>;
 
@@ -147,11 +101,7 @@ TEST(exif, takes_good_blocks_and_tells_what_a_word_in_them_changes) {
 }
 
 TEST(exif, refuses_good_blocks_that_are_cut) {
-    for (auto const& [maker, note] : {std::pair{"ACME", "plain"},
-                                      {"Olympus", "olympus"},
-                                      {"OLYMPUS", "bare"},
-                                      {"OM DIGITAL SOLUTIONS", "om"},
-                                      {"Ricoh", "pentax"}}) {
+    for (auto const& [maker, note] : makers_and_notes) {
         for (bool const intel : {true, false}) {
             block_t const block = good_block(intel, maker, note);
             std::string const whole = block.app1();

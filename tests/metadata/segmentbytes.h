@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <sstream>
 #include <string>
 
 #include "metadata/jpegcursor.h"
@@ -16,4 +17,17 @@ inline libgr::jpeg_bytes_t window_of(std::string const& bytes, char margin = '\x
     window.offset = 3;
     window.count = bytes.size();
     return window;
+}
+
+/// Returns the bytes of a list of hexadecimal numbers. "A*3" is three bytes 0x0A; the count is
+/// decimal.
+inline std::string listed_bytes(std::string const& text) {
+    std::istringstream in(text);
+    std::string bytes, word;
+    while (in >> word) {
+        std::size_t const star = word.find('*');
+        bytes.append(star == std::string::npos ? 1 : std::stoul(word.substr(star + 1)),
+                     static_cast<char>(std::stoul(word, nullptr, 16)));
+    }
+    return bytes;
 }

@@ -54,6 +54,7 @@ TEST_F(Message, LinesEndInLfOrCrLf) {
     std::filesystem::create_symlink("/dev/null", "p.xx_YY.msg");
     EXPECT_EQ(load("d/"), ": ") << "too long, and no file";
     EXPECT_EQ(capture.out() + capture.err(),
+              "p.msg: exceeds limit small-file (1048576 bytes).\n"
               "/usr/site/share/zanolib/p.msg: can't load message file.\n");
 }
 

@@ -44,6 +44,16 @@ TEST(SquareTiles, EveryPictureIsCutFromItsBottomLeft) {
         ASSERT_TRUE(zanolib::rectangle_to_squares(windows, image, row.maxsize, true));
         ASSERT_TRUE(zanolib::rectangle_to_squares(copies, image, row.maxsize, false));
         EXPECT_EQ(described(windows), row.tiles);
+        // With bytes to swap, the tiles begin at the same pixels without skipping any.
+        libgr::image_store_t const swapping = {true, 4};
+        image.store = &swapping;
+        zanolib::multi_square_image_t skipped;
+        ASSERT_TRUE(zanolib::rectangle_to_squares(skipped, image, row.maxsize, true));
+        for (std::size_t i = 0; i < skipped.m_squares.size(); ++i) {
+            EXPECT_EQ(skipped.m_squares[i].begin(), libgr::pixel_row(windows.m_squares[i], 0));
+            EXPECT_EQ(libgr::pixel_row(skipped.m_squares[i], 0), skipped.m_squares[i].begin());
+        }
+        image.store = nullptr;
         corner = 99;
         for (auto const& [tiles, seen] : {std::pair{&windows, 99}, std::pair{&copies, 77}}) {
             libgr::image2d_t const& last = tiles->m_squares.back();
@@ -55,8 +65,14 @@ TEST(SquareTiles, EveryPictureIsCutFromItsBottomLeft) {
         image.compressed = false;
         image.m_width = image.m_height = 0x7fffffff;
         EXPECT_FALSE(zanolib::rectangle_to_squares(copies, image, row.maxsize, true));
+        image.m_width = 6 << 20;
+        image.m_height = 1;
+        EXPECT_FALSE(zanolib::rectangle_to_squares(copies, image, row.maxsize, true));
         EXPECT_EQ(streams.err(),
                   "rectangle_to_squares(): compressed format not supported.\n"
+                  "exceeds limit tiles (262144 tiles).\n"
+                  "rectangle_to_squares(): outimg allocate failed.\n"
+                  "exceeds limit texel-ratio (8 texels for each pixel).\n"
                   "rectangle_to_squares(): outimg allocate failed.\n");
         EXPECT_EQ(copies.m_cols + copies.m_rows + copies.m_squares.size(), 0U);
     }

@@ -2,6 +2,7 @@
 // The view as numbers, the list of pictures, and the GL calls of the scene in their order.
 #include "scene/viewscene.h"
 
+#include <algorithm>
 #include <map>
 
 #include "codecs/jpegobject.h"
@@ -130,7 +131,9 @@ TEST_F(SceneTest, TheExtensionAloneChoosesTheCodec) {
         bool const added = add(scene, bytes, name);
         scene.make_graph("");
         keep("glTexSubImage2D");
-        note(name, added ? "is shown" : "is refused");
+        std::string const lines = console.err();
+        note(name, (added ? "is shown" : "is refused") +
+                       lines.substr(std::min(lines.size(), dir.file(name).size())));
     }
 }
 
@@ -143,6 +146,25 @@ TEST_F(SceneTest, TilesFollowTheGlUpTo256AndMeet) {
         note("limit", limit);
         scene.make_graph("");
         keep(", 2.5)");
+    }
+}
+
+TEST_F(SceneTest, OnlyTilesThatGluWouldStretchAreCopied) {
+    libgr::image2d_t picture;
+    picture.desc = {libgr::IMAGE_FORMAT_GRAYSCALE, libgr::IMAGE_TYPE_UINT, libgr::IMAGE_BITS_8};
+    picture.m_width = 300;
+    picture.m_height = 256;
+    ASSERT_TRUE(picture.resize(4 * 300 * 256, 0));  // with room for what GLU reads past the end
+    gl.regions = {{picture.begin(), picture.size(), "picture"}};
+    for (int const version : {3, 2}) {
+        is_GL_VERSION_3_0_supported = version == 3;
+        zanolib::multi_square_image_t tiles;
+        zanolib::multi_texture_object_t textures;
+        ASSERT_TRUE(zanolib::rectangle_to_squares(tiles, picture, 256, true));
+        ASSERT_TRUE(zanolib::squares_to_texobjs(textures, tiles));
+        textures.Preload();
+        keep("GL_UNSIGNED_BYTE, p");  // calls with pixels
+        note("OpenGL", version);
     }
 }
 
@@ -167,6 +189,34 @@ TEST_F(SceneTest, OnePictureIsLoadedDrawnAndFreedInOrder) {
     scene.make_graph("");
     scene.Display();
     note("made and drawn again");
+}
+
+TEST_F(SceneTest, APictureWithoutTextureMemoryLeavesTheScene) {
+    ViewScene scene;
+    std::string const path = write_file(dir.file("a.bmp"), test_bmp(700, 3));  // three tiles
+    auto const count = [this](char const* call) {
+        return std::count_if(gl.lines.begin(), gl.lines.end(),
+                             [call](std::string const& line) { return line.starts_with(call); });
+    };
+    // How many checks for errors go well from the first upload on.
+    for (std::size_t const checks : {1U, 3U, 6U, 7U, 8U, 99U}) {
+        ASSERT_TRUE(scene.addImage(path.c_str(), ""));
+        gl.lines.clear();
+        gl.errors.assign(checks, GL_NO_ERROR);
+        gl.errors.push_back(GL_OUT_OF_MEMORY);
+        bool const made = scene.make_graph("");
+        gl.errors.clear();
+        std::string const told = path + ": not enough texture memory.\n";
+        EXPECT_EQ(console.err().ends_with(told), !made) << checks;
+        scene.Display();
+        auto const uploads = count("glTexSubImage2D"), lists = count("glNewList(");
+        auto const drawn = count("glCallList"), deleted = count("glDeleteLists");
+        gl.lines.clear();
+        note(checks, "checks, uploads", uploads, "textures", gl.textures, "lists", lists - deleted,
+             "drawn", drawn);
+        EXPECT_EQ(scene.delImage(), made) << checks;
+    }
+    gl.lines.clear();
 }
 
 TEST_F(SceneTest, EachStepChecksForErrorsUnderItsLabel) {

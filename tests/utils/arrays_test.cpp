@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Tests of the shared arrays, the owning pointers and the functions on bits and bytes.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <memory>
 #include <tuple>
 
@@ -67,9 +71,52 @@ TEST(mapped_array, loads_what_a_file_holds_and_refuses_the_rest) {
     bytes_t array = filled("abc");
     std::string const ten = dir.file("ten");
     EXPECT_FALSE(array.load(0, dir.file("no").c_str(), readonly, 0, true, nullptr));
-    EXPECT_FALSE(array.load(0, ten.c_str(), readonly, 0, true, nullptr)) << "no room to keep them";
-    EXPECT_TRUE(array.load(0, ten.c_str(), writable, 0, true, nullptr));
+    EXPECT_FALSE(array.load(10, ten.c_str(), readonly, 0, true, nullptr)) << "no room to keep them";
+    EXPECT_TRUE(array.load(10, ten.c_str(), writable, 0, true, nullptr));
     EXPECT_EQ(read_file(ten), "abc3456789");
+    array = filled("new");
+    EXPECT_TRUE(array.load(0, ten.c_str(), writable, 0, true, nullptr));
+    EXPECT_EQ(text(array), "abc3456789");
+    EXPECT_EQ(read_file(ten), "abc3456789") << "a whole file is not written to";
+}
+
+TEST(mapped_array, a_file_that_becomes_shorter_reads_as_0) {
+    temp_dir_t const dir;
+    std::string const path = dir.file("pages");
+    std::string const pages(3 * 4096 + 100, 'a');
+    auto const size = static_cast<long>(pages.size());
+    for (long const kept : {0L, 1L, 4096L, 5000L, size}) {
+        for (e_prot_t const prot : {readonly, writable}) {
+            write_file(path, pages);
+            bytes_t whole, window;
+            ASSERT_TRUE(whole.load(0, path.c_str(), prot, 0, false, nullptr));
+            ASSERT_TRUE(window.load(0, path.c_str(), prot, 4096, false, nullptr));
+            ASSERT_EQ(::truncate(path.c_str(), kept), 0);
+            EXPECT_EQ(window.begin()[pages.size() - 4096 - 1], kept == size ? 'a' : 0);
+            EXPECT_EQ(std::count(window.begin(), window.end(), 'a'), std::max(0L, kept - 4096));
+            EXPECT_EQ(std::count(whole.begin(), whole.end(), 'a'), kept) << prot;
+            if (prot == writable) {
+                *(whole.end() - 1) = 'z';
+                EXPECT_EQ(*(whole.end() - 1), 'z') << "the zeros have the mapping's protection";
+            }
+        }
+    }
+}
+
+TEST(mapped_array, other_bus_errors_keep_their_action) {
+    temp_dir_t const dir;
+    std::string const path = write_file(dir.file("pages"), std::string(4096, 'a'));
+    bytes_t array;
+    ASSERT_TRUE(array.load(0, path.c_str(), readonly, 0, false, nullptr));
+    int const fd = ::open(path.c_str(), O_RDONLY);
+    void* const foreign = ::mmap(nullptr, 4096, PROT_READ, MAP_SHARED, fd, 0);
+    ASSERT_NE(foreign, MAP_FAILED);
+    ASSERT_EQ(::truncate(path.c_str(), 0), 0);
+    EXPECT_EQ(*array.begin(), 0);
+    EXPECT_DEATH(::write(2, foreign, *static_cast<char volatile*>(foreign) == 0), "");
+    EXPECT_DEATH(::raise(SIGBUS), "");
+    ::munmap(foreign, 4096);
+    ::close(fd);
 }
 
 TEST(mapped_array, resize_of_a_window_moves_to_a_private_copy) {

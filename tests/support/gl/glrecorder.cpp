@@ -161,6 +161,16 @@ constexpr auto give_lists = [](GLsizei range) {
 constexpr auto give_names = [](GLsizei count, GLuint* out) {
     std::generate_n(out, count, [] { return g_recorder->next_name++; });
 };
+constexpr auto give_textures = [](GLsizei count, GLuint* out) {
+    g_recorder->textures += count;
+    give_names(count, out);
+};
+constexpr auto take_textures = [](GLsizei count, const GLuint*) { g_recorder->textures -= count; };
+constexpr auto fill_texture = [](auto...) {
+    if (g_recorder->textures > g_recorder->most_textures) {
+        g_recorder->errors.push_front(GL_OUT_OF_MEMORY);
+    }
+};
 constexpr auto keep_mode = [](GLenum mode) {
     g_recorder->integers[GL_MATRIX_MODE] = {static_cast<GLint>(mode)};
 };
@@ -187,14 +197,17 @@ void swap_all() {
               glPushMatrix, glRotatef, glScalef, glShadeModel, glTexCoord2f, glTexCoordPointer,
               glTexEnvf, glTexEnvfv, glTexImage3DEXT, glTexParameterf, glTexParameterfv,
               glTexSubImage1D, glTexSubImage2D, glTexSubImage3DEXT, glTranslatef, glVertex2f,
-              glVertexPointer, glDeleteProgramsARB, glDeleteTextures),
+              glVertexPointer, glDeleteProgramsARB),
         GROUP("m", nullptr, glBegin, glDrawElements),
         GROUP("bb", nullptr, glBlendFunc),
         GROUP("M", nullptr, glLoadMatrixf, glMultMatrixf),
-        GROUP("..e", nullptr, glTexEnvi, glTexGeni, glTexImage1D, glTexImage2D, glTexParameteri),
+        GROUP("..e", nullptr, glTexEnvi, glTexGeni, glTexImage1D, glTexParameteri),
+        GROUP("..e", fill_texture, glTexImage2D),
+        GROUP("", take_textures, glDeleteTextures),
         GROUP(".e", nullptr, libgr::gluBuild1DMipmaps, libgr::gluBuild2DMipmaps,
               libgr::gluBuild3DMipmaps),
-        GROUP("", give_names, glGenProgramsARB, glGenTextures),
+        GROUP("", give_names, glGenProgramsARB),
+        GROUP("", give_textures, glGenTextures),
         GROUP("", give_lists, glGenLists),
         GROUP("", give_error, glGetError),
         GROUP("", give_values_t{}, glGetFloatv, glGetIntegerv, glGetLightfv,
@@ -226,7 +239,8 @@ gl_recorder_t::gl_recorder_t() {
                 {GL_MAX_VIEWPORT_DIMS, {16384, 16384}}};
     const std::vector<GLfloat> identity = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
     floats = {{GL_MODELVIEW_MATRIX, identity}, {GL_PROJECTION_MATRIX, identity}};
-    strings = {{GL_INVALID_ENUM, "invalid enumerant"},
+    strings = {{GL_OUT_OF_MEMORY, "out of memory"},
+               {GL_INVALID_ENUM, "invalid enumerant"},
                {GL_INVALID_VALUE, "invalid value"},
                {GL_INVALID_OPERATION, "invalid operation"}};
     g_recorder = this;
@@ -244,13 +258,4 @@ std::string gl_recorder_t::take() {
         text += line + "\n";
     }
     return text;
-}
-
-bool same_as_file(const std::string& text, const std::string& path) {
-    std::ostringstream expected;
-    expected << std::ifstream(path, std::ios::binary).rdbuf();
-    if (text != expected.str()) {
-        std::ofstream(std::filesystem::path(path).filename().string() + ".new") << text;
-    }
-    return text == expected.str();
 }

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <limits>
 #include <map>
 #include <set>
 #include <string>
@@ -45,14 +46,13 @@ struct gl_recorder_t {
     std::map<GLenum, std::vector<unsigned char>> pixels;  ///< glReadPixels, by the read buffer
     GLenum read_buffer = GL_BACK;
     GLuint next_name = 1;  ///< the next texture, list or program
+    /// glTexImage2D gives GL_OUT_OF_MEMORY while there are more textures than that.
+    int most_textures = std::numeric_limits<int>::max();
+    int textures = 0;
 };
 
 /// The name of an enumerant. Values below 0x100 mean something else in each call and stay numbers.
 std::string gl_enum_name(GLenum value);
-
-/// Whether a file holds this text; where it doesn't, the text is written into the working
-/// directory under the file's name with ".new" behind it.
-bool same_as_file(const std::string& text, const std::string& path);
 
 /// Gives an extension flag a value for its lifetime.
 class gl_flag_t {

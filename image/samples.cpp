@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// Samples of other than 8 bits, in the form that OpenGL reads.
+#include "image/samples.h"
+
+#include <algorithm>
+#include <bit>
+#include <iterator>
+
+namespace libgr {
+
+namespace {
+
+struct widening_row_t {
+    image_desc_t desc;
+    unsigned char scale;  ///< a sample of 8 bits for each unit of the source's sample
+};
+constexpr widening_row_t k_widenings[] = {
+    {{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_1}, 255},
+    {{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_2}, 255 / 3},
+    {{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_4}, 255 / 15},
+    {{IMAGE_FORMAT_INDEX, IMAGE_TYPE_UINT, IMAGE_BITS_2}, 1},
+};
+
+}  // namespace
+
+image_store_t const big_endian_store = {std::endian::native == std::endian::little, 4};
+image_store_t const little_endian_store = {std::endian::native == std::endian::big, 4};
+
+bool has_byte_order(e_image_bits_t bits) {
+    return bits < IMAGE_BITS_MAX &&
+           std::max(s_image_bits_list[bits].component, s_image_bits_list[bits].packed) > 8;
+}
+
+bool widen_samples(image2d_t& dst, image2d_t const& src) {
+    auto const* const row =
+        std::ranges::find_if(k_widenings, [&](auto const& r) { return r.desc == src.desc; });
+    if (row == std::end(k_widenings)) {
+        dst = src;
+        return true;
+    }
+    dst.clear();
+    dst.desc = {src.desc.format, src.desc.type, IMAGE_BITS_8};
+    dst.m_width = src.m_width;
+    dst.m_height = src.m_height;
+    dst.compressed = false;
+    if (!pixels_within(src) || !dst.allocate() || !pixels_within(dst)) {
+        return false;
+    }
+    dst.palette = src.palette;
+    unsigned long long const bits = src.getPixelBits();
+    for (unsigned int y = 0; y < src.m_height; ++y) {
+        unsigned char const* const from = whole_row(src, y);
+        unsigned char* const to = pixel_row(dst, y);
+        for (unsigned int x = 0; x < src.m_width; ++x) {
+            to[x] = static_cast<unsigned char>(
+                packed_sample(from, bits, 0ULL + src.window.skippixels + x) * row->scale);
+        }
+    }
+    return true;
+}
+
+}  // namespace libgr

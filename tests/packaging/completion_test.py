@@ -1,0 +1,97 @@
+#!/usr/bin/env python3
+"""The completions in interactive shells: a text, the Tab key, and what the command then gets."""
+import os
+import pty
+import select
+import time
+import unittest
+
+from installed import SOURCE, PackagingTest, main
+
+FOLDER = SOURCE / "packaging/completions"
+# A function in place of the program shows its arguments; brackets are put together so that the
+# shell's echo of the definition doesn't look like them.
+SHELLS = {
+    "bash": (("bash", "--norc", "--noprofile", "-i"),
+             f". /usr/share/bash-completion/bash_completion; . {FOLDER}/zanoview3.bash; "
+             "zanoview3() { printf '<''%s>' \"$@\"; echo '!''!'; }"),
+    "zsh": (("zsh", "-f", "-i"),
+            f"fpath=({FOLDER} $fpath); autoload -U compinit; compinit -u -D; "
+            "zanoview3() { printf '<''%s>' \"$@\"; echo '!''!'; }"),
+    "fish": (("fish", "--no-config", "-i"),
+             f"source {FOLDER}/zanoview3.fish; "
+             "function zanoview3; printf '<''%s>' $argv; echo '!''!'; end"),
+}
+ROWS = (("-wins", "-winsize"), ("-winsize ", "-winsize 800x600"), ("-framec", "-framecolor"),
+        ("-framecolor 2", "-framecolor 255,255,255,255"), ("-menu- -deb", "-menu- -debug"),
+        ("-frametype 4 ph", "-frametype 4 photo.JPG"), ("My", "My pics"),
+        ("My\\ pics/", "My pics/x y.tga"), ("photo.JPG My\\ pics/", "photo.JPG My pics/x y.tga"),
+        ("photo.JPG -wins", "photo.JPG -wins"))
+
+
+class Completion(PackagingTest):
+    def setUp(self):
+        super().setUp()
+        (self.folder / "My pics").mkdir()
+        for name in "photo.JPG", "photo.txt", "My pics/x y.tga":
+            (self.folder / name).touch()
+
+    def read(self, end):
+        deadline = time.monotonic() + 20
+        text = b""
+        while end not in text:
+            self.assertTrue(select.select([self.terminal], [], [], deadline - time.monotonic())[0],
+                            f"{self.shell} gave {text}")
+            text += os.read(self.terminal, 4096)
+        return text
+
+    def settle(self, wait=20):
+        """Waits, at most `wait` seconds, until the shell prints, and until it prints nothing more."""
+        while select.select([self.terminal], [], [], wait)[0]:
+            os.read(self.terminal, 4096)
+            wait = 0.4
+
+    def check(self, shell):
+        self.need(shell)
+        self.shell = shell
+        words, setup = SHELLS[shell]
+        child, self.terminal = pty.fork()
+        if child == 0:
+            os.chdir(self.folder)
+            os.environ.update(HOME=str(self.folder), TERM="dumb", LC_ALL="C.UTF-8")
+            os.execvp(words[0], words)
+        self.addCleanup(os.waitpid, child, 0)
+        self.addCleanup(os.close, self.terminal)
+        self.settle()
+        os.write(self.terminal, (setup + "\r").encode())
+        self.settle()
+        for typed, expected in ROWS:
+            with self.subTest(shell=shell, typed=typed):
+                os.write(self.terminal, f"zanoview3 {typed}\t".encode())
+                self.settle()
+                os.write(self.terminal, b"\r")
+                shown = self.read(b"!!").decode().replace("\r", "").replace("\n", "")
+                words = shown[shown.index("<") + 1:shown.rindex(">")].split("><")
+                self.assertEqual([word.rstrip("/") for word in words if word], self.split(expected))
+                self.settle(wait=0.4)
+
+    @staticmethod
+    def split(expected):
+        """The words of a row; "My pics" is one of them."""
+        return [word.replace("\0", " ") for word in
+                expected.replace("My pics", "My\0pics").replace("x y", "x\0y").split()]
+
+    def test_bash(self):
+        if not os.path.exists("/usr/share/bash-completion/bash_completion"):
+            self.skipTest("bash-completion is not installed")
+        self.check("bash")
+
+    def test_zsh(self):
+        self.check("zsh")
+
+    def test_fish(self):
+        self.check("fish")
+
+
+if __name__ == "__main__":
+    main()

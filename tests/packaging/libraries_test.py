@@ -1,0 +1,113 @@
+#!/usr/bin/env python3
+"""The installed libraries, as a program outside the source tree uses them."""
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import unittest
+
+from installed import BUILD, SOURCE, PackagingTest, main, run
+
+LIBRARIES = "utils geometry image metadata codecs glext gl options window scene".split()
+PROJECT = """cmake_minimum_required(VERSION 3.25)
+project(outside CXX)
+find_package(glfw3 REQUIRED)
+find_package(zanoview3 3.0 REQUIRED COMPONENTS {components})
+{targets}"""
+TARGET = "add_executable({name} {source})\ntarget_link_libraries({name} PRIVATE {links})\n"
+
+
+def snippets():
+    """The programs of docs/libraries.md by their headings."""
+    text = (SOURCE / "docs/libraries.md").read_text()
+    return {heading.split()[0].lower(): code
+            for heading, code in re.findall(r"^## (.*?)\n.*?^```cpp\n(.*?)^```", text, re.M | re.S)}
+
+
+class Libraries(PackagingTest):
+    def setUp(self):
+        super().setUp()
+        self.prefix = self.folder / "prefix"
+        run("cmake", "--install", BUILD, "--prefix", self.prefix, "--component", "dev")
+        self.headers = {library: sorted(self.prefix.glob(f"include/zanoview3/{library}/*.h"))
+                        for library in LIBRARIES}
+
+    def configure(self, targets, components=LIBRARIES, **environment):
+        """Configures a project of these (name, source, links) in the test's folder."""
+        lists = "".join(TARGET.format(name=name, source=source, links=links)
+                        for name, source, links in targets)
+        (self.folder / "CMakeLists.txt").write_text(
+            PROJECT.format(components=" ".join(components), targets=lists))
+        return subprocess.run(
+            ("cmake", "-G", "Ninja", "-S", self.folder, "-B", self.folder / "out",
+             f"-DCMAKE_PREFIX_PATH={self.prefix}", "-DCMAKE_BUILD_TYPE=Debug",
+             "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Werror"),
+            env={**os.environ, **environment}, capture_output=True, text=True)
+
+    def test_programs_outside_the_tree(self):
+        """jpegtool, the programs of the document, and all headers."""
+        targets = [("jpegtool", SOURCE / "examples/jpegtool.cpp", "zanoview3::codecs")]
+        for name, code in snippets().items():
+            links = " ".join(f"zanoview3::{library}" for library in LIBRARIES
+                             if f'#include "{library}/' in code) + " glfw" * ("GLFW/" in code)
+            (self.folder / f"{name}.cpp").write_text(code)
+            targets.append((name, f"{name}.cpp", links))
+        for library, headers in self.headers.items():
+            self.assertTrue(headers, library)
+            source = self.folder / f"{library}_headers.cpp"
+            source.write_text("".join(f'#include "{library}/{header.name}"\n' for header in headers) +
+                              "int main() {}\n")
+            targets.append((source.stem, source.name, f"zanoview3::{library}"))
+        configured = self.configure(targets)
+        self.assertEqual(configured.returncode, 0, configured.stderr)
+        run("cmake", "--build", self.folder / "out")
+
+        tool_test = SOURCE / "tests/examples/jpegtool_test.py"
+        run(sys.executable, tool_test, env={**os.environ, "JPEGTOOL": self.folder / "out/jpegtool"})
+        self.run_snippets(self.folder / "out")
+
+    def run_snippets(self, folder):
+        picture, turned = self.folder / "a.jpg", self.folder / "turned.jpg"
+        run("convert", "-size", "64x32", "gradient:red-blue", "jpg:" + str(picture))
+        plain = picture.read_bytes()
+        tiff = bytes.fromhex("4d4d002a00000008 0002 010f0002000000050000 0026"
+                             "011200030000000100060000 00000000 41434d4500")
+        block = b"Exif\0\0" + tiff
+        picture.write_bytes(plain[:2] + b"\xff\xe1" + (len(block) + 2).to_bytes(2, "big") + block +
+                            plain[2:])
+        self.assertEqual(run(folder / "load", picture),
+                         "64 x 32 pixels of IMAGE_FORMAT_RGB, 1 quarter turns from upright\n")
+        self.assertEqual(run(folder / "read", picture), "taken with ACME\n")
+        run(folder / "rotate", picture, turned)
+        self.assertEqual(run("identify", "-format", "%wx%h", turned), "32x64")
+        self.assertEqual(run(folder / "upload", picture), "a texture of width 64\n")
+
+    def test_components_need_no_more_than_they_use(self):
+        """Without the pkg-config files of GLFW and GLU."""
+        some = self.folder / "pc"
+        some.mkdir()
+        found = pathlib.Path(run("pkg-config", "--variable=pcfiledir", "libpng").strip())
+        for name in "libpng.pc", "zlib.pc":
+            (some / name).write_text((found / name).read_text())
+        for components, error in (("codecs",), None), (("codecs", "window"), "window needs glfw3"), \
+                (("gl",), "gl needs glu"), (("paint",), "There is no component paint"):
+            ended = self.configure([], components, PKG_CONFIG_LIBDIR=str(some))
+            self.assertEqual(ended.returncode != 0, bool(error), ended.stderr)
+            self.assertIn(error or "", " ".join(ended.stderr.split()))
+            run("rm", "-r", self.folder / "out")
+
+    def test_pkg_config(self):
+        (self.folder / "load.cpp").write_text(snippets()["load"])
+        places = os.environ | {
+            "PKG_CONFIG_PATH": str(next(self.prefix.rglob("zanoview3.pc")).parent)}
+        for package in "zanoview3-codecs", "zanoview3":
+            flags = run("pkg-config", "--cflags", "--libs", package, env=places).split()
+            run("g++", "-std=c++20", self.folder / "load.cpp", *flags, "-o", self.folder / "load")
+            self.assertEqual(package == "zanoview3", "-lglfw" in flags)
+        self.assertEqual(run("pkg-config", "--modversion", "zanoview3", env=places).strip(),
+                         os.environ["VERSION"])
+
+
+if __name__ == "__main__":
+    main()

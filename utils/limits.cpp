@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// The error line of an exceeded limit.
+#include "utils/limits.h"
+
+#include "utils/diagnostics.h"
+
+namespace libutils {
+
+bool report_limit(limit_t const& limit, char const* file) {
+    return refuse(file != nullptr ? file : "", file != nullptr ? ": " : "", "exceeds limit ",
+                  limit.name, " (", limit.value, " ", limit.unit, ").");
+}
+
+}  // namespace libutils
