@@ -189,9 +189,7 @@ int open(char const* path, int flags, ...) {
     return fails(open_kind, __builtin_return_address(0)) ? -1 : NEXT(open)(path, flags, mode);
 }
 
-FILE* fopen(char const* path, char const* mode) {
-    return fails(open_kind, __builtin_return_address(0)) ? nullptr : NEXT(fopen)(path, mode);
-}
+// The C++ library opens the files of streams with it.
 FILE* fopen64(char const* path, char const* mode) {
     return fails(open_kind, __builtin_return_address(0)) ? nullptr : NEXT(fopen64)(path, mode);
 }
