@@ -2,7 +2,7 @@
 // Writes the first inputs of every fuzz target: makeseeds SOURCE_DIRECTORY SEED_DIRECTORY
 //
 // The files of target T go into SEED_DIRECTORY/T. They come from the generators and tables of the
-// tests, from samples/ and from data/.
+// tests and from data/.
 #include <cstdio>
 #include <utility>
 #include <vector>
@@ -33,21 +33,6 @@ std::vector<std::string> lines_of(fs::path const& path, char end = '\n') {
         lines.push_back(line);
     }
     return lines;
-}
-
-void add_samples() {
-    constexpr std::uintmax_t k_largest = 64 << 10;  // larger inputs run too slowly
-    for (auto const& entry : fs::directory_iterator(source / "samples")) {
-        std::string const extension = entry.path().extension().string();
-        if (extension.empty() || entry.file_size() > k_largest) {
-            continue;
-        }
-        std::string const bytes = read_file(entry.path());
-        add(extension == ".jpg" ? "jpeg" : extension.substr(1), bytes);
-        if (extension == ".bmp") {
-            add("bmpstream", bytes);
-        }
-    }
 }
 
 void add_bmps_and_tgas() {
@@ -135,10 +120,13 @@ void add_marker_segments() {
 }
 
 void add_texts() {
-    for (std::string const& form : lines_of(source / "tests/geometry/forms.txt", ';')) {
-        add("text", form);
+    std::string forms;
+    for (std::string const& line : lines_of(source / "tests/geometry/forms.txt", ';')) {
+        std::string const form = line.starts_with('\n') ? line.substr(1) : line;
+        add("text", form.starts_with("mute ") ? form.substr(5) : form);
+        forms += form;
     }
-    add("text", read_file(source / "tests/geometry/forms.txt"));
+    add("text", forms);
     std::string const view =
         "dir2l(800, 600)\nmtx3w(\t1.5, 0, 0, 0,\n\t0, 1.5, 0, 0,\n"
         "\t0, 0, 1, 0,\n\t-3.25, 4, 0, 1)\n";
@@ -199,7 +187,6 @@ int main(int argc, char** argv) {
     for (char const* target : {FUZZ_TARGETS}) {
         fs::create_directories(seeds / target);
     }
-    add_samples();
     add_bmps_and_tgas();
     add_pngs();
     add_jpegs();

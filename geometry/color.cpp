@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// RGB bytes to luma and chroma bytes, and back.
+// Conversions between RGB bytes and luma and chroma bytes.
 #include "geometry/color.h"
 
 #include "geometry/constants.h"
@@ -8,7 +8,7 @@ namespace libgr {
 
 namespace {
 
-/// -1 to 1 as a signed byte at a scale of 127, rounded away from zero, with its top bit flipped.
+/// Converts a chroma value of -0.5 to 0.5 to a byte. Halves are rounded away from zero.
 unsigned char chroma_byte(float v) {
     int const rounded = static_cast<int>(v < 0.0f ? v * 127.0f - 0.5f : v * 127.0f + 0.5f);
     return static_cast<unsigned char>(rounded ^ 0x80);
@@ -19,8 +19,9 @@ float chroma_value(unsigned char byte) {
 }
 
 unsigned char channel_byte(float v) {
-    if (v < 0.0f)
+    if (v < 0.0f) {
         return 0;
+    }
     return static_cast<unsigned char>(libutils::min2(v, 1.0f) * 255.0f + 0.5f);
 }
 

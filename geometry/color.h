@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Colours in floats and bytes, and the conversions between them.
+// Colours of floats and of bytes, and the conversions between them.
 #pragma once
 
 #include "geometry/matrix.h"
@@ -7,41 +7,46 @@
 
 namespace libgr {
 
-/// Red, green, blue, each 0 to 1.
+/// Red, green and blue, each from 0 to 1.
 struct color3_t {
     float r, g, b;
     bool operator==(color3_t const&) const = default;
 };
 
-/// The same with alpha; its four floats go to OpenGL as they stand.
+/// Red, green, blue and alpha, each from 0 to 1. OpenGL takes its address as an array of floats.
 struct color3a_t {
     float r, g, b, a;
     bool operator==(color3a_t const&) const = default;
 };
 
+/// Red, green and blue, each from 0 to 255.
 struct color3ub_t {
     unsigned char r, g, b;
     bool operator==(color3ub_t const&) const = default;
 };
 
+/// Red, green, blue and alpha, each from 0 to 255.
 struct color3aub_t {
     unsigned char r, g, b, a;
     bool operator==(color3aub_t const&) const = default;
 };
 
+/// A gray value from 0 to 255.
 struct color1ub_t {
     unsigned char gray;
 };
 
+/// A gray value and alpha, each from 0 to 255.
 struct color1aub_t {
     unsigned char gray, a;
 };
 
+/// Red, green and blue, each from -128 to 127.
 struct color3b_t {
     signed char r, g, b;
 };
 
-/// Luma and chroma; a chroma byte holds a two's complement value with the top bit flipped.
+/// Luma from 0 to 255, and two chroma values with an offset of 128: gray has the chroma bytes 128.
 struct ycbcrub_t {
     unsigned char y, cb, cr;
 };
@@ -77,19 +82,19 @@ constexpr ycbcrub_t ycbcrub(unsigned char y, unsigned char cb, unsigned char cr)
     return {y, cb, cr};
 }
 
-/// Bytes 0 to 255 to floats 0 to 1, all four channels.
+/// Converts all four channels from bytes of 0 to 255 to floats of 0 to 1.
 constexpr color3a_t color3a(color3aub_t c) {
     return {libutils::uc2f(c.r), libutils::uc2f(c.g), libutils::uc2f(c.b), libutils::uc2f(c.a)};
 }
 
-/// Scales all four components, alpha too.
+/// Multiplies all four channels, including alpha.
 constexpr color3a_t operator*(color3a_t const& c, float f) {
     return {c.r * f, c.g * f, c.b * f, c.a * f};
 }
 
-/// By `matrix_rgb2ycbcr`; chroma 1.0 is 127 above the offset of 128, and the range is symmetric.
+/// Converts with `matrix_rgb2ycbcr`. Chroma has a scale of 127, so that its range is symmetric.
 ycbcrub_t ycbcrub(color3ub_t c);
-/// The way back by `matrix_ycbcr2rgb`, held within 0 to 255.
+/// Converts with `matrix_ycbcr2rgb`. Channels outside the range of 0 to 255 are clamped to it.
 color3ub_t color3ub(ycbcrub_t c);
 
 }  // namespace libgr

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Named points, directions, matrices and colours.
+// Constants for points, directions, matrices and colours.
 #pragma once
 
 #include "geometry/color.h"
@@ -8,6 +8,8 @@
 #include "geometry/vector.h"
 
 namespace libgr {
+
+// The prefix I marks an identity: a zero offset, a scale of 1, no rotation.
 
 inline constexpr position3_t Ipos{0, 0, 0};
 inline constexpr position3_t origin = Ipos;
@@ -22,7 +24,7 @@ inline constexpr direction3_t IdirMX{-1, 0, 0};
 inline constexpr direction3_t IdirMY{0, -1, 0};
 inline constexpr direction3_t IdirMZ{0, 0, -1};
 
-// The zeros of the plane start sizes and offsets, so they are directions.
+// The two-dimensional zeros are directions because they initialize sizes and offsets.
 inline constexpr direction2_t Ipos2{0, 0};
 inline constexpr direction2_t datum2 = Ipos2;
 inline constexpr direction2l_t Ipos2l{0, 0};
@@ -57,16 +59,16 @@ inline constexpr color3ub_t white3ub{255, 255, 255};
 inline constexpr color3ub_t black3ub{0, 0, 0};
 inline constexpr color3ub_t gray3ub{0x7f, 0x7f, 0x7f};
 
-/// RGB to luma and chroma with the weights of ITU-R BT.601 at full range, as JFIF has them. Like
-/// every matrix here it takes row vectors: (r, g, b, 1) * m.
+/// Converts RGB to luma and chroma at full range with the weights of ITU-R BT.601, as JFIF does.
+/// Usage: (r, g, b, 1) * matrix. RGB and luma are 0 to 1, chroma is -0.5 to 0.5.
 inline constexpr matrix3w_t matrix_rgb2ycbcr{{{0.299f, -0.16874f, 0.5f, 0},
                                               {0.587f, -0.33126f, -0.41869f, 0},
                                               {0.114f, 0.5f, -0.08131f, 0},
                                               {0, 0, 0, 1}}};
-/// The inverse of `matrix_rgb2ycbcr`.
+/// Converts luma and chroma back to RGB. The inverse of `matrix_rgb2ycbcr`.
 inline constexpr matrix3w_t matrix_ycbcr2rgb{
     {{1, 1, 1, 0}, {0, -0.34414f, 1.772f, 0}, {1.402f, -0.71414f, 0, 0}, {0, 0, 0, 1}}};
-/// RGB to luma and chroma with the weights of ITU-R BT.709.
+/// Converts RGB to luma and chroma with the weights of ITU-R BT.709.
 inline constexpr matrix3w_t matrix_rgb2ypbpr{{{0.2126f, -0.1146f, 0.5f, 0},
                                               {0.7152f, -0.3854f, -0.4542f, 0},
                                               {0.0722f, 0.5f, -0.0458f, 0},

@@ -1,6 +1,20 @@
 // SPDX-License-Identifier: MIT
-// The 4x4 matrix in OpenGL memory order, and general matrices for cofactor work.
+// The 4x4 transformation matrix in OpenGL's memory order, and matrices of any size.
 #pragma once
+
+/// Scales a point, rotates it by 90 degrees about the z axis, and moves it:
+///
+/// ```cpp
+/// #include "geometry/matrix.h"
+/// #include "geometry/rotation.h"
+///
+/// libgr::position3_t transformed(libgr::position3_t const& p) {
+///     libgr::matrix3w_t const m = libgr::getScaleMatrix(libgr::direction3(2)) *
+///                                 libgr::getRotateMatrix({90, {0, 0, 1}}) *
+///                                 libgr::getTranslateMatrix(libgr::position3(5, 0, 0));
+///     return libgr::SpecializeToPos(libgr::Generalize(p) * m);
+/// }
+/// ```
 
 #include <bit>
 #include <cstddef>
@@ -9,7 +23,7 @@
 
 namespace libgr {
 
-/// R rows of C floats.
+/// A matrix of R rows and C columns, for minors and cofactors.
 template <std::size_t R, std::size_t C>
 struct tmatrix_t {
     float m[R][C];
@@ -18,16 +32,16 @@ struct tmatrix_t {
     constexpr float const (&operator[](std::size_t r) const)[C] { return m[r]; }
 };
 
-/// 4x4 matrix: m[r][c] is float number 4r + c. Vectors are row vectors, so the translation stands
-/// in m[3][0..2], and in A * B the transform A acts first. This is the memory order of OpenGL: the
-/// floats go to glMultMatrixf, glLoadMatrixf and glGetFloatv with no transposing.
+/// A 4x4 matrix. Element m[r][c] is the float at index 4r + c. Vectors are row vectors: the
+/// translation is in m[3][0] to m[3][2], and A * B applies A first. This is OpenGL's memory order,
+/// so glMultMatrixf, glLoadMatrixf and glGetFloatv take `data()` without a transpose.
 struct matrix3w_t {
     vector3w_t rows[4];
 
     constexpr vector3w_t& operator[](std::size_t r) { return rows[r]; }
     constexpr vector3w_t const& operator[](std::size_t r) const { return rows[r]; }
 
-    /// The 16 floats from m[0][0] on, as OpenGL takes and gives them.
+    /// The address of 16 consecutive floats, starting with m[0][0].
     float* data() { return &rows[0].x; }
     float const* data() const { return &rows[0].x; }
 
@@ -44,27 +58,29 @@ constexpr matrix3w_t matrix3w(tmatrix_t<4, 4> const& m) {
     return std::bit_cast<matrix3w_t>(m);
 }
 
-/// The row vector `v` through `m`: element c is the sum over r of v[r] * m[r][c].
+/// Transforms the row vector `v`: element c is the sum of v[r] * m[r][c] over r.
 vector3w_t operator*(vector3w_t const& v, matrix3w_t const& m);
-/// `v` as a column: element r is the sum over c of m[r][c] * v[c].
+/// Multiplies by the column vector `v`: element r is the sum of m[r][c] * v[c] over c.
 vector3w_t operator*(matrix3w_t const& m, vector3w_t const& v);
-/// The transform that does `a` first and then `b`.
+/// Returns the transformation that applies `a` first and `b` second.
 matrix3w_t operator*(matrix3w_t const& a, matrix3w_t const& b);
 
 matrix3w_t Transpose(matrix3w_t const& m);
 
-/// `m` without row `row` and column `col`.
+/// Returns `m` without row `row` and column `col`.
 template <std::size_t N>
 constexpr tmatrix_t<N - 1, N - 1> shrink(tmatrix_t<N, N> const& m, std::size_t row,
                                          std::size_t col) {
     tmatrix_t<N - 1, N - 1> minor{};
-    for (std::size_t r = 0; r + 1 < N; ++r)
-        for (std::size_t c = 0; c + 1 < N; ++c)
+    for (std::size_t r = 0; r + 1 < N; ++r) {
+        for (std::size_t c = 0; c + 1 < N; ++c) {
             minor[r][c] = m[r + (r >= row)][c + (c >= col)];
+        }
+    }
     return minor;
 }
 
-/// By cofactor expansion along the last row, in floats.
+/// Returns the determinant, by cofactor expansion along the last row.
 template <std::size_t N>
 constexpr float Determinant(tmatrix_t<N, N> const& m) {
     if constexpr (N == 1) {
@@ -79,8 +95,8 @@ constexpr float Determinant(tmatrix_t<N, N> const& m) {
     }
 }
 
-/// By the adjugate (the transposed cofactors over the determinant). A singular matrix isn't
-/// detected: it gives infinities or NaNs.
+/// Returns the inverse: the adjugate divided by the determinant. A singular matrix isn't detected;
+/// its inverse contains infinities or NaNs.
 template <std::size_t N>
 constexpr tmatrix_t<N, N> Invert(tmatrix_t<N, N> const& m) {
     float const factor = 1.0f / Determinant<N>(m);
@@ -94,23 +110,24 @@ constexpr tmatrix_t<N, N> Invert(tmatrix_t<N, N> const& m) {
     return inverse;
 }
 
-/// Of the whole 4x4 matrix; for turns, uniform scales and moves, the cube of the scale.
+/// Returns the determinant of all four rows. For a product of rotations, translations and one
+/// uniform scale it is the cube of the scale.
 float Determinant(matrix3w_t const& m);
-/// As `Invert` of `tmatrix_t`: a singular matrix gives infinities or NaNs.
+/// Returns the inverse. The inverse of a singular matrix contains infinities or NaNs.
 matrix3w_t Invert(matrix3w_t const& m);
 
-/// The move by `p`: the identity with `p` in row 3.
+/// Returns a translation by `p`: the identity with `p` in row 3.
 constexpr matrix3w_t getTranslateMatrix(position3_t const& p) {
     return {{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {p.x, p.y, p.z, 1}}};
 }
 constexpr matrix3w_t getTranslateMatrix(direction3_t const& d) {
     return getTranslateMatrix(pos3(d));
 }
-/// The move in `m`: the first three values of row 3.
+/// Returns the translation in `m`: the first three elements of row 3.
 constexpr position3_t getTranslateVector(matrix3w_t const& m) {
     return {m[3].x, m[3].y, m[3].z};
 }
-/// The scale by `d`: the diagonal (d.x, d.y, d.z, 1).
+/// Returns a scale along the axes: the diagonal (d.x, d.y, d.z, 1).
 constexpr matrix3w_t getScaleMatrix(direction3_t const& d) {
     return {{{d.x, 0, 0, 0}, {0, d.y, 0, 0}, {0, 0, d.z, 0}, {0, 0, 0, 1}}};
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Type names to type numbers.
+// The search for a type by its name.
 #include "geometry/mtype.h"
 
 #include <cstring>
@@ -7,9 +7,11 @@
 namespace libgr {
 
 e_mtype_t get_mtype(char const* name) {
-    for (mtype_name_t const& row : mtype_table)
-        if (row.value != MTYPE_END && std::strncmp(row.name, name, MTYPE_NAME_LENGTH) == 0)
+    for (mtype_name_t const& row : mtype_table) {
+        if (row.value != MTYPE_END && std::strncmp(row.name, name, max_mtype_name_length) == 0) {
             return row.value;
+        }
+    }
     return MTYPE_END;
 }
 

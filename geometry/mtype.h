@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The types that have a text form: their numbers, their names, and a value of any of them.
+// The value types that have a text form: their numbers, their names, and a variant of them.
 #pragma once
 
 #include <cstddef>
@@ -16,6 +16,7 @@
 
 namespace libgr {
 
+/// The number of a value type.
 enum e_mtype_t : std::uint32_t {
     MTYPE_FLOAT,
     MTYPE_POS3,
@@ -61,8 +62,7 @@ struct mtype_name_t {
     char const* name;
 };
 
-/// The names of the types, row n for value n, at most `MTYPE_NAME_LENGTH` characters each; the last
-/// row is the end mark and has an empty name.
+/// The names of all types. Row n is type n. The last row is an end mark with an empty name.
 inline constexpr mtype_name_t mtype_table[] = {
     {MTYPE_FLOAT, "float"},
     {MTYPE_POS3, "pos3"},
@@ -104,12 +104,12 @@ inline constexpr mtype_name_t mtype_table[] = {
 };
 static_assert(std::size(mtype_table) == MTYPE_END + 1);
 
-inline constexpr std::size_t MTYPE_NAME_LENGTH = 16;
+inline constexpr std::size_t max_mtype_name_length = 16;
 
-/// The type of that exact name, `MTYPE_END` if there is none.
+/// Returns the type of that name, or `MTYPE_END` if there is none. Upper and lower case differ.
 e_mtype_t get_mtype(char const* name);
 
-/// A value of any type of the table: alternative n is the value type of type n.
+/// A value of any type of the table. Alternative n has type n.
 using mtype_value_t =
     std::variant<float, position3_t, direction3_t, position2_t, direction2_t, position2l_t,
                  direction2l_t, quaternion_t, rotation3_t, posture3w_t, polarpos3_t, angles3_t,
@@ -120,8 +120,8 @@ using mtype_value_t =
 static_assert(std::variant_size_v<mtype_value_t> == MTYPE_END);
 static_assert(std::is_trivially_copyable_v<mtype_value_t>);
 
-/// One value of a type that the text itself names. With the type `MTYPE_END` the value means
-/// nothing.
+/// Reads and writes one value of the type that the text names. `value` is meaningless if `type` is
+/// `MTYPE_END`.
 struct mtype_reader {
     e_mtype_t type = MTYPE_END;
     mtype_value_t value;
@@ -134,7 +134,7 @@ consteval e_mtype_t find_mtype(std::variant<Ts...> const*) {
     return static_cast<e_mtype_t>(index);
 }
 
-/// The type number of a value type, `MTYPE_END` for a type without a text form.
+/// The number of a value type, `MTYPE_END` for a type without a text form.
 template <typename T>
 inline constexpr e_mtype_t mtype_of = find_mtype<T>(static_cast<mtype_value_t*>(nullptr));
 

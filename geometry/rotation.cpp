@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Turns to matrices and back.
+// Conversions between rotations and matrices.
 #include "geometry/rotation.h"
 
 #include <cmath>
@@ -10,18 +10,18 @@ namespace libgr {
 
 namespace {
 
-// Degrees are converted in double precision and then cut to float.
-constexpr double RADIANS_PER_DEGREE = 0.017453292519943122;
-constexpr double DEGREES_PER_RADIAN = 57.29577951308232;
+// The factors are doubles so that a product is rounded to float only once.
+constexpr double radians_per_degree = 0.017453292519943122;
+constexpr double degrees_per_radian = 57.29577951308232;
 
 float degrees(float radians) {
-    return static_cast<float>(static_cast<double>(radians) * DEGREES_PER_RADIAN);
+    return static_cast<float>(static_cast<double>(radians) * degrees_per_radian);
 }
 
 }  // namespace
 
 matrix3w_t getRotateMatrix(rotation3_t const& r) {
-    float const radians = static_cast<float>(static_cast<double>(r.angle) * RADIANS_PER_DEGREE);
+    float const radians = static_cast<float>(static_cast<double>(r.angle) * radians_per_degree);
     float s = 0.0f;
     float c = 0.0f;
     sincosf(radians, &s, &c);
@@ -46,18 +46,19 @@ matrix3w_t getRotateMatrix(rotation3_t const& r) {
 
 rotation3_t getRotation3(matrix3w_t const& m) {
     float const cosine = (m[0][0] + m[1][1] + m[2][2] - 1.0f) * 0.5f;
-    // Half the turn: the scene's way back to upright goes by halves.
     float const angle = degrees(std::acos(cosine)) * 0.5f;
-    if (!std::isfinite(angle))
+    if (!std::isfinite(angle)) {
         return Irot;
+    }
     return {angle, Normalize(direction3(m[1][2] - m[2][1], m[2][0] - m[0][2], m[0][1] - m[1][0]))};
 }
 
 rotation3_t calcRotation3(direction3_t const& a, direction3_t const& b) {
     direction3_t const c = CrossProduct(a, b);
     float const n = Length(c);
-    if (n == 0.0f)
+    if (n == 0.0f) {
         return Irot;
+    }
     return {degrees(std::acos(ScalarProduct(a, b))), c * (1.0f / n)};
 }
 

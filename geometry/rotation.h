@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Turns about an axis, and the records of attitude and motion that exist for their text form.
+// Rotations about an axis, and records of attitude and motion.
 #pragma once
 
 #include "geometry/matrix.h"
@@ -7,43 +7,49 @@
 
 namespace libgr {
 
-/// A turn by `angle` degrees about `axis`, counter-clockwise when seen from the axis's tip.
+/// A rotation by `angle` degrees about `axis`, counter-clockwise seen from the tip of the axis. The
+/// axis may have any length.
 struct rotation3_t {
     float angle;
     direction3_t axis;
     bool operator==(rotation3_t const&) const = default;
 };
 
+// The records up to `posture3w_t` have no arithmetic. They exist for the text form.
+
+/// A quaternion with the scalar part `w`.
 struct quaternion_t {
     float x, y, z, w;
 };
 
-/// Turn rates or angles about the three axes.
+/// Angles or angular speeds about the three axes.
 struct revolution3_t {
     float x, y, z;
 };
 
+/// Angles about the three axes.
 struct angles3_t {
     float x, y, z;
 };
 
+/// A point in polar coordinates.
 struct polarpos3_t {
     float azimuth, elevation, distance;
 };
 
-/// Speed along a direction.
+/// A speed and its direction.
 struct straight3_t {
     float speed;
     direction3_t direction;
 };
 
-/// A state of motion.
+/// A state of motion: an angular and a linear speed.
 struct inertial3_t {
     revolution3_t revolution;
     straight3_t straight;
 };
 
-/// A pose.
+/// A pose: two rotations and a position.
 struct posture3w_t {
     revolution3_t turn1, turn2;
     position3_t position;
@@ -75,20 +81,22 @@ constexpr posture3w_t posture3w(revolution3_t const& turn1, revolution3_t const&
     return {turn1, turn2, position};
 }
 
-/// The matrix that glRotatef(angle, x, y, z) multiplies with. A null axis gives the diagonal
-/// (cos, cos, cos, 1).
+/// Returns the matrix that glRotatef(angle, x, y, z) multiplies by. For an axis of length 0 the
+/// result is the diagonal (cos(angle), cos(angle), cos(angle), 1), not the identity.
 matrix3w_t getRotateMatrix(rotation3_t const& r);
 
-/// The axis of the turn in `m` (scale 1), and HALF its angle, 0 to 90 degrees: taking that off
-/// again and again closes in on the upright position. A symmetric upper 3x3 has a null axis; a
-/// trace out of range gives `Irot`.
+/// Returns the axis of the rotation in `m`, and HALF of its angle: 0 to 90 degrees. The command
+/// that turns a view upright depends on this: each use undoes half of the rotation that is left.
+///
+/// `m` must have the scale 1. The axis is (0, 0, 0) if the upper left 3x3 matrix is symmetric, for
+/// example in the identity. The result is `Irot` if the trace doesn't belong to a rotation.
 rotation3_t getRotation3(matrix3w_t const& m);
 
-/// The turn that takes direction `a` to direction `b`, both of length 1. Parallel and opposite
-/// directions give `Irot`.
+/// Returns the rotation from direction `a` to direction `b`, which both must have length 1. For
+/// parallel and for opposite directions the result is `Irot`.
 rotation3_t calcRotation3(direction3_t const& a, direction3_t const& b);
 
-/// The same axis, the angle negated.
+/// Returns the rotation by the negated angle about the same axis.
 constexpr rotation3_t Invert(rotation3_t const& r) {
     return {-r.angle, r.axis};
 }

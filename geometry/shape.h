@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Boxes, lines, planes, triangles and projections: records that exist for their text form.
+// Boxes, lines, planes, triangles and projections: records without arithmetic, for the text form.
 #pragma once
 
 #include "geometry/matrix.h"
@@ -7,20 +7,22 @@
 
 namespace libgr {
 
-/// Two corners.
+/// Two opposite corners of a rectangle.
 struct box2_t {
     position2_t p0, p1;
 };
 
-/// Two corners.
+/// Two opposite corners of a box.
 struct box3_t {
     position3_t p0, p1;
 };
 
+/// A size in two dimensions.
 struct dim2_t {
     unsigned long x, y;
 };
 
+/// A size in three dimensions.
 struct dim3_t {
     unsigned long x, y, z;
 };
@@ -35,13 +37,13 @@ struct line2d_t {
     float a, b, c;
 };
 
-/// A line with its two transforms.
+/// A line and two transformations.
 struct line3d_t {
     direction3_t direction;
     matrix3w_t transform1, transform2;
 };
 
-/// A triangle with its derived data.
+/// A triangle and the values derived from it.
 struct triangle_t {
     matrix3w_t matrix;
     surface_t surface;
@@ -50,7 +52,7 @@ struct triangle_t {
     float values[3][3];
 };
 
-/// The bounds in the order of glOrtho.
+/// The bounds of a view volume, in the order of glOrtho's arguments.
 struct projection_t {
     double left, right, bottom, top, znear, zfar;
 };

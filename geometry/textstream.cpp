@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Writers and readers of the text form, driven by one list of fields for each type.
+// The writers and readers of the text form, which share one list of fields for each type.
 #include "geometry/textstream.h"
 
 #include <array>
@@ -14,7 +14,7 @@ namespace libgr {
 
 namespace {
 
-// The fields of each type in the order of its text.
+// The fields of each type, in the order in which they are written.
 template <typename T>
 constexpr auto members = std::tuple(&T::x, &T::y, &T::z);
 template <>
@@ -88,7 +88,7 @@ constexpr auto members<projection_t> = std::tuple(&projection_t::left, &projecti
                                                   &projection_t::bottom, &projection_t::top,
                                                   &projection_t::znear, &projection_t::zfar);
 
-/// References to the fields of `value`.
+/// Returns references to the fields of `value`.
 template <typename T>
 auto fields(T& value) {
     return std::apply([&value](auto... member) { return std::tie(value.*member...); },
@@ -106,7 +106,6 @@ template <typename T>
 constexpr bool is_byte_color = std::is_same_v<T, color3aub_t> || std::is_same_v<T, color3ub_t> ||
                                std::is_same_v<T, color1aub_t> || std::is_same_v<T, color1ub_t>;
 
-/// The fields, with a separator between them.
 template <typename T>
 void write_fields(std::ostream& out, T const& value) {
     char const* separator = "";
@@ -138,9 +137,10 @@ template <typename T>
 requires is_byte_color<T>
 void write_form(std::ostream& out, T const& value) {
     libutils::keepflag const keep(out);
-    // The base is shown once, before the name.
-    if ((out.flags() & std::ios_base::showbase) != 0)
+    // Without this, each channel would have the prefix.
+    if ((out.flags() & std::ios_base::showbase) != 0) {
         out << "0x" << std::noshowbase;
+    }
     out << mtype_table[mtype_of<T>].name << '(';
     std::apply(
         [&out](auto... channel) { ((out << libutils::_puthex<unsigned char>{channel}), ...); },
@@ -148,20 +148,24 @@ void write_form(std::ostream& out, T const& value) {
     out << ')';
 }
 
-constexpr int END_OF_STREAM = std::istream::traits_type::eof();
+constexpr int end_of_stream = std::istream::traits_type::eof();
 
-/// The next character past blanks, left in the stream; `END_OF_STREAM` where nothing can be read.
+/// Skips blanks and returns the next character without extracting it. Returns `end_of_stream` if
+/// nothing can be read.
 int peek_item(std::istream& in) {
-    if (in.good())
+    if (in.good()) {
         in >> std::ws;
-    return in.good() ? in.peek() : END_OF_STREAM;
+    }
+    return in.good() ? in.peek() : end_of_stream;
 }
 
-/// Skips to before the next `wanted`; false, with failbit set, if the stream ends first.
+/// Skips characters up to the next `wanted`. If the stream ends first, sets failbit and returns
+/// false.
 bool skip_to(std::istream& in, char wanted) {
-    for (int next = peek_item(in); next != END_OF_STREAM; next = peek_item(in)) {
-        if (next == wanted)
+    for (int next = peek_item(in); next != end_of_stream; next = peek_item(in)) {
+        if (next == wanted) {
             return true;
+        }
         in.get();
     }
     in.setstate(std::ios_base::failbit);
@@ -171,7 +175,7 @@ bool skip_to(std::istream& in, char wanted) {
 template <typename T>
 bool read_form(std::istream& in, T& value);
 
-/// The name that must stand before a field that is a record, `MTYPE_END` for no test.
+/// The name that must precede a nested record, or `MTYPE_END` if the name isn't read.
 template <typename T, typename Field>
 constexpr e_mtype_t expected_name = mtype_of<Field>;
 template <>
@@ -179,29 +183,32 @@ constexpr e_mtype_t expected_name<posture3w_t, revolution3_t> = MTYPE_ROT3;
 template <typename Field>
 constexpr e_mtype_t expected_name<line3d_t, Field> = MTYPE_END;
 
-/// Reads one field of a `T`; a number is stored only when it was parsed.
+/// Reads one field of a `T`. A failed read leaves a number unchanged.
 template <typename T, typename Field>
 bool read_field(std::istream& in, Field& field) {
     if constexpr (std::is_arithmetic_v<Field>) {
         Field number{};
-        if (!(in >> number))
+        if (!(in >> number)) {
             return false;
+        }
         field = number;
         return true;
     } else {
         constexpr e_mtype_t expected = expected_name<T, Field>;
         e_mtype_t name = expected;
-        if (expected != MTYPE_END && !(in >> name))
+        if (expected != MTYPE_END && !(in >> name)) {
             return false;
+        }
         return name == expected && read_form(in, field);
     }
 }
 
-/// Reads the parentheses and what is between them; true when all fields were read.
+/// Reads the parentheses and the fields between them. Returns true if all fields were read.
 template <typename T>
 bool read_parenthesised(std::istream& in, T& value) {
-    if (!skip_to(in, '('))
+    if (!skip_to(in, '(')) {
         return false;
+    }
     in.get();
     bool first = true;
     char separator = 0;
@@ -212,8 +219,9 @@ bool read_parenthesised(std::istream& in, T& value) {
                 ...);
         },
         fields(value));
-    if (complete && peek_item(in) == ')')
+    if (complete && peek_item(in) == ')') {
         in.get();
+    }
     return complete;
 }
 
@@ -221,8 +229,9 @@ template <typename T>
 bool read_form(std::istream& in, T& value) {
     if constexpr (std::is_same_v<T, inertial3_t> || std::is_same_v<T, posture3w_t>) {
         T candidate = value;
-        if (!read_parenthesised(in, candidate))
+        if (!read_parenthesised(in, candidate)) {
             return false;
+        }
         value = candidate;
         return true;
     } else {
@@ -230,7 +239,7 @@ bool read_form(std::istream& in, T& value) {
     }
 }
 
-/// A float that the text names has one character on either side, whatever these are.
+/// Reads a float between any two characters, which needn't be parentheses.
 bool read_form(std::istream& in, float& value) {
     char parenthesis = 0;
     in >> parenthesis;
@@ -239,9 +248,9 @@ bool read_form(std::istream& in, float& value) {
     return complete;
 }
 
-bool ends_name(int c) {
+bool is_name_end(int c) {
     switch (c) {
-        case END_OF_STREAM:
+        case end_of_stream:
         case '\0':
         case '\t':
         case '\n':
@@ -255,7 +264,7 @@ bool ends_name(int c) {
     }
 }
 
-bool is_written_with_type(e_mtype_t type) {
+bool is_written_by_reader(e_mtype_t type) {
     return type < MTYPE_BOX2 || (type >= MTYPE_COL3AUB && type <= MTYPE_COL1UB) ||
            type == MTYPE_PROJECTION;
 }
@@ -265,11 +274,12 @@ constexpr auto make_emplacers(std::index_sequence<Index...>) {
     return std::array{+[](mtype_value_t& value) { value.emplace<Index>(); }...};
 }
 
-/// Makes `value` one of `type`, all zeros, unless it is one already.
+/// Gives `value` the type `type`, with all fields 0, unless it has that type already.
 void set_mtype(mtype_value_t& value, e_mtype_t type) {
     constexpr auto emplacers = make_emplacers(std::make_index_sequence<MTYPE_END>{});
-    if (value.index() != type)
+    if (value.index() != type) {
         emplacers[type](value);
+    }
 }
 
 }  // namespace
@@ -291,51 +301,59 @@ std::ostream& operator<<(std::ostream& out, triangle_t const& value) {
         << value.matrix << '\n'
         << "l: " << l0 << ", " << l1 << ", " << l2 << '\n'
         << "p: " << p0 << ", " << p1 << ", " << p2 << '\n';
-    for (auto const& [a, b, c] : value.values)
+    for (auto const& [a, b, c] : value.values) {
         out << a << ", " << b << ", " << c << '\n';
+    }
     return out;
 }
 
 std::ostream& operator<<(std::ostream& out, e_mtype_t type) {
-    if (type > MTYPE_END)
+    if (type > MTYPE_END) {
         return out << "range over" << std::endl;
-    if (mtype_table[type].value != type)
+    }
+    if (mtype_table[type].value != type) {
         return out << "table error" << std::endl;
-    if (type == MTYPE_END)
+    }
+    if (type == MTYPE_END) {
         return out << "no type" << std::endl;
+    }
     return out << mtype_table[type].name;
 }
 
 std::istream& operator>>(std::istream& in, e_mtype_t& type) {
     in >> std::skipws;
-    char name[MTYPE_NAME_LENGTH + 1] = {};
+    char name[max_mtype_name_length + 1] = {};
     std::size_t length = 0;
-    for (; length < MTYPE_NAME_LENGTH; ++length) {
-        if (!in.good() || ends_name(in.peek()))
+    for (; length < max_mtype_name_length; ++length) {
+        // Tabs and line ends end the name only where no blank precedes them.
+        if (!in.good() || is_name_end(in.peek())) {
             break;
-        // A blank doesn't end the name, but a parenthesis or a comma behind it does.
-        int const next = peek_item(in);
-        if (ends_name(next))
+        }
+        if (is_name_end(peek_item(in))) {
             break;
+        }
         name[length] = static_cast<char>(in.get());
     }
     type = get_mtype(name);
-    if (length == 0 && !in.good())
+    if (length == 0 && !in.good()) {
         in.setstate(std::ios_base::failbit);
+    }
     return in;
 }
 
 std::ostream& operator<<(std::ostream& out, mtype_reader const& reader) {
-    if (is_written_with_type(reader.type) && reader.value.index() == reader.type)
+    if (is_written_by_reader(reader.type) && reader.value.index() == reader.type) {
         write_value(out, reader.value);
+    }
     return out;
 }
 
 std::istream& operator>>(std::istream& in, mtype_reader& reader) {
     in >> reader.type;
     if (reader.type == MTYPE_END) {
-        if (skip_to(in, ')'))
+        if (skip_to(in, ')')) {
             in.get();
+        }
         return in;
     }
     set_mtype(reader.value, reader.type);

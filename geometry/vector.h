@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Points, directions, sizes and texture coordinates, with their arithmetic.
+// Points, directions, sizes and texture coordinates, and their arithmetic.
 #pragma once
 
 #include <cmath>
@@ -12,16 +12,26 @@
 
 namespace libgr {
 
+// All types of this folder are plain records. `direction3(x, y, z)` returns a `direction3_t`, and
+// so on for most types. Except for the text form, no function allocates memory, throws, or fails.
+// None needs an OpenGL context. The suffixes of the names are:
+//
+//   2, 3     number of dimensions               l, ul    32-bit integers, signed or unsigned
+//   w, q     with a homogeneous coordinate      s        16-bit integers
+//   a        with alpha                         b, ub    bytes, signed or unsigned
+//
+// Components without a suffix for their type are floats.
+
 using libutils::max2;
 using libutils::min2;
 
-/// A point in the plane.
+/// A point in two dimensions.
 struct position2_t {
     float x, y;
     bool operator==(position2_t const&) const = default;
 };
 
-/// A vector in the plane; sizes too.
+/// A vector or a size in two dimensions.
 struct direction2_t {
     float x, y;
     bool operator==(direction2_t const&) const = default;
@@ -39,35 +49,35 @@ struct direction2l_t {
     bool operator==(direction2l_t const&) const = default;
 };
 
-/// A size or an offset in 16 bits an axis.
+/// A size or an offset of 16-bit components.
 struct direction2s_t {
     std::int16_t x, y;
     bool operator==(direction2s_t const&) const = default;
 };
 
-/// A size without a sign.
+/// A size of unsigned components.
 struct direction2ul_t {
     std::uint32_t x, y;
     bool operator==(direction2ul_t const&) const = default;
 };
 
-/// A point in space; right-handed axes, as in OpenGL.
+/// A point in three dimensions. The axes are right-handed, as in OpenGL.
 struct position3_t {
     float x, y, z;
     bool operator==(position3_t const&) const = default;
 };
 
-/// A vector in space, or one value for each axis, such as a scale.
+/// A vector in three dimensions, or one value for each axis, for example a scale.
 struct direction3_t {
     float x, y, z;
     bool operator==(direction3_t const&) const = default;
 };
 
-/// Homogeneous vector.
+/// A vector of homogeneous coordinates.
 struct vector3w_t {
     float x, y, z, w;
 
-    /// Component `i`, 0 to 3 for x, y, z, w.
+    /// Returns the component with index `i`: x, y, z or w. An index above 3 returns w.
     constexpr float& operator[](std::size_t i) { return i == 0 ? x : i == 1 ? y : i == 2 ? z : w; }
     constexpr float const& operator[](std::size_t i) const {
         return i == 0 ? x : i == 1 ? y : i == 2 ? z : w;
@@ -75,7 +85,7 @@ struct vector3w_t {
     bool operator==(vector3w_t const&) const = default;
 };
 
-// Texture coordinates; `q` is the homogeneous coordinate.
+// Texture coordinates, with the names that OpenGL gives to the components.
 struct texcoord1_t {
     float s;
 };
@@ -92,7 +102,7 @@ struct texcoord3q_t {
     float s, t, r, q;
 };
 
-// Arrays of these go to GL vertex arrays, so nothing may stand between the numbers.
+// OpenGL reads arrays of these as vertex arrays, so they must have no padding.
 static_assert(sizeof(position2_t) == 8 && std::is_trivially_copyable_v<position2_t>);
 static_assert(sizeof(position3_t) == 12 && std::is_trivially_copyable_v<position3_t>);
 static_assert(sizeof(vector3w_t) == 16 && std::is_trivially_copyable_v<vector3w_t>);
@@ -116,7 +126,7 @@ constexpr position3_t position3(float x, float y, float z) {
 constexpr direction3_t direction3(float x, float y, float z) {
     return {x, y, z};
 }
-/// The same value on all three axes.
+/// Returns a vector with the same value on all three axes.
 constexpr direction3_t direction3(float v) {
     return {v, v, v};
 }
@@ -139,7 +149,7 @@ constexpr texcoord3q_t texcoord3q(float s, float t, float r, float q) {
     return {s, t, r, q};
 }
 
-// Casts between the families keep the numbers.
+// Conversions between points and directions.
 constexpr position2_t pos2(direction2_t v) {
     return {v.x, v.y};
 }
@@ -163,30 +173,34 @@ constexpr direction2_t direction2(direction2l_t v) {
     return {static_cast<float>(v.x), static_cast<float>(v.y)};
 }
 
-/// `v` cut towards zero. A value that no 32-bit integer holds gives the nearest one, NaN gives 0.
+/// Returns `v` truncated towards zero. A value outside the range of the result is clamped to it.
+/// The result for NaN is 0.
 constexpr std::int32_t truncate_to_int32(float v) {
     constexpr float limit = 2147483648.0f;
-    if (v >= limit)
+    if (v >= limit) {
         return std::numeric_limits<std::int32_t>::max();
-    if (v <= -limit)
+    }
+    if (v <= -limit) {
         return std::numeric_limits<std::int32_t>::min();
+    }
     return v == v ? static_cast<std::int32_t>(v) : 0;
 }
 
-/// Both components by `truncate_to_int32`.
+/// Converts both components with `truncate_to_int32`.
 constexpr direction2l_t direction2l(direction2_t v) {
     return {truncate_to_int32(v.x), truncate_to_int32(v.y)};
 }
 
-/// The greatest difference between two floats that `compare` takes for equal.
+/// The largest difference between two floats that `compare` treats as equal.
 inline constexpr float COMPARE_THRESHOLD = 1e-05f;
 
-/// 0 when the two differ by no more than `COMPARE_THRESHOLD`, else the sign of a - b. A NaN equals
-/// nothing.
+/// Returns 0 if the difference is at most `COMPARE_THRESHOLD`, otherwise -1 if `a` is less than
+/// `b`, and 1 if it is not. The result is never 0 if one of them is NaN.
 inline int compare(float a, float b) {
     float const difference = a - b;
-    if (std::fabs(difference) <= COMPARE_THRESHOLD)
+    if (std::fabs(difference) <= COMPARE_THRESHOLD) {
         return 0;
+    }
     return difference < 0.0f ? -1 : 1;
 }
 
@@ -203,22 +217,22 @@ constexpr direction2_t operator/(float f, direction2_t v) {
     return {f / v.x, f / v.y};
 }
 
-/// Component by component, and exactly 1 where the two are equal, so that 0 over 0 is 1: an empty
-/// picture in an empty window keeps its scale.
+/// Divides component by component. The quotient of equal components is exactly 1, even 0 / 0: the
+/// scale of an empty picture in an empty window is 1.
 constexpr direction2_t operator/(direction2_t a, direction2_t b) {
     return {a.x == b.x ? 1.0f : a.x / b.x, a.y == b.y ? 1.0f : a.y / b.y};
 }
 
-/// Equal to an integer when both components are, so `!=` is true when either differs.
+/// Returns true if both components equal `n`. So `v != n` is true if either component differs.
 constexpr bool operator==(direction2l_t v, int n) {
     return v.x == n && v.y == n;
 }
 
-/// The smaller component.
+/// Returns the smaller component.
 constexpr float min1(direction2_t v) {
     return libutils::min2(v.x, v.y);
 }
-/// The larger component.
+/// Returns the larger component.
 constexpr float max1(direction2_t v) {
     return libutils::max2(v.x, v.y);
 }
@@ -242,23 +256,23 @@ constexpr direction3_t& operator+=(direction3_t& a, direction3_t const& b) {
     return a = {a.x + b.x, a.y + b.y, a.z + b.z};
 }
 
-/// Each component of `base` to the power of the same component of `exponent`.
+/// Raises each component of `base` to the power of the same component of `exponent`.
 inline direction3_t pow(direction3_t const& base, direction3_t const& exponent) {
     return {std::pow(base.x, exponent.x), std::pow(base.y, exponent.y),
             std::pow(base.z, exponent.z)};
 }
 
-/// a . b
+/// Returns the dot product.
 constexpr float ScalarProduct(direction3_t const& a, direction3_t const& b) {
     return a.x * b.x + a.y * b.y + a.z * b.z;
 }
 
-/// Euclidean length, in floats.
+/// Returns the Euclidean length.
 inline float Length(direction3_t const& v) {
     return std::sqrt(ScalarProduct(v, v));
 }
 
-/// The vector at length 1; a zero length gives (0, 0, 0).
+/// Returns the vector scaled to length 1. The result for a vector of length 0 is (0, 0, 0).
 inline direction3_t Normalize(direction3_t const& v) {
     float const length = Length(v);
     return length == 0.0f ? direction3_t{} : v * (1.0f / length);
@@ -266,56 +280,56 @@ inline direction3_t Normalize(direction3_t const& v) {
 inline position3_t Normalize(position3_t const& v) {
     return pos3(Normalize(dir3(v)));
 }
-/// `w` has no part in the length and comes out as 0.
+/// Scales (x, y, z) to length 1 and sets w to 0.
 inline vector3w_t Normalize(vector3w_t const& v) {
     direction3_t const n = Normalize(direction3(v.x, v.y, v.z));
     return {n.x, n.y, n.z, 0.0f};
 }
 
-/// a x b
+/// Returns the cross product a x b.
 constexpr direction3_t CrossProduct(direction3_t const& a, direction3_t const& b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
-/// (p1 - p0) x (p2 - p1): the normal of a counter-clockwise triangle.
+/// Returns (p1 - p0) x (p2 - p1), the normal of a triangle with counter-clockwise corners.
 constexpr direction3_t CrossProduct(position3_t const& p0, position3_t const& p1,
                                     position3_t const& p2) {
     return CrossProduct(p1 - p0, p2 - p1);
 }
-/// The same at length 1; a triangle without an area gives (0, 0, 0).
+/// Returns the normal scaled to length 1, or (0, 0, 0) if the triangle has no area.
 inline direction3_t CrossProductWithNormalize(position3_t const& p0, position3_t const& p1,
                                               position3_t const& p2) {
     return Normalize(CrossProduct(p0, p1, p2));
 }
 
-/// a . (b x c), the signed volume of the parallelepiped.
+/// Returns a . (b x c), the signed volume of the parallelepiped with the edges a, b, c.
 constexpr float ScalarTriProduct(direction3_t const& a, direction3_t const& b,
                                  direction3_t const& c) {
     return ScalarProduct(a, CrossProduct(b, c));
 }
-/// The same for the three edges that leave p0.
+/// Returns the triple product of the edges from p0 to p1, p2 and p3.
 constexpr float ScalarTriProduct(position3_t const& p0, position3_t const& p1,
                                  position3_t const& p2, position3_t const& p3) {
     return ScalarTriProduct(p1 - p0, p2 - p0, p3 - p0);
 }
 
-/// The point with w = 1.
+/// Returns the homogeneous coordinates of a point, with w = 1.
 constexpr vector3w_t Generalize(position3_t const& p) {
     return {p.x, p.y, p.z, 1.0f};
 }
-/// The point of a homogeneous vector: x, y, z over w, unchanged when w is 0.
+/// Returns (x, y, z) divided by w. If w is 0, (x, y, z) is returned unchanged.
 constexpr position3_t SpecializeToPos(vector3w_t const& v) {
     return v.w == 0.0f ? position3(v.x, v.y, v.z) : position3(v.x / v.w, v.y / v.w, v.z / v.w);
 }
-/// The normalized (x, y, z); w has no part in it.
+/// Returns (x, y, z) scaled to length 1. The value of w is ignored.
 inline direction3_t SpecializeToDir(vector3w_t const& v) {
     return Normalize(direction3(v.x, v.y, v.z));
 }
 
-/// `c` cut towards zero to a multiple of `q`.
+/// Truncates `c` towards zero to a multiple of `q`.
 inline float round_to_quotient(float c, float q) {
     return std::trunc(c * (1.0f / q)) * q;
 }
-/// `c` brought up, towards positive infinity, to a multiple of `q` (`q` positive).
+/// Rounds `c` up, towards positive infinity, to a multiple of `q`, which must be positive.
 inline float roundup_to_quotient(float c, float q) {
     float const r = round_to_quotient(c, q);
     return r < c ? r + q : r;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The lookup of OpenGL's entry points in the system's library, apart so that tests can replace it.
+// The lookup of entry points in the system's OpenGL library, in a file that tests can replace.
 #include <dlfcn.h>
 
 #include "glext/glextloader.h"
@@ -7,16 +7,18 @@
 namespace {
 
 #ifdef __APPLE__
-constexpr char g_library[] = "/System/Library/Frameworks/OpenGL.framework/Versions/Current/OpenGL";
+constexpr char library_path[] =
+    "/System/Library/Frameworks/OpenGL.framework/Versions/Current/OpenGL";
 #else
-constexpr char g_library[] = "libGL.so.1";
+constexpr char library_path[] = "libGL.so.1";
 #endif
 
 }  // namespace
 
 void* __gl_GetProcAddress(char const* symbol) {
-    static void* handle = nullptr;
-    if (!handle)
-        handle = dlopen(g_library, RTLD_LAZY);
-    return handle ? dlsym(handle, symbol) : nullptr;
+    static void* s_handle = nullptr;
+    if (!s_handle) {
+        s_handle = dlopen(library_path, RTLD_LAZY);
+    }
+    return s_handle ? dlsym(s_handle, symbol) : nullptr;
 }

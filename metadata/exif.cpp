@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The TIFF header of an Exif block and its 0th, Exif and 1st IFD.
+// The parser for the TIFF header and the 0th, Exif and 1st IFD of an Exif block.
 #include "metadata/exif.h"
 
 #include <string_view>
@@ -16,79 +16,79 @@ using libutils::refuse;
 
 using tiff_header_t = app1_marker_t::tiff_header_t;
 
-constexpr unsigned long tiff_start = 6;  // behind "Exif" and two NULs
+constexpr std::size_t tiff_offset = 6;  // after "Exif" and two NULs
 
-constexpr ifd_rules_t zeroth_rules = {ifd_bounds_t::zeroth, ifd_unknown_type_t::skip};
-constexpr ifd_rules_t exif_rules = {ifd_bounds_t::exif, ifd_unknown_type_t::stop};
-constexpr ifd_rules_t first_rules = {ifd_bounds_t::none, ifd_unknown_type_t::stop};
+constexpr ifd_rules_t zeroth_rules = {ifd_checks_t::zeroth, unknown_type_t::skip};
+constexpr ifd_rules_t exif_rules = {ifd_checks_t::exif, unknown_type_t::stop};
+constexpr ifd_rules_t first_rules = {ifd_checks_t::none, unknown_type_t::stop};
 
 using zeroth_t = ExifType::tag_0th_ifd;
 constexpr tag_row_t<zeroth_t> zeroth_tags[] = {
-    {0x010E, any_size, &zeroth_t::ImageDescription},
-    {0x010F, any_size, &zeroth_t::Make},
-    {0x0110, any_size, &zeroth_t::Model},
-    {0x0112, 2, &zeroth_t::Orientation},
-    {0x011A, 8, &zeroth_t::XResolution},
-    {0x011B, 8, &zeroth_t::YResolution},
-    {0x0128, 2, &zeroth_t::ResolutionUnit},
-    {0x0131, any_size, &zeroth_t::Software},
-    {0x0132, any_size, &zeroth_t::DateTime},
-    {0x0213, 2, &zeroth_t::YCbCrPositioning},
-    {0x8769, 4, &zeroth_t::ExifIFDPointer},
-    {0x8825, 4, &zeroth_t::GPSInfoIFDPointer},
+    {0x010E, &zeroth_t::ImageDescription},
+    {0x010F, &zeroth_t::Make},
+    {0x0110, &zeroth_t::Model},
+    {0x0112, &zeroth_t::Orientation},
+    {0x011A, &zeroth_t::XResolution},
+    {0x011B, &zeroth_t::YResolution},
+    {0x0128, &zeroth_t::ResolutionUnit},
+    {0x0131, &zeroth_t::Software},
+    {0x0132, &zeroth_t::DateTime},
+    {0x0213, &zeroth_t::YCbCrPositioning},
+    {0x8769, &zeroth_t::ExifIFDPointer},
+    {0x8825, &zeroth_t::GPSInfoIFDPointer},
 };
 
 using exif_t = ExifType::tag_exif_ifd;
 constexpr tag_row_t<exif_t> exif_tags[] = {
-    {0x829A, 8, &exif_t::ExposureTime},
-    {0x829D, 8, &exif_t::FNumber},
-    {0x8822, 2, &exif_t::ExposureProgram},
-    {0x8827, 2, &exif_t::ISOSpeedRatings},
-    {0x8831, 4, &exif_t::StandardOutputSensitivity},
-    {0x8833, 4, &exif_t::ISOSpeed},
-    {0x9003, 20, &exif_t::DateTimeOriginal},
-    {0x9004, 20, &exif_t::DateTimeDigitized},
-    {0x9202, 8, &exif_t::ApertureValue},
-    {0x9204, 8, &exif_t::ExposureBiasValue},
-    {0x9205, 8, &exif_t::MaxApertureValue},
-    {0x9207, 2, &exif_t::MeteringMode},
-    {0x9209, 2, &exif_t::Flash},
-    {0x920A, 8, &exif_t::FocalLength},
-    {0x927C, any_size, &exif_t::MakerNote},
-    {0xA001, 2, &exif_t::ColorSpace},
-    {0xA403, 2, &exif_t::WhiteBalance},
-    {0xA405, 2, &exif_t::FocalLengthIn35mmFilm},
-    {0xA408, 2, &exif_t::Contrast},
-    {0xA409, 2, &exif_t::Saturation},
-    {0xA40A, 2, &exif_t::Sharpness},
+    {0x829A, &exif_t::ExposureTime},
+    {0x829D, &exif_t::FNumber},
+    {0x8822, &exif_t::ExposureProgram},
+    {0x8827, &exif_t::ISOSpeedRatings},
+    {0x8831, &exif_t::StandardOutputSensitivity},
+    {0x8833, &exif_t::ISOSpeed},
+    {0x9003, &exif_t::DateTimeOriginal, 20},
+    {0x9004, &exif_t::DateTimeDigitized, 20},
+    {0x9202, &exif_t::ApertureValue},
+    {0x9204, &exif_t::ExposureBiasValue},
+    {0x9205, &exif_t::MaxApertureValue},
+    {0x9207, &exif_t::MeteringMode},
+    {0x9209, &exif_t::Flash},
+    {0x920A, &exif_t::FocalLength},
+    {0x927C, &exif_t::MakerNote},
+    {0xA001, &exif_t::ColorSpace},
+    {0xA403, &exif_t::WhiteBalance},
+    {0xA405, &exif_t::FocalLengthIn35mmFilm},
+    {0xA408, &exif_t::Contrast},
+    {0xA409, &exif_t::Saturation},
+    {0xA40A, &exif_t::Sharpness},
 };
 
 using first_t = ExifType::tag_1st_ifd;
 constexpr tag_row_t<first_t> first_tags[] = {
-    {0x0201, 4, &first_t::JPEGInterchangeFormat},
-    {0x0202, 4, &first_t::JPEGInterchangeFormatLength},
+    {0x0201, &first_t::JPEGInterchangeFormat},
+    {0x0202, &first_t::JPEGInterchangeFormatLength},
 };
 
-/// Bytes of an IFD of `n` entries as the block's own IFDs are measured. That is two bytes short of
-/// the end of the next IFD's offset.
-unsigned long plain_ifd_size(unsigned long n) {
+/// Returns the size that the 0th, Exif, GPS and 1st IFD with `n` entries must have. It includes
+/// only half of the offset of the next IFD, because existing files depend on it.
+std::size_t plain_ifd_size(std::size_t n) {
     return ifd_size(n) + 2;
 }
 
-/// The view of the IFD at an offset in the block. A count that isn't there is 0.
-jpeg_bytes_t ifd_at(tiff_header_t const& header, unsigned long offset) {
-    return part_of(header, offset, plain_ifd_size(short_at(header, offset, *header.byteorder)));
+/// Returns a view of the IFD at an offset in the TIFF block.
+jpeg_bytes_t ifd_at(tiff_header_t const& header, std::uint64_t offset) {
+    return subview(header, offset, plain_ifd_size(short_at(header, offset, *header.byteorder)));
 }
 
 bool read_exif_ifd(tiff_header_t& header) {
     if (header.tag_0th_ifd.ExifIFDPointer.empty()) {
         return true;
     }
-    unsigned long const offset = header.tag_0th_ifd.ExifIFDPointer[0];
+    std::uint64_t const offset = header.tag_0th_ifd.ExifIFDPointer[0];
     if (header.size() <= offset) {
         return refuse("exif_ifd_offset size exceed: ", offset, " > ", header.size());
     }
-    unsigned long const end = offset + plain_ifd_size(short_at(header, offset, *header.byteorder));
+    std::uint64_t const end = offset + plain_ifd_size(short_at(header, offset, *header.byteorder));
     if (header.size() < end) {
         return refuse("exif ifd size exceed: ", end, " > ", header.size());
     }
@@ -100,9 +100,9 @@ bool set_gps_ifd(tiff_header_t& header) {
     if (header.tag_0th_ifd.GPSInfoIFDPointer.empty()) {
         return true;
     }
-    unsigned long const offset = header.tag_0th_ifd.GPSInfoIFDPointer[0];
-    // Only the IFD's own size is compared: where it begins doesn't count.
-    unsigned long const size = plain_ifd_size(short_at(header, offset, *header.byteorder));
+    std::uint64_t const offset = header.tag_0th_ifd.GPSInfoIFDPointer[0];
+    // The offset isn't checked, because existing files depend on it.
+    std::size_t const size = plain_ifd_size(short_at(header, offset, *header.byteorder));
     if (header.size() < size) {
         return refuse("gps_ifd size exceed: ", size, " > ", header.size());
     }
@@ -122,11 +122,11 @@ void tiff_header_t::set_tiff_buffer(jpeg_bytes_t const& block) {
 }
 
 bool tiff_header_t::is_intel() const {
-    return begins_with(*this, "II");
+    return has_prefix(*this, "II");
 }
 
 bool tiff_header_t::is_motorola() const {
-    return begins_with(*this, "MM");
+    return has_prefix(*this, "MM");
 }
 
 void tiff_header_t::clear() {
@@ -148,13 +148,13 @@ bool tiff_header_t::parse() {
     if (short_at(*this, 2, *byteorder) != 42) {
         return refuse("not tiff(0x00, 0x2a).");
     }
-    unsigned long const zeroth = long_at(*this, 4, *byteorder);
+    std::uint64_t const zeroth = long_at(*this, 4, *byteorder);
     ifd_0th = ifd_at(*this, zeroth);
     if (!parse_0th_ifd(ifd_0th)) {
         return false;
     }
-    unsigned long const next = zeroth + ifd_size(short_at(*this, zeroth, *byteorder));
-    unsigned long const first = long_at(*this, next, *byteorder);
+    std::uint64_t const next = zeroth + ifd_size(short_at(*this, zeroth, *byteorder));
+    std::uint64_t const first = long_at(*this, next, *byteorder);
     if (first != 0) {
         ifd_1st = ifd_at(*this, first);
         parse_1st_ifd(ifd_1st);
@@ -179,7 +179,7 @@ bool tiff_header_t::parse_1st_ifd(jpeg_bytes_t const& ifd) {
     collect_tags(first_rules, ifd, *this, byteorder.get(), first_tags, tag_1st_ifd);
     if (!tag_1st_ifd.JPEGInterchangeFormat.empty() &&
         !tag_1st_ifd.JPEGInterchangeFormatLength.empty()) {
-        thumbnail = part_of(*this, tag_1st_ifd.JPEGInterchangeFormat[0],
+        thumbnail = subview(*this, tag_1st_ifd.JPEGInterchangeFormat[0],
                             tag_1st_ifd.JPEGInterchangeFormatLength[0]);
     }
     return true;
@@ -190,14 +190,14 @@ void app1_marker_t::set_app1_buffer(jpeg_bytes_t const& payload) {
 }
 
 bool app1_marker_t::is_exif() const {
-    return begins_with(*this, std::string_view("Exif\0", 5));
+    return has_prefix(*this, std::string_view("Exif\0", 5));
 }
 
 bool app1_marker_t::parse() {
     if (!is_exif()) {
         return false;
     }
-    tiff_header.set_tiff_buffer(part_of(*this, tiff_start, to_end));
+    tiff_header.set_tiff_buffer(subview(*this, tiff_offset, to_end));
     return tiff_header.parse();
 }
 

@@ -1,6 +1,29 @@
 // SPDX-License-Identifier: MIT
-// The reader of the Exif block in a JPEG's APP1 segment, with the makers' notes in it.
+// The parser for the Exif block in the APP1 segment of a JPEG file.
 #pragma once
+
+/// Reads the orientation from the payload of an APP1 segment:
+///
+/// ```cpp
+/// #include "metadata/exif.h"
+///
+/// unsigned int orientation_of(libgr::jpeg_bytes_t const& payload) {
+///     libgr::app1_marker_t app1;
+///     app1.set_app1_buffer(payload);
+///     auto const& orientation = app1.tiff_header.tag_0th_ifd.Orientation;
+///     return app1.parse() && !orientation.empty() ? orientation[0] : 1;
+/// }
+/// ```
+///
+/// `jpeginfo_t::get_marker(MARKER_APP1)` in codecs/jpeginfo.h returns the payload. The order of
+/// calls is `set_app1_buffer`, `parse`, and `clear` before the next payload. `parse` reads the tags
+/// that metadata/exiftype.h has members for, and the notes of these makers (all others are
+/// ignored):
+///
+///   Make, in any case       Note begins with     Function              Offsets are relative to
+///   OLYMPUS...              OLYMP, or any text   parse_olympus_ifd     the TIFF block
+///   OM Digital Solutions... OM SYSTEM            parse_olympus3_ifd    the note
+///   RICOH...                PENTAX               parse_pentax5_ifd     the note
 
 #include <memory>
 
@@ -10,23 +33,26 @@
 
 namespace libgr {
 
-/// Bytes of one value of each TIFF type (TIFF 6.0, section 2). A type of size 0 is never read.
+/// The size, in bytes, of one value of each TIFF type (TIFF 6.0, section 2). Values of the types
+/// with size 0 (SBYTE, FLOAT and DOUBLE) are ignored.
 inline constexpr unsigned int exiftypesize[14] = {0, 1, 1, 2, 4, 8, 0, 1, 2, 4, 8, 0, 0, 4};
 
-/// An APP1 segment's payload: the bytes behind the segment's length. Nothing in it can make the
-/// reader look outside it. A refusal is one line on the error stream, or none, and false; what was
-/// read until then stays in the records until `clear`, so `clear` comes before another file.
+/// The payload of an APP1 segment: the bytes after the segment's length field (Exif 2.32, CIPA
+/// DC-008). Damaged payloads can't make the parser read outside the payload.
+///
+/// A function that fails returns false and prints at most one line on the error stream. The records
+/// keep the values that were read before the failure, until `clear`.
 class app1_marker_t : public jpeg_bytes_t {
   public:
-    /// The TIFF block behind "Exif" and two NULs. All offsets in it count from its start. All views
-    /// share the payload's bytes, but for the copy of an Olympus note's IFD.
+    /// The TIFF block of the payload. Offsets in the file are relative to its start. The views
+    /// share the memory of the payload. Only `ifd_maker_note` of an Olympus camera is a copy.
     class tiff_header_t : public jpeg_bytes_t {
       public:
-        std::unique_ptr<libutils::byteorder> byteorder;  ///< null until `parse` knows it
+        std::unique_ptr<libutils::byteorder> byteorder;  ///< null before `parse`
 
         jpeg_bytes_t ifd_0th;
         jpeg_bytes_t ifd_exif;
-        jpeg_bytes_t ifd_gps;
+        jpeg_bytes_t ifd_gps;  ///< located, but not read
         jpeg_bytes_t ifd_1st;
         jpeg_bytes_t ifd_maker_note;
         jpeg_bytes_t ifd_olympus3_equipment;
@@ -44,22 +70,26 @@ class app1_marker_t : public jpeg_bytes_t {
         ExifType::tag_olympus3_focusinfo_ifd tag_olympus3_focusinfo_ifd;
         ExifType::tag_pentax5_ifd tag_pentax5_ifd;
 
-        /// Takes a TIFF block and drops the views of all IFDs but the maker note's.
+        /// Shares the memory of a TIFF block, and clears the views of all IFDs except
+        /// `ifd_maker_note`.
         void set_tiff_buffer(jpeg_bytes_t const& block);
 
-        /// Reads the 0th IFD, what it points to, and the 1st IFD. True if the 0th IFD, the Exif IFD
-        /// and the maker note were good; what the 1st IFD holds doesn't matter.
+        /// Reads the 0th IFD, the Exif IFD, the maker's note and the 1st IFD. Returns true if all
+        /// but the 1st IFD are valid. The 1st IFD describes only the thumbnail, so it isn't
+        /// checked.
         bool parse();
 
+        /// Return true if the block begins with "II" (little-endian) or with "MM" (big-endian).
         bool is_intel() const;
         bool is_motorola() const;
+
         void byteorderclear() { byteorder.reset(); }
         void clear() override;
 
-        // Each takes the view of an IFD: its entry count, then its entries. The notes' readers
-        // that take the note as well count offsets from its start, the others from the block's.
-        // Without a `byteorder` nothing is read, and all but those of the GPS and 1st IFD, which
-        // are always true, are false.
+        // `parse` calls these functions. Each one reads the IFD in a view, which starts with the
+        // count of entries. Offsets are relative to `note`, or without that parameter to the TIFF
+        // block. If `byteorder` is null, they read nothing and return false. `parse_gps_ifd` does
+        // nothing. It and `parse_1st_ifd` always return true.
 
         bool parse_0th_ifd(jpeg_bytes_t const& ifd);
         bool parse_exif_ifd(jpeg_bytes_t const& ifd);
@@ -75,16 +105,17 @@ class app1_marker_t : public jpeg_bytes_t {
 
     tiff_header_t tiff_header;
 
-    /// Takes a reference on the payload.
+    /// Shares the memory of the payload.
     void set_app1_buffer(jpeg_bytes_t const& payload);
 
-    /// Whether the payload begins with "Exif" and a NUL.
+    /// Returns true if the payload begins with "Exif" and a NUL.
     bool is_exif() const;
 
-    /// Reads all that this reader knows. False without a word where the payload isn't Exif. Only
-    /// where it is true do the records speak for the picture: see `tiff_header.tag_0th_ifd`.
+    /// Reads the payload into the records of `tiff_header`. Use the records only if it returns
+    /// true. If the payload isn't Exif, returns false and prints nothing.
     bool parse();
 
+    /// Releases the payload's memory and empties all views and records.
     void clear() override;
 };
 

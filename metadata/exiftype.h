@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The records that an Exif block is collected into, one for each kind of IFD.
+// The records with the values of an Exif block, one for each kind of IFD.
 #pragma once
 
 #include <string>
@@ -9,9 +9,11 @@
 
 namespace libgr {
 
-/// The record types. A value that may be absent is a vector, empty where the tag wasn't in the
-/// file. A text keeps the size that the file gives it, so NULs may follow what it says. `clear`
-/// empties all members. Names and meanings are those of Exif 2.32 (CIPA DC-008).
+/// The record types. The members have the names and meanings of Exif 2.32 (CIPA DC-008).
+///
+/// A number is a vector, which is empty if the file doesn't have the tag, or has it with another
+/// size than the standard's. A string has the size that the file specifies, so it may end with
+/// several NULs: use `c_str()`. `clear` empties all members.
 class ExifType {
   public:
     struct rational_t {
@@ -32,7 +34,7 @@ class ExifType {
         std::string ImageDescription;
         std::string Make;
         std::string Model;
-        short_t Orientation;  ///< 1 to 8 in a good file; any value may stand here
+        short_t Orientation;  ///< 1 to 8 in a valid file, but not checked
         rationals_t XResolution;
         rationals_t YResolution;
         short_t ResolutionUnit;
@@ -52,8 +54,8 @@ class ExifType {
         short_t ISOSpeedRatings;
         long_t StandardOutputSensitivity;
         long_t ISOSpeed;
-        std::string DateTimeOriginal;
-        std::string DateTimeDigitized;
+        std::string DateTimeOriginal;   ///< "YYYY:MM:DD HH:MM:SS"
+        std::string DateTimeDigitized;  ///< "YYYY:MM:DD HH:MM:SS"
         rationals_t ApertureValue;
         srationals_t ExposureBiasValue;
         rationals_t MaxApertureValue;
@@ -71,7 +73,7 @@ class ExifType {
         void clear() { *this = {}; }
     };
 
-    /// Nothing fills it.
+    /// Reserved: the parser doesn't read the GPS IFD.
     struct tag_gps_ifd {
         std::string GPSLatitudeRef;
         rationals_t GPSLatitude;  ///< degrees, minutes, seconds
@@ -84,13 +86,16 @@ class ExifType {
         void clear() { *this = {}; }
     };
 
-    /// Of the 0th IFD's members none is filled here.
+    /// The members of the base stay empty.
     struct tag_1st_ifd : tag_0th_ifd {
         long_t JPEGInterchangeFormat;        ///< bytes from the start of the TIFF block
         long_t JPEGInterchangeFormatLength;  ///< bytes
 
         void clear() { *this = {}; }
     };
+
+    // The members of the makers' records are named after the tags. Their meanings aren't documented
+    // by the makers.
 
     struct tag_olympus_ifd {
         short_t tag_0x100B;

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The walk over the entries of an IFD, which all kinds of IFD share, and the tables that say which
-// tags a record keeps.
+// The loop over the entries of an IFD, and the tables of the tags that go into a record.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <span>
 #include <string>
@@ -16,57 +17,67 @@
 
 namespace libgr {
 
-/// `count` bytes of `source` from `at` on, as far as they are there.
-jpeg_bytes_t part_of(jpeg_bytes_t const& source, unsigned long at, unsigned long count);
+/// Returns a view of `count` bytes of `source`, starting at byte `at`. Both are clamped to the end
+/// of `source`. The view shares the memory.
+jpeg_bytes_t subview(jpeg_bytes_t const& source, std::uint64_t at, std::uint64_t count);
 
-/// Whether the first bytes of `bytes` are those of `text`.
-bool begins_with(jpeg_bytes_t const& bytes, std::string_view text);
+/// Returns true if `bytes` begins with `text`.
+bool has_prefix(jpeg_bytes_t const& bytes, std::string_view text);
 
-/// The word of 16 or 32 bits at `at`, and 0 where `source` doesn't hold it whole.
-unsigned short short_at(jpeg_bytes_t const& source, unsigned long at,
+/// Returns the 16-bit or 32-bit number at byte `at`, or 0 if it isn't completely inside `source`.
+unsigned short short_at(jpeg_bytes_t const& source, std::uint64_t at,
                         libutils::byteorder const& order);
-unsigned int long_at(jpeg_bytes_t const& source, unsigned long at,
+unsigned int long_at(jpeg_bytes_t const& source, std::uint64_t at,
                      libutils::byteorder const& order);
 
-/// Bytes of an IFD of `n` entries (TIFF 6.0, section 2), without the offset of the next one: a
-/// count of 16 bits, then for each entry 12 bytes of tag, type, count, and the value or its offset.
-/// Entry `n` begins there.
-constexpr unsigned long ifd_size(unsigned long n) {
+/// Returns the size, in bytes, of an IFD with `n` entries, without the offset of the next IFD. This
+/// is also the offset of entry `n` in the IFD.
+///
+/// An IFD is a 16-bit count of entries and 12 bytes for each entry: the tag (16 bits), the type
+/// (16), the number of values (32), and the value or its offset (32). See TIFF 6.0, section 2.
+constexpr std::size_t ifd_size(std::size_t n) {
     return 2 + 12 * n;
 }
 
-/// Which sizes a walk compares, and the lines that it refuses with.
-enum class ifd_bounds_t {
-    zeroth,  ///< an entry's first eight bytes, and where an offset points
-    exif,    ///< a whole entry, and where the value at an offset ends
-    none,    ///< nothing: the walk ends where the entries do
-    note,    ///< the whole IFD, and where the value at an offset ends
+/// The bounds that make a walk fail, with one line on the error stream. Reads outside the file are
+/// impossible with any of them.
+enum class ifd_checks_t {
+    zeroth,  ///< each entry's first 8 bytes must be in the IFD, each value's start in the base
+    exif,    ///< each entry must be in the IFD, each value in the base
+    none,    ///< no checks; the walk fails without a line at the end of the IFD
+    note,    ///< the IFD must be complete, each value must be in the base
 };
 
-/// What a type that Exif doesn't know does.
-enum class ifd_unknown_type_t { skip, stop, refuse };
+/// The effect of a type number that Exif doesn't define: skip the entry, end the walk with success,
+/// or fail without a line.
+enum class unknown_type_t { skip, stop, fail };
 
-/// What sets the walk of one kind of IFD apart from the others.
+/// The rules for one kind of IFD. The kinds differ because existing files depend on it.
 struct ifd_rules_t {
-    ifd_bounds_t bounds;
-    ifd_unknown_type_t unknown_type;
-    char const* name = "";           ///< leads the lines about a note
-    bool skips_lost_values = false;  ///< whether a value beyond the end is passed over
+    ifd_checks_t checks;
+    unknown_type_t unknown_type;
+    char const* name = "";              ///< starts the error lines of `ifd_checks_t::note`
+    bool skips_outside_values = false;  ///< true: a value outside the base is skipped
 };
 
+/// An entry of an IFD.
 struct ifd_entry_t {
     unsigned short tag;
-    unsigned int size;   ///< bytes that the entry claims, modulo 2 to the power of 32
-    jpeg_bytes_t value;  ///< as much of them as is there
+    unsigned int size;   ///< bytes: number of values times size of the type, modulo 2^32
+    jpeg_bytes_t value;  ///< the bytes of the value that the file has, at most `size`
 };
 
-/// Calls `visit` for the entries in their order. Values that don't fit into their entry lie in
-/// `base`. False when a rule refuses the IFD, or without a byte order.
+/// Calls `visit` for each entry of an IFD, in the order of the file. Entries with a type of size 0,
+/// and entries whose value is completely missing, are skipped.
+///
+/// A value of more than 4 bytes is in `base`, at the offset in the entry. Returns false if a check
+/// of `rules` fails, or if `order` is null.
 bool walk_ifd(ifd_rules_t const& rules, jpeg_bytes_t const& ifd, jpeg_bytes_t const& base,
               libutils::byteorder const* order,
               std::function<void(ifd_entry_t const&)> const& visit);
 
-// How values are stored. A value that isn't whole leaves its vector as it was.
+// Conversions of a value to a member of a record. If bytes are missing, a vector doesn't change,
+// and a string or a view gets the bytes that the file has.
 
 void store_value(ifd_entry_t const& entry, libutils::byteorder const& order,
                  ExifType::short_t& values);
@@ -79,13 +90,23 @@ void store_value(ifd_entry_t const& entry, libutils::byteorder const& order,
 void store_value(ifd_entry_t const& entry, libutils::byteorder const& order, std::string& text);
 void store_value(ifd_entry_t const& entry, libutils::byteorder const& order, jpeg_bytes_t& view);
 
-/// The size of a row that takes values of any size.
+/// The size of a tag that may have any size.
 inline constexpr unsigned int any_size = ~0U;
 
-/// A tag that record R keeps, if its value has `size` bytes, whatever its type, and where it goes:
-/// the member's type says how.
+/// The size, in bytes, of the value of a tag that is stored in a member of type M.
+template <typename M>
+inline constexpr unsigned int value_size = any_size;
+template <typename T>
+inline constexpr unsigned int value_size<std::vector<T>> = sizeof(T);
+
+/// A tag and the member of record R that stores its value. A value is ignored if it doesn't have
+/// `size` bytes. Its type isn't checked: the type of the member defines the conversion.
 template <typename R>
 struct tag_row_t {
+    template <typename M>
+    constexpr tag_row_t(unsigned short tag_number, M R::*target, unsigned int bytes = value_size<M>)
+        : tag(tag_number), size(bytes), member(target) {}
+
     unsigned short tag;
     unsigned int size;
     std::variant<ExifType::short_t R::*, ExifType::long_t R::*, ExifType::rationals_t R::*,
@@ -93,8 +114,8 @@ struct tag_row_t {
         member;
 };
 
-/// Walks an IFD and stores into `record` what `rows` keep. A later entry of a tag overwrites an
-/// earlier one.
+/// Stores the values of the tags in `rows` in `record`. If a tag occurs twice, the last value is
+/// stored. Returns the result of `walk_ifd`.
 template <typename R>
 bool collect_tags(ifd_rules_t const& rules, jpeg_bytes_t const& ifd, jpeg_bytes_t const& base,
                   libutils::byteorder const* order,

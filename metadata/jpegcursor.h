@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the JPEG codec and the readers of a JPEG's marker segments share: their bytes, the numbers
-// of the markers that are kept, and the cursor over entropy-coded bytes.
+// The bytes of JPEG data, the numbers of its marker segments, and a cursor over entropy-coded
+// bytes.
 #pragma once
 
 #include "utils/allocator.h"
@@ -8,10 +8,11 @@
 
 namespace libgr {
 
-/// A window into the bytes of a JPEG file, or of one segment of it. Copies share the bytes.
+/// A view of the bytes of a JPEG file or of one of its segments. Copies share the memory, which is
+/// freed with the last copy.
 using jpeg_bytes_t = libutils::ofsvector<unsigned char, libutils::alloc_mmap_unix>;
 
-/// The numbers of the marker segments that a JPEG's reader keeps.
+/// The numbers of the APPn and COM marker segments.
 enum e_marker_num_t : unsigned int {
     MARKER_APP0 = 0,
     MARKER_APP1 = 1,
@@ -30,16 +31,16 @@ enum e_marker_num_t : unsigned int {
     MARKER_APP14 = 14,
     MARKER_APP15 = 15,
     MARKER_COM = 16,
-    MARKER_MAX = 17,  ///< end mark
+    MARKER_MAX = 17,  ///< the number of values
 };
 
-/// One row of `marker_array`.
+/// A marker's number and its code.
 struct marker_row_t {
     e_marker_num_t number;
-    unsigned int code;  ///< the byte behind 0xFF in the file (ITU-T T.81, table B.1)
+    unsigned int code;  ///< the byte after 0xFF in the file (ITU-T T.81, table B.1)
 };
 
-/// From number to marker code; row i is that of number i.
+/// The codes of all markers. Row i has number i.
 inline constexpr marker_row_t marker_array[MARKER_MAX] = {
     {MARKER_APP0, 0xE0},  {MARKER_APP1, 0xE1},  {MARKER_APP2, 0xE2},  {MARKER_APP3, 0xE3},
     {MARKER_APP4, 0xE4},  {MARKER_APP5, 0xE5},  {MARKER_APP6, 0xE6},  {MARKER_APP7, 0xE7},
@@ -48,11 +49,15 @@ inline constexpr marker_row_t marker_array[MARKER_MAX] = {
     {MARKER_COM, 0xFE},
 };
 
-/// A cursor over entropy-coded bytes, in which a 0xFF that is data is followed by a stuffed 0x00
-/// (ITU-T T.81, B.1.1.5). The pair is one step. The cursor doesn't own the bytes.
+/// A cursor over entropy-coded bytes. It steps over the 0x00 that is stuffed after each 0xFF (ITU-T
+/// T.81, B.1.1.5). The cursor doesn't own the bytes.
+///
+///     libgr::jpeg_iterator cursor(end);
+///     for (cursor = begin; cursor < end; ++cursor) { use(*cursor); }
 class jpeg_iterator {
   public:
-    /// A cursor that looks at nothing from `end` on.
+    /// Creates a cursor that never reads `end` or the bytes after it. Assign the position before
+    /// use.
     explicit jpeg_iterator(unsigned char const* end) : m_end(end) {}
 
     jpeg_iterator& operator=(unsigned char const* position) {
@@ -60,10 +65,11 @@ class jpeg_iterator {
         return *this;
     }
 
-    /// The byte at the cursor, which must stand before the end.
+    /// Returns the byte at the cursor. The cursor must be before the end.
     unsigned char operator*() const { return *m_position; }
 
-    /// To the next byte, or behind a stuffed pair. The cursor must stand before the end.
+    /// Moves to the next byte. Moves by two bytes if the cursor is at a 0xFF with a stuffed 0x00.
+    /// The cursor must be before the end.
     jpeg_iterator& operator++() {
         bool const stuffed = *m_position == 0xFF && m_end - m_position > 1 && m_position[1] == 0x00;
         m_position += stuffed ? 2 : 1;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The parsing and printing of a baseline JPEG's marker segments.
+// The parsers and the output of the marker segments of a baseline JPEG file.
 #include "metadata/jpegmarkers.h"
 
 #include <numeric>
@@ -20,7 +20,7 @@ namespace {
 
 using libutils::refuse;
 
-constexpr unsigned long dqt_unit = 1 + sizeof(zigzag_to_array);
+constexpr std::size_t dqt_unit_size = 1 + sizeof(zigzag_to_array);
 
 unsigned char high_nibble(unsigned char byte) {
     return static_cast<unsigned char>(byte >> 4);
@@ -30,20 +30,20 @@ unsigned char low_nibble(unsigned char byte) {
     return static_cast<unsigned char>(byte & 0x0F);
 }
 
-/// The big-endian word at `at`.
-unsigned short word_at(jpeg_bytes_t const& payload, unsigned long at) {
+/// Returns the 16-bit big-endian number at byte `at`.
+unsigned short word_at(jpeg_bytes_t const& payload, std::size_t at) {
     return static_cast<unsigned short>(payload[at] << 8 | payload[at + 1]);
 }
 
-bool broken() {
+bool report_broken() {
     return refuse("broken JPEG data.");
 }
 
-bool invalid() {
+bool report_invalid() {
     return refuse("invalid JPEG data.");
 }
 
-/// Text on standard output, numbers in decimal. A byte is written as a number: give it as +x.
+/// Prints on standard output, with numbers in decimal. Pass bytes as +x: a char prints a character.
 template <typename... Parts>
 void put(Parts const&... parts) {
     libutils::keepflag const keep(std::cout);
@@ -61,7 +61,7 @@ void put_line(Parts const&... parts) {
 
 bool sof0_marker_t::parse() {
     if (size() < 6) {
-        return broken();
+        return report_broken();
     }
     sample_precision = (*this)[0];
     lines = word_at(*this, 1);
@@ -72,18 +72,18 @@ bool sof0_marker_t::parse() {
                       static_cast<char>(sample_precision));
     }
     if (size() < 6UL + 3UL * colors) {
-        return broken();
+        return report_broken();
     }
-    jpeg_bytes_t onwards = *this;  // a selector is read behind the segment, too
-    onwards.count = to_end;
+    jpeg_bytes_t extended = *this;  // quatable_sel may be after the end of the segment
+    extended.count = to_end;
     components.resize(colors);
     max_horiz = 0;
     max_verts = 0;
-    unsigned long at = 6;
+    std::size_t at = 6;
     for (element_t& element : components) {
         unsigned char const factors = (*this)[at + 1];
         element = {(*this)[at], high_nibble(factors), low_nibble(factors),
-                   at + 4 < onwards.size() ? onwards[at + 4] : static_cast<unsigned char>(0)};
+                   at + 4 < extended.size() ? extended[at + 4] : static_cast<unsigned char>(0)};
         max_horiz = libutils::max2<unsigned short>(max_horiz, element.horiz_factor);
         max_verts = libutils::max2<unsigned short>(max_verts, element.verts_factor);
         at += 3;
@@ -91,7 +91,7 @@ bool sof0_marker_t::parse() {
     for (element_t const& element : components) {
         if (element.horiz_factor == 0 || max_horiz % element.horiz_factor != 0 ||
             element.verts_factor == 0 || max_verts % element.verts_factor != 0) {
-            return invalid();
+            return report_invalid();
         }
     }
     return true;
@@ -112,22 +112,22 @@ void sof0_marker_t::dump() const {
 }
 
 bool dqt_marker_t::parse() {
-    unsigned long const tables = size() / dqt_unit;
-    if (size() == 0 || size() % dqt_unit != 0 || tables > table.size()) {
-        return broken();
+    std::size_t const tables = size() / dqt_unit_size;
+    if (size() == 0 || size() % dqt_unit_size != 0 || tables > table.size()) {
+        return report_broken();
     }
     n = static_cast<unsigned char>(tables);
     unsigned char const* unit = begin();
-    for (unsigned long k = 0; k < tables; ++k, unit += dqt_unit) {
+    for (std::size_t k = 0; k < tables; ++k, unit += dqt_unit_size) {
         unsigned char const pq = high_nibble(unit[0]);
         unsigned char const tq = low_nibble(unit[0]);
         if (pq != 0) {
             return refuse("not support JPEG data. DQT pq=", +pq);
         }
         if (tq >= table.size()) {
-            return invalid();
+            return report_invalid();
         }
-        for (unsigned long i = 0; i < sizeof(zigzag_to_array); ++i) {
+        for (std::size_t i = 0; i < sizeof(zigzag_to_array); ++i) {
             table[tq][zigzag_to_array[i]] = unit[1 + i];
         }
         destination[k] = tq;
@@ -137,7 +137,7 @@ bool dqt_marker_t::parse() {
 
 void dqt_marker_t::dump() const {
     put_line("dqt n: ", +n);
-    for (unsigned long i = 0; i < n; ++i) {
+    for (std::size_t i = 0; i < n; ++i) {
         for (unsigned char const value : table[destination[i]]) {
             put(+value, ", ");
         }
@@ -150,7 +150,7 @@ bool dht_marker_t::parse() {
     cursor = begin();
     for (table_count = 0; cursor < end(); ++table_count) {
         if (table_count >= tables.size()) {
-            return broken();
+            return report_broken();
         }
         if (!parse_table(cursor)) {
             return false;
@@ -164,19 +164,19 @@ bool dht_marker_t::parse_table(jpeg_iterator& cursor) {
     which = {high_nibble(*cursor), low_nibble(*cursor)};
     ++cursor;
     if (which.th >= dc.size() || which.tc > 1) {
-        return broken();
+        return report_broken();
     }
     table_t& table = (which.tc == 0 ? dc : ac)[which.th];
     for (unsigned char& count_of_length : table.counts) {
         if (!(cursor < end())) {
-            return broken();
+            return report_broken();
         }
         count_of_length = *cursor;
         ++cursor;
     }
     unsigned int const codes = std::accumulate(table.counts.begin(), table.counts.end(), 0U);
-    if (codes > 0xFF) {  // the count of entries has eight bits
-        return broken();
+    if (codes > 0xFF) {  // the number of entries has 8 bits
+        return report_broken();
     }
     table.entries.resize(codes);
     unsigned short code = 0;
@@ -184,7 +184,7 @@ bool dht_marker_t::parse_table(jpeg_iterator& cursor) {
     for (unsigned char const count_of_length : table.counts) {
         for (unsigned int i = 0; i < count_of_length; ++i, ++entry, ++code, ++cursor) {
             if (!(cursor < end())) {
-                return broken();
+                return report_broken();
             }
             unsigned char const value = *cursor;
             *entry = {code, low_nibble(value), high_nibble(value)};
@@ -200,7 +200,7 @@ bool dht_marker_t::parse_table(jpeg_iterator& cursor) {
 
 void dht_marker_t::dump() const {
     put_line("dht length: ", length);
-    for (unsigned long i = 0; i < table_count; ++i) {
+    for (std::size_t i = 0; i < table_count; ++i) {
         put_line("tc: ", +tables[i].tc, ", th: ", +tables[i].th);
         char const* separator = "entries: ";
         for (unsigned char const count_of_length :
@@ -214,7 +214,7 @@ void dht_marker_t::dump() const {
 
 bool dri_marker_t::parse() {
     if (size() != 2) {
-        return broken();
+        return report_broken();
     }
     interval = word_at(*this, 0);
     return true;
@@ -226,19 +226,19 @@ void dri_marker_t::dump() const {
 
 bool sos_marker_t::parse() {
     if (size() < 4) {
-        return broken();
+        return report_broken();
     }
     ns = (*this)[0];
     if (size() != ns * 2UL + 4UL) {
-        return broken();
+        return report_broken();
     }
     components.resize(ns);
-    unsigned long at = 1;
+    std::size_t at = 1;
     for (element_t& element : components) {
         unsigned char const selectors = (*this)[at + 1];
         element = {(*this)[at], high_nibble(selectors), low_nibble(selectors)};
         if (element.dc_huffman_table_selector > 1 || element.ac_huffman_table_selector > 1) {
-            return invalid();
+            return report_invalid();
         }
         at += 2;
     }

@@ -1,6 +1,23 @@
 // SPDX-License-Identifier: MIT
-// Strict readers of a baseline JPEG's marker segments, each of which also prints what it read.
+// Strict parsers for the marker segments of a baseline JPEG file.
 #pragma once
+
+/// Prints the fields of a frame header:
+///
+/// ```cpp
+/// #include "metadata/jpegmarkers.h"
+///
+/// void print(libgr::jpeg_bytes_t const& payload) {
+///     libgr::sof0_marker_t frame;
+///     frame.set_sof0_buffer(payload);
+///     if (frame.parse()) {
+///         frame.dump();
+///     }
+/// }
+/// ```
+///
+/// The payload is the bytes after the segment's length field. The caller has to find the segments
+/// in the file. Numbers in segments are big-endian (ITU-T T.81, B.2).
 
 #include <array>
 #include <vector>
@@ -9,37 +26,44 @@
 
 namespace libgr {
 
-// Each reader is the window into its segment's payload: the bytes behind the segment's length,
-// which the buffer setter shares (ITU-T T.81, B.2). `parse` reads it; false is a refusal, with one
-// line on the error stream, and leaves what was read until then. `dump` prints the fields on
-// standard output. `clear` drops the payload and empties the fields.
+// Each parser is a view of a segment's payload and has the same functions:
+//
+//   set_..._buffer(payload)  Shares the memory of the payload.
+//   parse()                  Reads the payload into the fields. If the payload is invalid, prints
+//                            one line on the error stream and returns false. The fields keep the
+//                            values that were read before the error.
+//   dump()                   Prints the fields on standard output.
+//   clear()                  Releases the payload and resets the fields.
+//
+// Files that other decoders accept may be rejected: only 8-bit samples, 8-bit quantization tables,
+// two DC and two AC tables, and scans with all 64 coefficients are supported.
 
-/// The masks of a byte's bits, the highest first.
+/// The masks of the bits of a byte, highest bit first.
 inline constexpr unsigned char bit_shift_table[8] = {0x80, 0x40, 0x20, 0x10,
                                                      0x08, 0x04, 0x02, 0x01};
 
-/// From the place in zigzag order to the place in row by row order (T.81, figure A.6).
+/// Maps an index in zigzag order to the index in row-by-row order (T.81, figure A.6).
 extern unsigned char const zigzag_to_array[64];
 
-/// The frame header of a baseline picture.
+/// The frame header (SOF0).
 class sof0_marker_t : public jpeg_bytes_t {
   public:
     struct element_t {
         unsigned char component_id;
         unsigned char horiz_factor;
         unsigned char verts_factor;
-        /// Read two bytes behind its place in the standard, so that the last component's lies
-        /// behind the segment; 0 where the shared bytes end there.
+        /// Read from two bytes after the position in the standard, because existing output depends
+        /// on it. For the last component this is after the segment. 0 if the file ends before.
         unsigned char quatable_sel;
     };
 
-    unsigned char sample_precision = 0;  ///< bits a sample
+    unsigned char sample_precision = 0;  ///< bits
     unsigned short lines = 0;            ///< height in pixels
     unsigned short samples = 0;          ///< width in pixels
-    unsigned char colors = 0;            ///< components
+    unsigned char colors = 0;            ///< number of components
     std::vector<element_t> components;
-    unsigned short max_horiz = 0;
-    unsigned short max_verts = 0;
+    unsigned short max_horiz = 0;  ///< the largest `horiz_factor`
+    unsigned short max_verts = 0;  ///< the largest `verts_factor`
 
     void set_sof0_buffer(jpeg_bytes_t const& payload) { jpeg_bytes_t::operator=(payload); }
     bool parse();
@@ -47,14 +71,14 @@ class sof0_marker_t : public jpeg_bytes_t {
     void clear() override { *this = {}; }
 };
 
-/// Quantisation tables of 8 bits.
+/// Quantization tables (DQT).
 class dqt_marker_t : public jpeg_bytes_t {
   public:
     using table_t = std::array<unsigned char, 64>;
 
-    unsigned char n = 0;                         ///< tables in the segment
-    std::array<table_t, 4> table{};              ///< by destination, row by row
-    std::array<unsigned char, 4> destination{};  ///< of the segment's tables in their order
+    unsigned char n = 0;                         ///< number of tables in the segment
+    std::array<table_t, 4> table{};              ///< by destination, values row by row
+    std::array<unsigned char, 4> destination{};  ///< the destinations in the order of the file
 
     void set_dqt_buffer(jpeg_bytes_t const& payload) { jpeg_bytes_t::operator=(payload); }
     bool parse();
@@ -62,7 +86,7 @@ class dqt_marker_t : public jpeg_bytes_t {
     void clear() override { *this = {}; }
 };
 
-/// Huffman tables.
+/// Huffman tables (DHT).
 class dht_marker_t : public jpeg_bytes_t {
   public:
     struct entry_t {
@@ -71,17 +95,17 @@ class dht_marker_t : public jpeg_bytes_t {
         unsigned char run_length;
     };
     struct table_t {
-        std::array<unsigned char, 16> counts{};  ///< codes of 1 to 16 bits
-        std::vector<entry_t> entries;            ///< in the order of their codes
+        std::array<unsigned char, 16> counts{};  ///< numbers of codes with 1 to 16 bits
+        std::vector<entry_t> entries;            ///< ordered by code
     };
     struct class_and_destination_t {
-        unsigned char tc;  ///< 0 a DC table, 1 an AC table
-        unsigned char th;
+        unsigned char tc;  ///< 0 for a DC table, 1 for an AC table
+        unsigned char th;  ///< destination, 0 or 1
     };
 
-    unsigned short length = 0;  ///< never set
+    unsigned short length = 0;  ///< always 0; existing output depends on it
     std::array<class_and_destination_t, 4> tables{};
-    unsigned char table_count = 0;  ///< tables read, in their order in `tables`
+    unsigned char table_count = 0;  ///< number of valid elements of `tables`
     std::array<table_t, 2> dc;
     std::array<table_t, 2> ac;
 
@@ -94,10 +118,10 @@ class dht_marker_t : public jpeg_bytes_t {
     bool parse_table(jpeg_iterator& cursor);
 };
 
-/// The restart interval.
+/// The restart interval (DRI).
 class dri_marker_t : public jpeg_bytes_t {
   public:
-    unsigned short interval = 0;  ///< minimum coded units; 0 without restarts
+    unsigned short interval = 0;  ///< minimum coded units, 0 for no restarts
 
     void set_dri_buffer(jpeg_bytes_t const& payload) { jpeg_bytes_t::operator=(payload); }
     bool parse();
@@ -105,7 +129,7 @@ class dri_marker_t : public jpeg_bytes_t {
     void clear() override { *this = {}; }
 };
 
-/// The scan header of a picture in one scan.
+/// The scan header (SOS).
 class sos_marker_t : public jpeg_bytes_t {
   public:
     struct element_t {
@@ -114,13 +138,13 @@ class sos_marker_t : public jpeg_bytes_t {
         unsigned char ac_huffman_table_selector;
     };
 
-    unsigned char ns = 0;  ///< components in the scan
+    unsigned char ns = 0;  ///< number of components in the scan
     std::vector<element_t> components;
-    unsigned char ss = 0;
-    unsigned char se = 0;
-    unsigned char ah = 0;
-    unsigned char al = 0;
-    dht_marker_t* dht = nullptr;  ///< the scan's tables; not owned, and `clear` leaves it
+    unsigned char ss = 0;         ///< first coefficient, 0
+    unsigned char se = 0;         ///< last coefficient, 63
+    unsigned char ah = 0;         ///< successive approximation, 0
+    unsigned char al = 0;         ///< successive approximation, 0
+    dht_marker_t* dht = nullptr;  ///< the scan's tables; not owned, not changed by `clear`
 
     void set_sos_buffer(jpeg_bytes_t const& payload) { jpeg_bytes_t::operator=(payload); }
     void set_dht_marker(dht_marker_t* tables) { dht = tables; }

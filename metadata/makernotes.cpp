@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The readers of the makers' notes: IFDs of the maker's own inside the Exif tag MakerNote.
+// The parsers for the makers' notes: IFDs with the maker's own tags, in the Exif tag MakerNote.
 #include "metadata/makernotes.h"
 
 #include <strings.h>
@@ -15,13 +15,13 @@ namespace {
 using tiff_header_t = app1_marker_t::tiff_header_t;
 
 constexpr ifd_rules_t note_rules(char const* name) {
-    return {ifd_bounds_t::note, ifd_unknown_type_t::refuse, name};
+    return {ifd_checks_t::note, unknown_type_t::fail, name};
 }
 
-constexpr ifd_rules_t olympus_rules = {ifd_bounds_t::note, ifd_unknown_type_t::refuse,
+constexpr ifd_rules_t olympus_rules = {ifd_checks_t::note, unknown_type_t::fail,
                                        "olympus ifd: ", true};
 constexpr ifd_rules_t olympus3_rules = note_rules("olympus3 ifd: ");
-constexpr ifd_rules_t equipment_rules = {ifd_bounds_t::note, ifd_unknown_type_t::stop,
+constexpr ifd_rules_t equipment_rules = {ifd_checks_t::note, unknown_type_t::stop,
                                          "olympus3 equipment ifd: "};
 constexpr ifd_rules_t camerasettings_rules = note_rules("olympus3 camerasettings ifd: ");
 constexpr ifd_rules_t focusinfo_rules = note_rules("olympus3 focusinfo ifd: ");
@@ -29,42 +29,42 @@ constexpr ifd_rules_t pentax5_rules = note_rules("pentax5 ifd: ");
 
 using olympus_t = ExifType::tag_olympus_ifd;
 constexpr tag_row_t<olympus_t> olympus_tags[] = {
-    {0x100B, 2, &olympus_t::tag_0x100B}, {0x100C, 8, &olympus_t::tag_0x100C},
-    {0x100F, 2, &olympus_t::tag_0x100F}, {0x1015, 4, &olympus_t::tag_0x1015},
-    {0x1029, 2, &olympus_t::tag_0x1029},
+    {0x100B, &olympus_t::tag_0x100B}, {0x100C, &olympus_t::tag_0x100C},
+    {0x100F, &olympus_t::tag_0x100F}, {0x1015, &olympus_t::tag_0x1015, 4},
+    {0x1029, &olympus_t::tag_0x1029},
 };
 
 using equipment_t = ExifType::tag_olympus3_equipment_ifd;
 constexpr tag_row_t<equipment_t> equipment_tags[] = {
-    {0x0203, any_size, &equipment_t::tag_0x0203},
+    {0x0203, &equipment_t::tag_0x0203},
 };
 
 using camerasettings_t = ExifType::tag_olympus3_camerasettings_ifd;
 constexpr tag_row_t<camerasettings_t> camerasettings_tags[] = {
-    {0x0500, 2, &camerasettings_t::tag_0x0500},
-    {0x0501, 2, &camerasettings_t::tag_0x0501},
-    {0x0804, 8, &camerasettings_t::tag_0x0804},
+    {0x0500, &camerasettings_t::tag_0x0500},
+    {0x0501, &camerasettings_t::tag_0x0501},
+    {0x0804, &camerasettings_t::tag_0x0804},
 };
 
 using focusinfo_t = ExifType::tag_olympus3_focusinfo_ifd;
 constexpr tag_row_t<focusinfo_t> focusinfo_tags[] = {
-    {0x0209, 2, &focusinfo_t::tag_0x0209}, {0x0300, 2, &focusinfo_t::tag_0x0300},
-    {0x0301, 2, &focusinfo_t::tag_0x0301}, {0x0303, 2, &focusinfo_t::tag_0x0303},
-    {0x0304, 2, &focusinfo_t::tag_0x0304}, {0x0305, 8, &focusinfo_t::tag_0x0305},
-    {0x0308, 2, &focusinfo_t::tag_0x0308}, {0x031B, 2, &focusinfo_t::tag_0x031B},
+    {0x0209, &focusinfo_t::tag_0x0209}, {0x0300, &focusinfo_t::tag_0x0300},
+    {0x0301, &focusinfo_t::tag_0x0301}, {0x0303, &focusinfo_t::tag_0x0303},
+    {0x0304, &focusinfo_t::tag_0x0304}, {0x0305, &focusinfo_t::tag_0x0305},
+    {0x0308, &focusinfo_t::tag_0x0308}, {0x031B, &focusinfo_t::tag_0x031B},
 };
 
 using pentax5_t = ExifType::tag_pentax5_ifd;
 constexpr tag_row_t<pentax5_t> pentax5_tags[] = {
-    {0x000D, 2, &pentax5_t::tag_0x000D},
-    {0x0010, 2, &pentax5_t::tag_0x0010},
-    {0x0019, 2, &pentax5_t::tag_0x0019},
-    {0x001A, 2, &pentax5_t::tag_0x001A},
+    {0x000D, &pentax5_t::tag_0x000D},
+    {0x0010, &pentax5_t::tag_0x0010},
+    {0x0019, &pentax5_t::tag_0x0019},
+    {0x001A, &pentax5_t::tag_0x001A},
 };
 
 using note_reader_t = bool (tiff_header_t::*)(jpeg_bytes_t const&, jpeg_bytes_t const&);
 
-/// The sub-IFDs of a note, in the order in which they are read.
+/// The sub-IFDs of an OM Digital Solutions note, in the order in which they are read.
 struct sub_ifd_row_t {
     unsigned short tag;
     jpeg_bytes_t tiff_header_t::*view;
@@ -77,12 +77,12 @@ constexpr sub_ifd_row_t olympus3_sub_ifds[] = {
     {0x2050, &tiff_header_t::ifd_olympus3_focusinfo, &tiff_header_t::parse_olympus3_focusinfo_ifd},
 };
 
-/// How a camera's note is known, and where its IFD begins in it.
+/// A kind of note: how it is recognized, and the start of the IFD in it.
 struct maker_row_t {
-    std::string_view make;       ///< what Make begins with, in any case
-    std::string_view signature;  ///< what the note begins with
-    unsigned long start;         ///< bytes
-    note_reader_t reader;        ///< null for a note whose offsets count from the TIFF block
+    std::string_view make;       ///< start of Make, in any case
+    std::string_view signature;  ///< start of the note
+    std::size_t start;           ///< bytes
+    note_reader_t reader;        ///< null if offsets are relative to the TIFF block
 };
 constexpr maker_row_t makers[] = {
     {"OLYMPUS", "OLYMP", 8, nullptr},
@@ -91,27 +91,27 @@ constexpr maker_row_t makers[] = {
     {"RICOH", "PENTAX", 10, &tiff_header_t::parse_pentax5_ifd},
 };
 
-bool is_from(maker_row_t const& row, std::string const& make, jpeg_bytes_t const& note) {
+bool is_note_of(maker_row_t const& row, std::string const& make, jpeg_bytes_t const& note) {
     return ::strncasecmp(make.c_str(), row.make.data(), row.make.size()) == 0 &&
-           begins_with(note, row.signature);
+           has_prefix(note, row.signature);
 }
 
 /// Reads an Olympus note from a copy of its IFD.
 bool read_copied_note(tiff_header_t& header, maker_row_t const& row, jpeg_bytes_t const& note) {
-    unsigned long const n = short_at(note, row.start, *header.byteorder);
+    std::size_t const n = short_at(note, row.start, *header.byteorder);
     if (row.start != 0 && n == 0) {
         return false;
     }
     jpeg_bytes_t& ifd = header.ifd_maker_note;
-    ifd = part_of(note, row.start, ifd_size(n));
-    // The note is only asked for the IFD's size, not for what stands before the IFD: entries that
-    // its end then cuts off read as 0. A shorter note is refused by the reader.
-    bool const is_enough = note.size() >= ifd_size(n);
-    return ifd.resize(is_enough ? ifd_size(n) : ifd.size(), 0) && header.parse_olympus_ifd(ifd);
+    ifd = subview(note, row.start, ifd_size(n));
+    // The signature isn't included in this check, because existing files depend on it. Bytes after
+    // the end of the note read as 0. A shorter note fails in the parser.
+    bool const is_complete = note.size() >= ifd_size(n);
+    return ifd.resize(is_complete ? ifd_size(n) : ifd.size(), 0) && header.parse_olympus_ifd(ifd);
 }
 
 bool read_note_in_place(tiff_header_t& header, maker_row_t const& row, jpeg_bytes_t const& note) {
-    header.ifd_maker_note = part_of(note, row.start, jpeg_bytes_t::to_end);
+    header.ifd_maker_note = subview(note, row.start, jpeg_bytes_t::to_end);
     return note.size() > row.start && (header.*row.reader)(header.ifd_maker_note, note);
 }
 
@@ -123,7 +123,7 @@ bool read_maker_note(tiff_header_t& header) {
         return true;
     }
     for (maker_row_t const& row : makers) {
-        if (is_from(row, header.tag_0th_ifd.Make, note)) {
+        if (is_note_of(row, header.tag_0th_ifd.Make, note)) {
             return row.reader == nullptr ? read_copied_note(header, row, note)
                                          : read_note_in_place(header, row, note);
         }
@@ -139,8 +139,8 @@ bool tiff_header_t::parse_olympus3_ifd(jpeg_bytes_t const& ifd, jpeg_bytes_t con
     auto const set_view = [&](ifd_entry_t const& entry) {
         for (sub_ifd_row_t const& row : olympus3_sub_ifds) {
             if (row.tag == entry.tag && entry.size == 4) {
-                unsigned long const at = long_at(entry.value, 0, *byteorder);
-                this->*row.view = part_of(note, at, ifd_size(short_at(note, at, *byteorder)));
+                std::uint64_t const at = long_at(entry.value, 0, *byteorder);
+                this->*row.view = subview(note, at, ifd_size(short_at(note, at, *byteorder)));
             }
         }
     };

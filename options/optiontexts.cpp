@@ -78,7 +78,8 @@ std::string roff_form(std::string const& form) {
 
 void put_man(std::ostream& out, row_t const& row) {
     out << ".TP\n\\fB\\-" << row.name << "\\fR";
-    out << (is_flag(row) ? "[+|\\-]\n" : " " + roff_form(value_forms[row.type]));
+    out << (is_flag(row) ? std::string("[+|\\-]\n")
+                         : std::string(" ").append(roff_form(value_forms[row.type])));
     out << replaced(replaced(row.comment, '-', "\\-"), '\'', "\\(aq") << "\n";
     out << "Built in: " << built_in(row);
     if (row.type == zanolib::OPTION_TYPE_PERCENT) {
@@ -96,7 +97,7 @@ void put_bash(std::ostream& out, row_t const& row) {
 
 void put_zsh(std::ostream& out, row_t const& row) {
     std::string const comment =
-        "[" + replaced(replaced(row.comment, ':', "\\:"), '\'', "'\\''") + "]";
+        std::string("[").append(replaced(replaced(row.comment, ':', "\\:"), '\'', "'\\''")) + "]";
     std::string const name = std::string("-") + row.name;
     if (is_flag(row)) {
         out << "    '(" << name << "-)" << name << comment << "' \\\n";

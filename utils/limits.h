@@ -39,7 +39,7 @@ inline constexpr limit_t bmp_palette{"bmp-palette", 65536, "entries"};
 inline constexpr limit_t png_ratio{"png-ratio", 1032, "bytes of pixels for each of the file"};
 
 /// With Huffman coding, a picture of one colour has some 1500 bytes of pixels for each byte of the
-/// file. Arithmetic coding has no such bound.
+/// file. Arithmetic coding has no bound.
 inline constexpr limit_t jpeg_ratio{"jpeg-ratio", 4096, "bytes of pixels for each of the file"};
 inline constexpr limit_t jpeg_unchecked{"jpeg-unchecked", 67108864, "bytes of pixels"};
 inline constexpr limit_t jpeg_arithmetic_unchecked{"jpeg-arithmetic-unchecked", 1073741824,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The event loop, and the way from GLFW's callbacks to the application's operations.
+// The event loop, and the translation of GLFW's callbacks to calls of the application.
 #include "window/glfwymgr4.h"
 
 #define GLFW_INCLUDE_NONE
@@ -16,9 +16,9 @@ namespace {
 
 constexpr int initial_width = 640;
 constexpr int initial_height = 480;
-constexpr int highest_character = 127;
+constexpr int max_character = 127;
 
-/// A GLFW key and the character or special code that it is passed on as.
+/// A GLFW key, and the character or key number that the application gets for it.
 struct key_code_t {
     int key;
     int code;
@@ -48,6 +48,7 @@ constexpr std::array key_codes = {
     key_code_t{GLFW_KEY_KP_EQUAL, '='},
 };
 
+/// The position of the cursor in screen coordinates.
 struct cursor_t {
     int x, y;
 };
@@ -73,14 +74,15 @@ int key_code(int key) {
     return key;
 }
 
-/// The character of a key, a letter in the case that the modifiers ask for.
+/// Returns the character of a key. A letter is upper case if Shift or Caps Lock is on, but not
+/// both.
 unsigned char character_of(int code, int mods) {
     int const locks = mods & (GLFW_MOD_SHIFT | GLFW_MOD_CAPS_LOCK);
     bool const is_upper = locks == GLFW_MOD_SHIFT || locks == GLFW_MOD_CAPS_LOCK;
     return static_cast<unsigned char>(is_upper ? code : std::tolower(code));
 }
 
-bool is_passed_on(int action) {
+bool is_press_or_repeat(int action) {
     return action == GLFW_PRESS ||
            (action == GLFW_REPEAT && glfwyMGR4::getSingleton()->isKeyRepeat());
 }
@@ -106,10 +108,10 @@ void keyboard(GLFWwindow* window, int key, int, int action, int mods) noexcept {
     glutyAPI4* const api = current_api(window);
     cursor_t const cursor = cursor_of(window);
     int const code = key_code(key);
-    if (code > highest_character) {
+    if (code > max_character) {
         if (action == GLFW_RELEASE) {
             api->specialkeyup(code, cursor.x, cursor.y);
-        } else if (is_passed_on(action)) {
+        } else if (is_press_or_repeat(action)) {
             api->specialkey(code, cursor.x, cursor.y);
         }
         return;
@@ -117,13 +119,13 @@ void keyboard(GLFWwindow* window, int key, int, int action, int mods) noexcept {
     unsigned char const character = character_of(code, mods);
     if (action == GLFW_RELEASE) {
         api->keyboardup(character, cursor.x, cursor.y);
-    } else if (is_passed_on(action)) {
+    } else if (is_press_or_repeat(action)) {
         api->keyboard(character, cursor.x, cursor.y);
     }
 }
 
 void mouse(GLFWwindow* window, int button, int action, int) noexcept {
-    // GLFW counts left, right, middle.
+    // GLFW's buttons are left, right, middle; the application's are left, middle, right.
     static constexpr std::array buttons = {0, 2, 1};
     glutyAPI4* const api = current_api(window);
     cursor_t const cursor = cursor_of(window);
@@ -131,7 +133,7 @@ void mouse(GLFWwindow* window, int button, int action, int) noexcept {
         int const state = action == GLFW_PRESS ? 0 : 1;
         api->mouse(buttons[static_cast<std::size_t>(button)], state, cursor.x, cursor.y);
     } else if (action == GLFW_PRESS) {
-        // The buttons behind the third are wheels, two to a wheel.
+        // The buttons from the fourth on are wheels: two buttons for each wheel.
         int const direction = button % 2 != 0 ? 1 : -1;
         api->mousewheel((button - 3) / 2, direction, cursor.x, cursor.y);
     }

@@ -1,6 +1,25 @@
 // SPDX-License-Identifier: MIT
-// The windows and the event loop, over GLFW 3.
+// The windows and the event loop, on top of GLFW 3.
 #pragma once
+
+/// Shows a window until the user closes it or the application calls `Exit`:
+///
+/// ```cpp
+/// #include <GLFW/glfw3.h>
+///
+/// #include "window/glfwymgr4.h"
+///
+/// void run(wenk::glutyAPI4& application) {
+///     glfwInit();
+///     wenk::glfwyMGR4* const manager = wenk::glfwyMGR4::getSingleton();
+///     manager->addWindow(&application, "title");
+///     manager->MainLoop();
+///     glfwTerminate();
+/// }
+/// ```
+///
+/// The order of calls is: glfwInit, glfwWindowHint if needed, `addWindow` for each window,
+/// `MainLoop`, glfwTerminate. All calls must come from the main thread.
 
 #include <map>
 
@@ -11,38 +30,46 @@ struct GLFWwindow;
 
 namespace wenk {
 
-/// Holds the windows and runs the one event loop, which sleeps until an event arrives and draws
-/// only on request. One instance stands from before `main` to the process's end, and everything
-/// runs on the main thread, between the application's start and end of GLFW.
+/// Owns the windows and runs the event loop. The loop sleeps until an event arrives, and draws only
+/// on request. The library has one instance, from before `main` to the end of the process.
 class glfwyMGR4 : public singleton<glfwyMGR4> {
   public:
-    /// Makes a window of 640x480 with the context that GLFW gives by default, binds its events to
-    /// `api`, which is not owned and must outlive the window, and calls `api->init()` with the
-    /// context current. Null when `api` is null or the window can't be made.
+    /// Creates a window of 640 by 480 screen coordinates and its OpenGL context, with the current
+    /// window hints. Sends its events to `api`, makes the context current and calls `api->init()`,
+    /// in which `win` can be used.
+    ///
+    /// Returns null if `api` is null or if GLFW can't create the window. `api` isn't owned and must
+    /// stay valid until the window is destroyed.
     GLFWwindow* addWindow(glutyAPI4* api, char const* title);
 
-    /// Runs until `Exit` was called (the windows then stay) or all windows were closed by their
-    /// user (each is destroyed).
+    /// Handles events until `Exit` is called or the user has closed all windows.
+    ///
+    /// A window is destroyed when the user closes it. After `Exit` the open windows aren't
+    /// destroyed; glfwTerminate destroys them.
     void MainLoop();
 
-    /// The window of `api`, and the other way round. The pair must exist.
+    /// Returns the window of `api`. The window must exist.
     GLFWwindow* win(glutyAPI4* api) const;
+    /// Returns the application object of `window`. The window must exist.
     glutyAPI4* api(GLFWwindow* window) const;
 
-    /// Ends the loop behind the next event, or behind the present one when a handler calls it.
+    /// Makes `MainLoop` return. It returns after the current event, or after the next one if no
+    /// event is being handled.
     void Exit() { exit_requested = true; }
 
-    /// All windows are drawn in the loop's next pass, once however many requests came. A request
-    /// made while the loop itself draws is lost.
+    /// Requests that the loop draws all windows after the current events. Several requests result
+    /// in one drawing. A request from `display` is lost if the loop called `display`.
     void PostRedisplay();
 
+    /// Swaps the buffers of the window of `api`. Only code that calls `display` itself needs it.
     void SwapBuffers(glutyAPI4* api) const;
 
-    /// Whether a held key reaches `keyboard` and `specialkey` again and again; off at start.
+    /// Sets if a key that is held down repeats its call of `keyboard` or `specialkey`. Initially
+    /// off.
     void KeyRepeat(bool on) { key_repeat = on; }
     bool isKeyRepeat() const { return key_repeat; }
 
-    /// Whether `idle` is called at each wake-up; on at start.
+    /// Set if the loop calls `idle` of each window once after each wake-up. Initially on.
     void IdleOn() { idle_enabled = true; }
     void IdleOff() { idle_enabled = false; }
 

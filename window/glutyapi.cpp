@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The empty bodies of the window's interface.
+// The default implementations of the window events, which do nothing.
 #include "window/glutyapi.h"
 
 namespace wenk {

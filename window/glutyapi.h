@@ -1,35 +1,54 @@
 // SPDX-License-Identifier: MIT
-// What a window reports to the application: one virtual operation an event.
+// The interface that receives the events of a window: one virtual function for each event.
 #pragma once
+
+/// An application that ends with the Escape key:
+///
+/// ```cpp
+/// #include "window/glfwymgr4.h"
+///
+/// struct application_t : wenk::glutyAPI4 {
+///     void keyboard(unsigned char key, int, int) override {
+///         if (key == 27) {
+///             wenk::glfwyMGR4::getSingleton()->Exit();
+///         }
+///     }
+/// };
+/// ```
 
 namespace wenk {
 
-// Sizes and positions are in the window's screen coordinates, the origin in the upper left corner.
-// The window's OpenGL context is current in all of these.
-
-/// The base interface. All bodies are empty.
+/// The basic events. The default implementations do nothing.
+///
+/// All calls come from the main thread, with the window's OpenGL context current. Sizes and
+/// positions are in GLFW's screen coordinates, relative to the upper left corner of the window. `x`
+/// and `y` are the position of the cursor.
 class glutyAPI {
   public:
-    /// The window has a new size (not that of its framebuffer). A redisplay follows.
+    /// The window was resized. The size of its framebuffer may differ. The window is drawn
+    /// afterwards.
     virtual void reshape(int width, int height);
-    /// Draw. The buffers are swapped by the caller.
+    /// Draws the window. The caller swaps the buffers afterwards.
     virtual void display();
-    /// A character key was pressed, or repeats. Letters are lower case unless Shift or Caps Lock
-    /// alone is in force; other keys don't change with Shift. Escape is 27, Enter 13, Tab 9,
-    /// Backspace 8, an unknown key 255.
+    /// A key with a character was pressed, or repeats. A letter is upper case if either Shift or
+    /// Caps Lock is on (GLFW reports Caps Lock only with GLFW_LOCK_KEY_MODS). Other characters
+    /// don't depend on Shift: Shift and 1 is '1'. Escape is 27, Enter 13, Tab 9, Backspace 8, and a
+    /// key that GLFW doesn't know is 255.
     virtual void keyboard(unsigned char key, int x, int y);
-    /// A key without a character was pressed, or repeats: GLFW's key number, 128 and above. The
-    /// keypad's digits come as the keys that share their caps, its 5 as 255.
+    /// A key without a character was pressed, or repeats. `key` is GLFW's number of the key, for
+    /// example GLFW_KEY_LEFT. The digits of the keypad are reported as the keys that are printed on
+    /// their caps, 7 as GLFW_KEY_HOME, and 5 as 255.
     virtual void specialkey(int key, int x, int y);
-    /// Button 0 is left, 1 middle, 2 right; state 0 is down, 1 up.
+    /// A button was pressed (`state` 0) or released (`state` 1). Button 0 is left, 1 middle, 2
+    /// right.
     virtual void mouse(int button, int state, int x, int y);
-    /// The cursor moved, with a button down or not.
+    /// The cursor was moved, with or without a pressed button.
     virtual void motion(int x, int y);
-    /// Never called.
+    /// Isn't called. `motion` reports all movements.
     virtual void passivemotion(int x, int y);
-    /// Once a wake-up of the event loop, while it is switched on.
+    /// The event loop was woken up. See `glfwyMGR4::IdleOn`.
     virtual void idle();
-    /// Once, when the window is up.
+    /// The window was created. Called once.
     virtual void init();
     virtual ~glutyAPI();
 
@@ -38,14 +57,18 @@ class glutyAPI {
     glutyAPI& operator=(glutyAPI const&) = delete;
 };
 
-/// The interface with key releases, wheels and dropped files. All bodies are empty.
+/// Adds key releases, wheels and dropped files. The default implementations do nothing.
 class glutyAPI4 : public glutyAPI {
   public:
+    /// A key was released. See `keyboard` for the arguments.
     virtual void keyboardup(unsigned char key, int x, int y);
+    /// A key was released. See `specialkey` for the arguments.
     virtual void specialkeyup(int key, int x, int y);
-    /// `direction` is +1 forward, -1 back, or 0. Wheels count from 0.
+    /// A wheel was turned by one step: `direction` is 1 away from the user, -1 towards the user,
+    /// and 0 for a horizontal movement. The main wheel is 0. Mouse buttons 4 and 5 are reported as
+    /// steps of wheel 0, buttons 6 and 7 as steps of wheel 1, and so on.
     virtual void mousewheel(int wheel, int direction, int x, int y);
-    /// `count` paths were dropped on the window; they are the caller's and end with the call.
+    /// Files were dropped on the window. The array of `count` paths is valid only during the call.
     virtual void drop(int count, char const** paths);
 };
 

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// A class with one instance that can be reached from everywhere.
+// A base class for classes with one global instance.
 #pragma once
 
 namespace wenk {
 
-/// Base of a class `T` of which one instance exists; nothing guards against a second one.
+/// The base of a class `T` with one instance. If a second one is created, it replaces the first.
 template <typename T>
 class singleton {
   public:
     singleton(singleton const&) = delete;
     singleton& operator=(singleton const&) = delete;
 
-    /// The instance, or null outside its lifetime.
+    /// Returns the instance. Returns null before its construction and after its destruction.
     static T* getSingleton() { return ms_singleton; }
 
   protected:

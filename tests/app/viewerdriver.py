@@ -58,7 +58,8 @@ def write_bmp(path, width, height, bits, pixel):
 class Viewer:
     """The program on the screen. `with` ends it by a key and looks at how it ended, and that
     it printed `errors`, a text or a pattern, onto the error stream. A `command` must become the
-    program by exec. The program prints to `stream`."""
+    program by exec. The program prints to `stream`; by default,
+    to a pipe and to a file, which takes any number of lines."""
 
     def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
                  executable=None, cwd=None, stream=None, **environment):
@@ -97,10 +98,10 @@ class Viewer:
         """Standard output and error stream. What a sanitizer says is a fault, but for leaks in
         which nothing of ours takes part: the GL driver has some, and is unloaded when they are
         counted."""
-        output, _ = self.process.communicate(timeout=30)
+        output, errors = self.process.communicate(timeout=30)
         with self.error_file as file:
             file.seek(0)
-            errors = file.read()
+            errors = errors or file.read()
         # Mesa prints this although it hides the extension.
         output = re.sub("Warning: extension '.*' cannot be disabled\n", "", output or "")
         errors, _, report = errors.partition("\n====")

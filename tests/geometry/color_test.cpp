@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Colour conversions: known colours there and back again.
+// Tests of the colour conversions with known colours.
 #include "geometry/color.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ namespace libgr {
 
 namespace {
 
-TEST(Color, KnownColoursAsLumaAndChroma) {
+TEST(Color, ConvertsToLumaAndChromaAndBack) {
     std::tuple<color3ub_t, int, int, int> const rows[] = {
         {white3ub, 255, 128, 128},       {black3ub, 0, 128, 128},    {gray3ub, 127, 128, 128},
         {{255, 0, 0}, 76, 107, 192},     {{0, 255, 0}, 150, 86, 75}, {{0, 0, 255}, 29, 192, 118},
@@ -20,11 +20,17 @@ TEST(Color, KnownColoursAsLumaAndChroma) {
     };
     for (auto const& [rgb, y, cb, cr] : rows) {
         ycbcrub_t const got = ycbcrub(rgb);
-        EXPECT_TRUE(got.y == y && got.cb == cb && got.cr == cr) << y;
-        color3ub_t const back = color3ub(got);  // half a step of chroma is up to 2 of a colour
-        for (auto const part : {&color3ub_t::r, &color3ub_t::g, &color3ub_t::b})
-            EXPECT_NEAR(back.*part, rgb.*part, 3) << y;
+        EXPECT_EQ(got.y, y) << "luma " << y;
+        EXPECT_EQ(got.cb, cb) << "luma " << y;
+        EXPECT_EQ(got.cr, cr) << "luma " << y;
+        color3ub_t const back = color3ub(got);
+        for (auto const channel : {&color3ub_t::r, &color3ub_t::g, &color3ub_t::b}) {
+            EXPECT_NEAR(back.*channel, rgb.*channel, 3) << "luma " << y;
+        }
     }
+}
+
+TEST(Color, ClampsChannelsOutsideTheRange) {
     EXPECT_EQ(color3ub(ycbcrub(255, 255, 255)), color3ub(255, 0, 255));
     EXPECT_EQ(color3ub(ycbcrub(0, 0, 0)), color3ub(0, 255, 0));
 }

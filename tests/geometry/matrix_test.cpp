@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Matrices and turns: order of products, memory order, inverses, the half angle.
+// Tests of matrices and rotations: order of products, memory order, inverses, the half angle.
 #include "geometry/matrix.h"
 
 #include <gtest/gtest.h>
@@ -15,14 +15,15 @@ namespace libgr {
 
 namespace {
 
-constexpr matrix3w_t MIXED{{{2, -1, 0, 3}, {4, 5, -2, 1}, {-3, 2, 6, 0}, {1, 7, -4, 2}}};
+constexpr matrix3w_t mixed{{{2, -1, 0, 3}, {4, 5, -2, 1}, {-3, 2, 6, 0}, {1, 7, -4, 2}}};
 
 void expect_near(matrix3w_t const& got, matrix3w_t const& want, float tolerance) {
-    for (int i = 0; i < 16; ++i)
+    for (int i = 0; i < 16; ++i) {
         ASSERT_NEAR(got.data()[i], want.data()[i], tolerance) << "float " << i << " of " << got;
+    }
 }
 
-TEST(Matrix, TheLeftOneActsFirst) {
+TEST(Matrix, ProductsApplyTheLeftMatrixFirst) {
     matrix3w_t const move = getTranslateMatrix(direction3(10, 0, 0));
     matrix3w_t const turn = getRotateMatrix(rotation3(90, IdirZ));
     matrix3w_t const grow = getScaleMatrix(direction3(2, 3, 4));
@@ -30,21 +31,22 @@ TEST(Matrix, TheLeftOneActsFirst) {
         {move * turn, {0, 10, 0}}, {turn * move, {10, 0, 0}},        {move * grow, {20, 0, 0}},
         {grow * move, {10, 0, 0}}, {move * turn * grow, {0, 30, 0}},
     };
-    for (auto const& [m, centre] : rows)
-        EXPECT_LT(Length(getTranslateVector(m) - centre), 1e-5f) << m;
+    for (auto const& [m, translation] : rows) {
+        EXPECT_LT(Length(getTranslateVector(m) - translation), 1e-5f) << m;
+    }
     EXPECT_EQ(move.data()[12], 10);
-    EXPECT_EQ(vector3w(1, 2, 3, 1) * MIXED, vector3w(2, 22, 10, 7));
-    EXPECT_EQ(MIXED * vector3w(1, 2, 3, 1), vector3w(1, 2, 3, 1) * Transpose(MIXED));
+    EXPECT_EQ(vector3w(1, 2, 3, 1) * mixed, vector3w(2, 22, 10, 7));
+    EXPECT_EQ(mixed * vector3w(1, 2, 3, 1), vector3w(1, 2, 3, 1) * Transpose(mixed));
 }
 
-TEST(Matrix, InverseUndoesAndSingularIsNotFinite) {
-    EXPECT_FLOAT_EQ(Determinant(MIXED), 630);
-    expect_near(MIXED * Invert(MIXED), Imtx, 1e-5f);
+TEST(Matrix, InverseOfASingularMatrixIsNotFinite) {
+    EXPECT_FLOAT_EQ(Determinant(mixed), 630);
+    expect_near(mixed * Invert(mixed), Imtx, 1e-5f);
     EXPECT_FALSE(std::isfinite(Invert(getScaleMatrix(direction3(1, 0, 1)))[0][0]));
 }
 
-/// `v` turned by the formula of Rodrigues.
-direction3_t turned(direction3_t const& v, rotation3_t const& r) {
+/// Rotates `v` with Rodrigues' formula.
+direction3_t rotated(direction3_t const& v, rotation3_t const& r) {
     float const a = r.angle * std::numbers::pi_v<float> / 180;
     direction3_t const k = Normalize(r.axis);
     direction3_t sum = v * std::cos(a);
@@ -52,7 +54,7 @@ direction3_t turned(direction3_t const& v, rotation3_t const& r) {
     return sum += k * (ScalarProduct(k, v) * (1 - std::cos(a)));
 }
 
-TEST(Rotation, MatrixTurnsRowVectorsAndHalfTheAngleComesBack) {
+TEST(Rotation, MatrixRotatesRowVectorsAndReturnsHalfTheAngle) {
     rotation3_t const rows[] = {
         {90, {0, 0, 1}}, {30, {0, 0, 5}}, {80, {1, 0, 0}}, {120, {1, 1, 1}}, {179, {-2, 3, 0.5f}},
     };
@@ -60,7 +62,7 @@ TEST(Rotation, MatrixTurnsRowVectorsAndHalfTheAngleComesBack) {
         matrix3w_t const m = getRotateMatrix(r);
         direction3_t const v{3, -1, 2};
         position3_t const got = SpecializeToPos(vector3w(v.x, v.y, v.z, 1) * m);
-        EXPECT_LT(Length(got - pos3(turned(v, r))), 1e-5f) << r;
+        EXPECT_LT(Length(got - pos3(rotated(v, r))), 1e-5f) << r;
         EXPECT_NEAR(Determinant(m), 1, 1e-5f) << r;
         rotation3_t const half = getRotation3(m);
         EXPECT_NEAR(half.angle, r.angle / 2, 1e-2f) << r;
@@ -69,7 +71,7 @@ TEST(Rotation, MatrixTurnsRowVectorsAndHalfTheAngleComesBack) {
     }
 }
 
-TEST(Rotation, NullAxesAndTracesOutOfRange) {
+TEST(Rotation, AcceptsNullAxesAndInvalidTraces) {
     EXPECT_EQ(getRotation3(Imtx), rotation3(0, direction3(0)));
     expect_near(getRotateMatrix(rotation3(60, direction3(0))), getScaleMatrix(direction3(0.5f)),
                 1e-6f);
@@ -77,12 +79,13 @@ TEST(Rotation, NullAxesAndTracesOutOfRange) {
     EXPECT_EQ(getRotation3(getScaleMatrix(direction3(1.001f))), Irot);
 }
 
-TEST(Rotation, BetweenTwoDirections) {
+TEST(Rotation, RotatesOneDirectionToAnother) {
     direction3_t const a = Normalize(direction3(1, 2, 3));
     direction3_t const b = Normalize(direction3(-2, 0.5f, 1));
     vector3w_t const got = vector3w(a.x, a.y, a.z, 0) * getRotateMatrix(calcRotation3(a, b));
     EXPECT_LT(Length(direction3(got.x - b.x, got.y - b.y, got.z - b.z)), 1e-5f);
-    EXPECT_TRUE(calcRotation3(IdirX, IdirX) == Irot && calcRotation3(IdirX, IdirMX) == Irot);
+    EXPECT_EQ(calcRotation3(IdirX, IdirX), Irot);
+    EXPECT_EQ(calcRotation3(IdirX, IdirMX), Irot);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Vector arithmetic at its edges: zero lengths, equal sizes, quotients, integers out of reach.
+// Tests of vector arithmetic at its limits: zero lengths, equal sizes, quotients, large numbers.
 #include "geometry/vector.h"
 
 #include <gtest/gtest.h>
@@ -15,31 +15,39 @@ namespace libgr {
 
 namespace {
 
-constexpr float INF = std::numeric_limits<float>::infinity();
-constexpr float NOT_A_NUMBER = std::numeric_limits<float>::quiet_NaN();
+constexpr float infinity = std::numeric_limits<float>::infinity();
+constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 
-TEST(Vector, SizesDivideToOneWhereTheyAreEqual) {
+TEST(Vector, QuotientOfEqualSizesIsOne) {
     EXPECT_EQ(direction2(0, 600) / direction2(0, 300), direction2(1, 2));
     EXPECT_EQ(direction2(800, 0.1f) / direction2(400, 0.1f), direction2(2, 1));
-    EXPECT_EQ(1.0f / direction2(4, 0), direction2(0.25f, INF));
+    EXPECT_EQ(1.0f / direction2(4, 0), direction2(0.25f, infinity));
     EXPECT_EQ(position2(5, 1) - position2(2, 3), direction2(3, -2));
-    EXPECT_TRUE(compare(1.0f, 1.000009f) == 0 && compare(1.0f, 1.00002f) == -1);
-    EXPECT_NE(compare(NOT_A_NUMBER, 0.0f), 0);
 }
 
-TEST(Vector, SizesInPixels) {
+TEST(Vector, CompareTreatsCloseNumbersAsEqual) {
+    EXPECT_EQ(compare(1.0f, 1.000009f), 0);
+    EXPECT_EQ(compare(1.0f, 1.00002f), -1);
+    EXPECT_EQ(compare(1.00002f, 1.0f), 1);
+    EXPECT_NE(compare(nan, 0.0f), 0);
+}
+
+TEST(Vector, ConversionToPixelsTruncatesAndClamps) {
     std::pair<direction2_t, direction2l_t> const rows[] = {
         {{1.99f, -1.99f}, {1, -1}},
         {{3e9f, -3e9f}, {2147483647, -2147483647 - 1}},
-        {{INF, -INF}, {2147483647, -2147483647 - 1}},
-        {{NOT_A_NUMBER, 2147483520.0f}, {0, 2147483520}},
+        {{infinity, -infinity}, {2147483647, -2147483647 - 1}},
+        {{nan, 2147483520.0f}, {0, 2147483520}},
     };
-    for (auto const& [from, to] : rows)
+    for (auto const& [from, to] : rows) {
         EXPECT_EQ(direction2l(from), to) << from;
-    EXPECT_TRUE(direction2l(0, 5) != 0 && direction2l(5, 0) != 0 && !(datum2l != 0));
+    }
+    EXPECT_NE(direction2l(0, 5), 0);
+    EXPECT_NE(direction2l(5, 0), 0);
+    EXPECT_EQ(datum2l, 0);
 }
 
-TEST(Vector, ZeroLengthsNormalizeToZero) {
+TEST(Vector, NormalizesZeroLengthsToZero) {
     EXPECT_EQ(Normalize(direction3(0, 0, 0)), direction3(0));
     EXPECT_EQ(Normalize(Ipos), Ipos);
     EXPECT_EQ(Normalize(vector3w(0, -2, 0, 7)), vector3w(0, -1, 0, 0));
@@ -49,21 +57,21 @@ TEST(Vector, ZeroLengthsNormalizeToZero) {
               direction3(0));
 }
 
-TEST(Vector, ProductsAreRightHanded) {
+TEST(Vector, CrossProductsAreRightHanded) {
     EXPECT_EQ(CrossProduct(direction3(1, 2, 3), direction3(4, 5, 6)), direction3(-3, 6, -3));
     EXPECT_EQ(CrossProduct(position3(1, 1, 0), position3(3, 1, 0), position3(3, 4, 0)),
               direction3(0, 0, 6));
     EXPECT_EQ(ScalarTriProduct(IdirX, IdirY, IdirMZ), -1);
 }
 
-TEST(Vector, QuotientsCutTowardsZeroAndRoundUpwards) {
+TEST(Vector, RoundsToMultiplesTowardsZeroAndUpwards) {
     std::tuple<position3_t, direction3_t, position3_t, position3_t> const rows[] = {
         {{7.9f, -7.9f, 0}, direction3(2), {6, -6, 0}, {8, -6, 0}},
         {{7.9f, -7.9f, 8}, {1, 4, 8}, {7, -4, 8}, {8, -4, 8}},
         {{0.3f, -0.3f, 0.75f}, direction3(0.5f), {0, 0, 0.5f}, {0.5f, 0, 1}},
     };
-    for (auto const& [v, q, down, up] : rows) {
-        EXPECT_EQ(round_to_quotient(v, q), down) << v;
+    for (auto const& [v, q, truncated, up] : rows) {
+        EXPECT_EQ(round_to_quotient(v, q), truncated) << v;
         EXPECT_EQ(roundup_to_quotient(v, q), up) << v;
     }
 }
