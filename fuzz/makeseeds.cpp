@@ -83,7 +83,7 @@ void add_jpegs() {
         segment(0xE1, exif(true, 6)) + segment(0xED, "x"),
     };
     for (auto const& [maker, note] : makers_and_notes) {
-        segments.push_back(segment(0xE1, good_block(true, maker, note).app1()));
+        segments.push_back(segment(0xE1, block_t(true, maker, note).app1()));
     }
     std::vector<std::string> const requests = {
         "00\n",          "12ts\n",         "21p\n",
@@ -101,20 +101,19 @@ void add_jpegs() {
         }
     }
     for (auto const& [maker, note] : makers_and_notes) {
-        add("exif", good_block(true, maker, note).bytes);
-        add("exif", good_block(false, maker, note).bytes);
+        add("exif", block_t(true, maker, note).bytes());
+        add("exif", block_t(false, maker, note).bytes());
     }
 }
 
 void add_marker_segments() {
-    std::string const readers[] = {"SOF0", "DQT", "DHT", "DRI", "SOS"};
-    char reader = 0;
-    for (std::string const& line : lines_of(source / "tests/metadata/jpegmarkers.txt")) {
-        auto const* const named = std::find(std::begin(readers), std::end(readers), line);
-        if (named != std::end(readers)) {
-            reader = static_cast<char>(named - std::begin(readers));
-        } else if (line.starts_with('[')) {
-            add("jpegmarkers", reader + listed_bytes(line.substr(1, line.size() - 2)));
+    std::vector<std::string> const readers = {"SOF0", "DQT", "DHT", "DRI", "SOS"};
+    for (std::string const& line : lines_of(source / "tests/metadata/marker_rows.txt")) {
+        auto const reader = std::ranges::find(readers, line.substr(0, line.find(' ')));
+        if (reader != readers.end()) {
+            std::string const bytes = line.substr(line.find(':') + 1);
+            add("jpegmarkers", static_cast<char>(reader - readers.begin()) +
+                                   listed_bytes(bytes.substr(0, bytes.find_first_of("|>-"))));
         }
     }
 }

@@ -8,7 +8,7 @@ namespace libgr {
 
 namespace {
 
-/// Converts a chroma value of -0.5 to 0.5 to a byte. Halves are rounded away from zero.
+/// Converts a chroma value to a byte: 128 + 127 * `v`. Halves are rounded away from 128.
 unsigned char chroma_byte(float v) {
     int const rounded = static_cast<int>(v < 0.0f ? v * 127.0f - 0.5f : v * 127.0f + 0.5f);
     return static_cast<unsigned char>(rounded ^ 0x80);

@@ -46,7 +46,7 @@ struct color3b_t {
     signed char r, g, b;
 };
 
-/// Luma from 0 to 255, and two chroma values with an offset of 128: gray has the chroma bytes 128.
+/// Luma and two chroma values, each from 0 to 255. Chroma has an offset of 128, its value for gray.
 struct ycbcrub_t {
     unsigned char y, cb, cr;
 };
@@ -92,7 +92,8 @@ constexpr color3a_t operator*(color3a_t const& c, float f) {
     return {c.r * f, c.g * f, c.b * f, c.a * f};
 }
 
-/// Converts with `matrix_rgb2ycbcr`. Chroma has a scale of 127, so that its range is symmetric.
+/// Converts with `matrix_rgb2ycbcr`. A chroma value of 1 is 127 above the offset of 128, so the
+/// chroma bytes of RGB colours are between 64 and 192.
 ycbcrub_t ycbcrub(color3ub_t c);
 /// Converts with `matrix_ycbcr2rgb`. Channels outside the range of 0 to 255 are clamped to it.
 color3ub_t color3ub(ycbcrub_t c);

@@ -8,13 +8,14 @@
 
 #include "metadata/jpegcursor.h"
 
-/// The bytes as a window into a larger block, whose other bytes are all `margin`.
-inline libgr::jpeg_bytes_t window_of(std::string const& bytes, char margin = '\xFF') {
-    std::string const all = std::string(3, margin) + bytes + std::string(64, margin);
+/// Returns a view of `bytes` in a larger block, with the bytes of `margin` before and after them.
+inline libgr::jpeg_bytes_t window_of(std::string const& bytes,
+                                     std::string const& margin = std::string(64, '\xFF')) {
+    std::string const all = margin + bytes + margin;
     libgr::jpeg_bytes_t window;
     window.resize(all.size(), 0);
     std::ranges::copy(all, window.begin());
-    window.offset = 3;
+    window.offset = margin.size();
     window.count = bytes.size();
     return window;
 }
