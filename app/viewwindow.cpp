@@ -71,12 +71,12 @@ void ViewWindow::init() {
         native::await_window_size(win, native::work_area());
     }
 
+    startsize = get_window_size();
     load_first_picture();
-    // The scene needs its projection before the first drawing, and no size event comes when the
-    // window kept the size that it was made with. The size isn't recorded: the first event must not
-    // scale the picture, which has been fitted already.
-    libgr::direction2l_t const size = get_window_size();
-    scene.Reshape(static_cast<unsigned long>(size.x), static_cast<unsigned long>(size.y));
+    // The scene needs its projection before the first drawing, and no size event comes if the
+    // window kept the size that it was created with. `oldwinsize` stays 0, so that the first event
+    // doesn't scale the picture, which has been fitted already.
+    scene.Reshape(static_cast<unsigned long>(startsize.x), static_cast<unsigned long>(startsize.y));
     wenk::glfwyMGR4::getSingleton()->KeyRepeat(true);
 }
 

@@ -153,6 +153,7 @@ class ViewWindow : public wenk::glutyAPI4 {
     unsigned long current_index = 0;
     std::set<std::string> too_large;  ///< paths that the running change of picture has to skip
     unsigned long image_count = 0;
+    libgr::direction2l_t startsize = libgr::datum2l;  ///< the first picture was fitted into it
     libgr::direction2l_t oldwinsize = libgr::datum2l;
     libgr::direction2l_t pixelratio = libgr::direction2l(1, 1);
 };

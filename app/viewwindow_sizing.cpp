@@ -151,6 +151,10 @@ void ViewWindow::reshape(int width, int height) {
         if (zanolib::g_option.debug) {
             std::cout << "oldwinsize is ZERO." << std::endl;
         }
+        // The window manager granted the start size after the first picture was fitted.
+        if (zanolib::g_option.resizetype == RESIZE_IMAGE && size != 0 && size != startsize) {
+            residue(false);
+        }
     } else if (zanolib::g_option.resizetype == RESIZE_IMAGE) {
         // Only the height counts: a window that grows wider shows more of what is beside the
         // picture.
