@@ -16,7 +16,7 @@ namespace libgr {
 
 namespace {
 
-constexpr std::uint32_t k_headers_size = 54;
+constexpr std::uint32_t headers_size = 54;
 
 /// Depths and the descriptions they stand for.
 struct depth_row_t {
@@ -24,7 +24,7 @@ struct depth_row_t {
     e_image_format_t format;
     e_image_bits_t bits;
 };
-constexpr depth_row_t k_depths[] = {
+constexpr depth_row_t depth_rows[] = {
     {1, IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_1},
     {4, IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_4},
     {8, IMAGE_FORMAT_GRAYSCALE, IMAGE_BITS_8},
@@ -74,7 +74,7 @@ bool bmpimage_t::load(char const* path, libutils::android_app*) {
 }
 
 bool bmpimage_t::save(char const* path, libutils::android_app*) {
-    if (pixels.size() > std::numeric_limits<std::uint32_t>::max() - k_headers_size) {
+    if (pixels.size() > std::numeric_limits<std::uint32_t>::max() - headers_size) {
         return false;
     }
     std::ofstream stream(path, std::ios_base::binary | std::ios_base::trunc);
@@ -82,10 +82,10 @@ bool bmpimage_t::save(char const* path, libutils::android_app*) {
         return false;
     }
     fileheader.bfType = 19778;  // "BM"
-    fileheader.bfSize = static_cast<std::uint32_t>(pixels.size()) + k_headers_size;
+    fileheader.bfSize = static_cast<std::uint32_t>(pixels.size()) + headers_size;
     fileheader.bfReserved1 = 0;
     fileheader.bfReserved2 = 0;
-    fileheader.bfOffBits = k_headers_size;
+    fileheader.bfOffBits = headers_size;
     infoheader.biSize = sizeof infoheader;
     write(stream, fileheader);
     write(stream, infoheader);
@@ -98,7 +98,7 @@ bool convert(image2d_t& image, bmpimage_t const& bmp) {
     if (bmp.infoheader.biCompression != 0) {
         return false;
     }
-    for (depth_row_t const& row : k_depths) {
+    for (depth_row_t const& row : depth_rows) {
         if (row.depth == bmp.infoheader.biBitCount) {
             image.desc = {row.format, IMAGE_TYPE_UINT, row.bits};
             image.m_width = bmp.infoheader.biWidth;
@@ -116,7 +116,7 @@ bool convert(bmpimage_t& bmp, image2d_t const& image) {
         return false;
     }
     bool const integer = image.desc.type == IMAGE_TYPE_SINT || image.desc.type == IMAGE_TYPE_UINT;
-    for (depth_row_t const& row : k_depths) {
+    for (depth_row_t const& row : depth_rows) {
         if (integer && row.format == image.desc.format && row.bits == image.desc.bits) {
             libutils::tagBITMAPINFOHEADER& header = bmp.infoheader;
             header.biWidth = image.m_width;

@@ -23,7 +23,7 @@ struct depth_row_t {
     e_image_format_t palette_format;  ///< IMAGE_FORMAT_MAX where a palette is refused
     e_image_bits_t bits;
 };
-constexpr depth_row_t k_depths[] = {
+constexpr depth_row_t depth_rows[] = {
     {1, IMAGE_FORMAT_GRAYSCALE, IMAGE_FORMAT_INDEX, IMAGE_BITS_1},
     {4, IMAGE_FORMAT_GRAYSCALE, IMAGE_FORMAT_INDEX, IMAGE_BITS_4},
     {8, IMAGE_FORMAT_GRAYSCALE, IMAGE_FORMAT_INDEX, IMAGE_BITS_8},
@@ -47,9 +47,9 @@ void set_view(bmpimage2_t::view_t<T>& view, image_bytes_t const& mapping, unsign
 
 /// The palette follows the header of 40 bytes, or one of 108 that names its colour space.
 unsigned long palette_offset(image_bytes_t const& mapping, unsigned long pixels_offset) {
-    constexpr char k_srgb[4] = {'B', 'G', 'R', 's'};
-    bool const long_header = pixels_offset > 121 && mapping.size() >= 54 + sizeof k_srgb &&
-                             std::memcmp(&mapping[54], k_srgb, sizeof k_srgb) == 0;
+    constexpr char srgb_signature[4] = {'B', 'G', 'R', 's'};
+    bool const long_header = pixels_offset > 121 && mapping.size() >= 54 + sizeof srgb_signature &&
+                             std::memcmp(&mapping[54], srgb_signature, sizeof srgb_signature) == 0;
     return long_header ? 122 : 54;
 }
 
@@ -117,7 +117,7 @@ bool convert_file(image2d_t& image, bmpimage2_t const& bmp, char const* file) {
         return false;
     }
     bool const has_palette = bmp.palette.size() != 0;
-    for (depth_row_t const& row : k_depths) {
+    for (depth_row_t const& row : depth_rows) {
         if (row.depth != libutils::itohs(header.biBitCount)) {
             continue;
         }

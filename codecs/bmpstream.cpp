@@ -10,7 +10,7 @@ namespace libgr {
 
 namespace {
 
-constexpr std::uint16_t k_signature = 19778;  // "BM"
+constexpr std::uint16_t bmp_signature = 19778;  // "BM"
 
 void read(std::istream& stream, libutils::tagBITMAPFILEHEADER& header) {
     header.bfType = read_field<std::uint16_t>(stream);
@@ -44,7 +44,7 @@ bool read_bmp_headers(std::istream& stream, libutils::tagBITMAPFILEHEADER& fileh
     }
     read(stream, infoheader);
     if (stream.tellg() != std::streampos(sizeof fileheader + sizeof infoheader) ||
-        fileheader.bfType != k_signature) {
+        fileheader.bfType != bmp_signature) {
         return false;
     }
     stream.seekg(0, std::ios_base::end);

@@ -8,9 +8,9 @@ namespace libgr {
 
 namespace {
 
-constexpr unsigned int k_saved_length = 65535;  // bytes of a segment
-constexpr int k_icc = JPEG_APP0 + 2;
-constexpr int k_adobe = JPEG_APP0 + 14;
+constexpr unsigned int saved_marker_length = 65535;  // bytes of a segment
+constexpr int icc_marker = JPEG_APP0 + 2;
+constexpr int adobe_marker = JPEG_APP0 + 14;
 
 bool begins(jpeg_marker_struct const& saved, int code, char const* text, unsigned int length) {
     return saved.marker == code && saved.data_length >= length &&
@@ -21,13 +21,13 @@ bool begins(jpeg_marker_struct const& saved, int code, char const* text, unsigne
 
 void jcopy_markers_setup(jpeg_decompress_struct* source, JCOPY_OPTION option) {
     if (option == JCOPY_COMMENTS || option == JCOPY_ALL || option == JCOPY_ALL_EXCEPT_ICC) {
-        jpeg_save_markers(source, JPEG_COM, k_saved_length);
+        jpeg_save_markers(source, JPEG_COM, saved_marker_length);
     }
     for (int code = JPEG_APP0; code < JPEG_APP0 + 16; ++code) {
-        bool const is_icc = code == k_icc;
+        bool const is_icc = code == icc_marker;
         if (option == JCOPY_ALL || (option == JCOPY_ALL_EXCEPT_ICC && !is_icc) ||
             (option == JCOPY_ICC && is_icc)) {
-            jpeg_save_markers(source, code, k_saved_length);
+            jpeg_save_markers(source, code, saved_marker_length);
         }
     }
 }
@@ -37,7 +37,7 @@ void jcopy_markers_execute(jpeg_decompress_struct* source, jpeg_compress_struct*
     for (jpeg_saved_marker_ptr saved = source->marker_list; saved != nullptr; saved = saved->next) {
         bool const is_written =
             (destination->write_JFIF_header != FALSE && begins(*saved, JPEG_APP0, "JFIF", 5)) ||
-            (destination->write_Adobe_marker != FALSE && begins(*saved, k_adobe, "Adobe", 5));
+            (destination->write_Adobe_marker != FALSE && begins(*saved, adobe_marker, "Adobe", 5));
         if (!is_written) {
             jpeg_write_marker(destination, saved->marker, saved->data, saved->data_length);
         }

@@ -25,7 +25,7 @@ namespace {
 /// All decoded images point to it.
 constexpr image_store_t s_image_store{false, 4};
 
-constexpr unsigned int k_saved_length = 65535;  // bytes of a marker
+constexpr unsigned int saved_marker_length = 65535;  // bytes of a marker
 
 /// What the decoding steps work on.
 struct decoding_t {
@@ -35,7 +35,7 @@ struct decoding_t {
     jpegdata_t const& data;
     jpeg_memory_source_t* source = nullptr;
     bool has_scans = false;  ///< several, which are all read before the first row comes out
-    unsigned int app_length = k_saved_length;
+    unsigned int app_length = saved_marker_length;
     JSAMPROW bottom = nullptr;     ///< the image's first byte
     std::size_t row_size = 0;      ///< bytes from a row to the one above it
     unsigned int stored_rows = 0;  ///< rows that the store holds
@@ -54,7 +54,7 @@ void read_header(decoding_t& decoding) {
     use_work_limit(cinfo, decoding.limit, decoding.data);
     decoding.source = use_memory_source(cinfo, decoding.data);
     decoding.limit.source = decoding.source;
-    jpeg_save_markers(cinfo, JPEG_COM, k_saved_length);
+    jpeg_save_markers(cinfo, JPEG_COM, saved_marker_length);
     for (int n = 0; n < 16; ++n) {
         jpeg_save_markers(cinfo, JPEG_APP0 + n, decoding.app_length);
     }

@@ -15,9 +15,9 @@ namespace libgr {
 
 namespace {
 
-constexpr unsigned long k_growth = 0x100000;  // bytes
+constexpr unsigned long growth_step = 0x100000;  // bytes
 
-constexpr JOCTET k_end_of_image[] = {0xFF, JPEG_EOI};
+constexpr JOCTET end_of_image[] = {0xFF, JPEG_EOI};
 
 jpeg_memory_source_t& source_of(j_decompress_ptr cinfo) {
     return *reinterpret_cast<jpeg_memory_source_t*>(cinfo->src);
@@ -74,11 +74,11 @@ jpeg_memory_destination_t& destination_of(j_compress_ptr cinfo) {
 /// Makes room behind the first `used` bytes.
 void grow(j_compress_ptr cinfo, unsigned long used) {
     jpeg_memory_destination_t& destination = destination_of(cinfo);
-    if (!destination.data->resize(used + k_growth, 0)) {
+    if (!destination.data->resize(used + growth_step, 0)) {
         ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
     }
     destination.base.next_output_byte = destination.data->begin() + used;
-    destination.base.free_in_buffer = k_growth;
+    destination.base.free_in_buffer = growth_step;
 }
 
 void dest_init(j_compress_ptr cinfo) {
@@ -135,8 +135,8 @@ jpeg_memory_source_t* use_memory_source(j_decompress_ptr cinfo, jpegdata_t const
 }
 
 void end_source(jpeg_memory_source_t& source) {
-    source.base.next_input_byte = k_end_of_image;
-    source.base.bytes_in_buffer = sizeof k_end_of_image;
+    source.base.next_input_byte = end_of_image;
+    source.base.bytes_in_buffer = sizeof end_of_image;
 }
 
 bool lacks_data(j_decompress_ptr cinfo) {

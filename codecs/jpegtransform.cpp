@@ -73,12 +73,14 @@ bool has_plausible_output(reading_t const& reading) {
 /// Whether a block's AC coefficients, and the steps between DC coefficients from `low` to `high`,
 /// surely have codes in the usual Huffman tables. Widens that range by the block's own.
 bool is_codable(JCOEF const* block, int& low, int& high) {
-    constexpr int k_most_ac = 1023;
-    constexpr int k_most_step = 2047;
+    constexpr int max_ac_coefficient = 1023;
+    constexpr int max_quantizer_step = 2047;
     low = std::min<int>(low, block[0]);
     high = std::max<int>(high, block[0]);
-    auto const has_code = [](JCOEF value) { return value >= -k_most_ac && value <= k_most_ac; };
-    return high - low <= k_most_step && std::all_of(block + 1, block + DCTSIZE2, has_code);
+    auto const has_code = [](JCOEF value) {
+        return value >= -max_ac_coefficient && value <= max_ac_coefficient;
+    };
+    return high - low <= max_quantizer_step && std::all_of(block + 1, block + DCTSIZE2, has_code);
 }
 
 bool is_codable(j_decompress_ptr cinfo, jvirt_barray_ptr* arrays) {
@@ -185,12 +187,13 @@ bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
 }
 
 bool transform(unsigned long rightrotatecount, jpegdata_t& out, jpegdata_t const& in) {
-    constexpr JXFORM_CODE k_turns[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180, JXFORM_ROT_270};
-    if (rightrotatecount >= std::size(k_turns)) {
+    constexpr JXFORM_CODE rotations[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180,
+                                         JXFORM_ROT_270};
+    if (rightrotatecount >= std::size(rotations)) {
         return libutils::refuse(rightrotatecount, ": jpeg transform rightrotate count over.");
     }
     jpeg_transform_info info;
-    info.transform = k_turns[rightrotatecount];
+    info.transform = rotations[rightrotatecount];
     return transform(info, JCOPY_NONE, out, in);
 }
 

@@ -47,26 +47,26 @@ struct tiff_block_t {
 
     /// Makes an entry one of a single long.
     void set_entry(std::size_t at, unsigned int value) const {
-        constexpr unsigned short k_type_long = 4;
-        unsigned short const type = order.tohs(k_type_long);
+        constexpr unsigned short type_long = 4;
+        unsigned short const type = order.tohs(type_long);
         unsigned int const count_and_value[] = {order.tohl(1), order.tohl(value)};
         std::memcpy(begin + at + 2, &type, sizeof type);
         std::memcpy(begin + at + 4, count_and_value, sizeof count_and_value);
     }
 };
 
-constexpr unsigned short k_tag_exif_ifd = 0x8769;
-constexpr unsigned short k_tag_pixel_x_dimension = 0xA002;
-constexpr unsigned short k_tag_pixel_y_dimension = 0xA003;
+constexpr unsigned short tag_exif_ifd = 0x8769;
+constexpr unsigned short tag_pixel_x_dimension = 0xA002;
+constexpr unsigned short tag_pixel_y_dimension = 0xA003;
 
 void set_exif_size(tiff_block_t const& tiff, unsigned int width, unsigned int height) {
-    std::size_t const pointer = tiff.entry_of(tiff.long_at(4), k_tag_exif_ifd);
+    std::size_t const pointer = tiff.entry_of(tiff.long_at(4), tag_exif_ifd);
     if (pointer == 0) {
         return;
     }
     std::size_t const ifd = tiff.long_at(pointer + 8);
     for (auto const& [tag, value] :
-         {std::pair{k_tag_pixel_x_dimension, width}, std::pair{k_tag_pixel_y_dimension, height}}) {
+         {std::pair{tag_pixel_x_dimension, width}, std::pair{tag_pixel_y_dimension, height}}) {
         if (std::size_t const entry = tiff.entry_of(ifd, tag); entry != 0) {
             tiff.set_entry(entry, value);
         }
@@ -74,20 +74,20 @@ void set_exif_size(tiff_block_t const& tiff, unsigned int width, unsigned int he
 }
 
 void adjust_exif(jpeg_saved_marker_ptr marker, unsigned int width, unsigned int height) {
-    constexpr std::size_t k_lead = 6;  // "Exif" and two NULs
-    constexpr std::size_t k_mark = 4;
+    constexpr std::size_t exif_prefix_size = 6;  // "Exif" and two NULs
+    constexpr std::size_t byte_order_size = 4;
     if (marker == nullptr || marker->marker != JPEG_APP0 + 1 ||
-        marker->data_length < k_lead + k_mark ||
-        std::memcmp(marker->data, "Exif\0\0", k_lead) != 0) {
+        marker->data_length < exif_prefix_size + byte_order_size ||
+        std::memcmp(marker->data, "Exif\0\0", exif_prefix_size) != 0) {
         return;
     }
-    JOCTET* const block = marker->data + k_lead;
-    std::size_t const size = marker->data_length - k_lead;
+    JOCTET* const block = marker->data + exif_prefix_size;
+    std::size_t const size = marker->data_length - exif_prefix_size;
     libutils::intel_byteorder const intel;
     libutils::motorola_byteorder const motorola;
-    if (std::memcmp(block, "II*\0", k_mark) == 0) {
+    if (std::memcmp(block, "II*\0", byte_order_size) == 0) {
         set_exif_size({block, size, intel}, width, height);
-    } else if (std::memcmp(block, "MM\0*", k_mark) == 0) {
+    } else if (std::memcmp(block, "MM\0*", byte_order_size) == 0) {
         set_exif_size({block, size, motorola}, width, height);
     }
 }

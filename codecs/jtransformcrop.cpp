@@ -22,10 +22,10 @@ bool take_size(std::string_view& text, JDIMENSION& size, JCROP_CODE& code) {
     if (!take_number(text, size)) {
         return false;
     }
-    constexpr std::string_view k_ends = "fFrR";
-    std::size_t const which = text.empty() ? k_ends.npos : k_ends.find(text.front());
-    code = which == k_ends.npos ? JCROP_POSITIVE : which < 2 ? JCROP_FORCED : JCROP_REFLECT;
-    text.remove_prefix(which == k_ends.npos ? 0 : 1);
+    constexpr std::string_view crop_suffixes = "fFrR";
+    std::size_t const which = text.empty() ? crop_suffixes.npos : crop_suffixes.find(text.front());
+    code = which == crop_suffixes.npos ? JCROP_POSITIVE : which < 2 ? JCROP_FORCED : JCROP_REFLECT;
+    text.remove_prefix(which == crop_suffixes.npos ? 0 : 1);
     return true;
 }
 

@@ -26,13 +26,13 @@ namespace libgr {
 
 namespace {
 
-constexpr unsigned int k_signature_bytes = 4;
+constexpr unsigned int signature_byte_count = 4;
 
 struct format_row_t {
     int color_type;
     e_image_format_t format;
 };
-constexpr format_row_t k_formats[] = {
+constexpr format_row_t format_rows[] = {
     {PNG_COLOR_TYPE_GRAY, IMAGE_FORMAT_GRAYSCALE},
     {PNG_COLOR_TYPE_RGB, IMAGE_FORMAT_RGB},
     {PNG_COLOR_TYPE_PALETTE, IMAGE_FORMAT_INDEX},
@@ -44,7 +44,7 @@ struct depth_row_t {
     int depth;
     e_image_bits_t bits;
 };
-constexpr depth_row_t k_depths[] = {
+constexpr depth_row_t depth_rows[] = {
     {1, IMAGE_BITS_1}, {2, IMAGE_BITS_2}, {4, IMAGE_BITS_4}, {8, IMAGE_BITS_8}, {16, IMAGE_BITS_16},
 };
 
@@ -109,7 +109,7 @@ int fail() {
 void read_header(reading_t& reading) {
     // Texts and profiles aren't looked at, whatever lengths they claim or expand to.
     png_set_keep_unknown_chunks(reading.png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
-    png_set_sig_bytes(reading.png, k_signature_bytes);
+    png_set_sig_bytes(reading.png, signature_byte_count);
     png_read_info(reading.png, reading.info);
     png_get_IHDR(reading.png, reading.info, &reading.width, &reading.height, &reading.depth,
                  &reading.color_type, nullptr, nullptr, nullptr);
@@ -138,13 +138,13 @@ bool is_plausible_size(reading_t const& reading, std::uint64_t file_size, char c
 void describe(image2d_t& image, reading_t const& reading) {
     image.m_width = reading.width;
     image.m_height = reading.height;
-    for (format_row_t const& row : k_formats) {
+    for (format_row_t const& row : format_rows) {
         if (row.color_type == reading.color_type) {
             image.desc.format = row.format;
         }
     }
     image.desc.type = IMAGE_TYPE_UINT;
-    for (depth_row_t const& row : k_depths) {
+    for (depth_row_t const& row : depth_rows) {
         if (row.depth == reading.depth) {
             image.desc.bits = row.bits;
         }
@@ -252,13 +252,13 @@ bool check_if_png(char const* path, stream_t& stream) {
         return libutils::refuse(libutils::putname(path), ": file open error, ",
                                 std::strerror(reason));
     }
-    unsigned char bytes[k_signature_bytes] = {};
-    stream.read(reinterpret_cast<char*>(bytes), k_signature_bytes);
-    if (stream.gcount() != k_signature_bytes) {
+    unsigned char bytes[signature_byte_count] = {};
+    stream.read(reinterpret_cast<char*>(bytes), signature_byte_count);
+    if (stream.gcount() != signature_byte_count) {
         stream.close();
         return false;
     }
-    return png_sig_cmp(bytes, 0, k_signature_bytes) == 0;
+    return png_sig_cmp(bytes, 0, signature_byte_count) == 0;
 }
 template bool check_if_png<std::ifstream>(char const* path, std::ifstream& stream);
 
@@ -309,12 +309,12 @@ int loadpng(char const* path, image2d_t& image, libutils::android_app*) {
 
 int savepng(char const* path, image2d_t const& image, char const* title, libutils::android_app*) {
     auto const* const format =
-        std::find_if(std::begin(k_formats), std::end(k_formats),
+        std::find_if(std::begin(format_rows), std::end(format_rows),
                      [&](auto const& r) { return r.format == image.desc.format; });
     auto const* const depth =
-        std::find_if(std::begin(k_depths), std::end(k_depths),
+        std::find_if(std::begin(depth_rows), std::end(depth_rows),
                      [&](auto const& r) { return r.bits == image.desc.bits; });
-    if (format == std::end(k_formats) || depth == std::end(k_depths)) {
+    if (format == std::end(format_rows) || depth == std::end(depth_rows)) {
         return 0;
     }
     if (!pixels_within(image)) {

@@ -16,9 +16,9 @@ namespace libgr {
 
 namespace {
 
-constexpr std::streamoff k_header_size = 18;
-constexpr std::uint8_t k_top_down = 0x20;  // of the descriptor
-constexpr unsigned int k_side_max = std::numeric_limits<std::uint16_t>::max();
+constexpr std::streamoff header_size = 18;
+constexpr std::uint8_t top_down_bit = 0x20;  // of the descriptor
+constexpr unsigned int max_side = std::numeric_limits<std::uint16_t>::max();
 
 struct depth_row_t {
     std::uint8_t depth;
@@ -26,7 +26,7 @@ struct depth_row_t {
     e_image_format_t swapped_format;  ///< the red-first format that is saved with this depth
     e_image_bits_t bits;
 };
-constexpr depth_row_t k_depths[] = {
+constexpr depth_row_t depth_rows[] = {
     {8, IMAGE_FORMAT_GRAYSCALE, IMAGE_FORMAT_MAX, IMAGE_BITS_8},
     {16, IMAGE_FORMAT_BGRA, IMAGE_FORMAT_RGBA, IMAGE_BITS_R5G5B5A1},
     {24, IMAGE_FORMAT_BGR, IMAGE_FORMAT_RGB, IMAGE_BITS_8},
@@ -84,12 +84,12 @@ void write_vector(std::ostream& stream, std::vector<unsigned char> const& bytes)
 
 /// Converts as `convert` does, with `file` as the path for error lines, or null.
 bool convert_file(image2d_t& image, tgaimage_t const& tga, char const* file) {
-    if ((tga.image_type != 1 && tga.image_type != 2) || (tga.descriptor & k_top_down) != 0) {
+    if ((tga.image_type != 1 && tga.image_type != 2) || (tga.descriptor & top_down_bit) != 0) {
         return false;
     }
-    auto const* const row = std::find_if(std::begin(k_depths), std::end(k_depths),
+    auto const* const row = std::find_if(std::begin(depth_rows), std::end(depth_rows),
                                          [&](auto const& r) { return r.depth == tga.depth; });
-    if (row == std::end(k_depths) || tga.pixels.size() < pixels_size(tga) ||
+    if (row == std::end(depth_rows) || tga.pixels.size() < pixels_size(tga) ||
         !fits_in_memory(tga.width, tga.height, tga.depth, file)) {
         return false;
     }
@@ -109,7 +109,7 @@ bool tgaimage_t::load(char const* path, libutils::android_app*) {
         return false;
     }
     read_header(stream, *this);
-    if (stream.tellg() != std::streampos(k_header_size)) {
+    if (stream.tellg() != std::streampos(header_size)) {
         return false;
     }
     if (id_length != 0 && !read_vector(stream, image_id, id_length)) {
@@ -141,7 +141,7 @@ bool tgaimage_t::save(char const* path, libutils::android_app*) {
         return false;
     }
     write_header(stream, *this);
-    if (stream.tellp() != std::streampos(k_header_size)) {
+    if (stream.tellp() != std::streampos(header_size)) {
         return false;
     }
     write_vector(stream, image_id);
@@ -156,12 +156,12 @@ bool convert(image2d_t& image, tgaimage_t const& tga) {
 }
 
 bool convert(tgaimage_t& tga, image2d_t const& image) {
-    if (image.compressed || image.m_width > k_side_max || image.m_height > k_side_max) {
+    if (image.compressed || image.m_width > max_side || image.m_height > max_side) {
         return false;
     }
     // A format that already has the file's byte order sets depth and pixels, and is then refused
     // all the same: only red-first pictures are saved.
-    for (depth_row_t const& row : k_depths) {
+    for (depth_row_t const& row : depth_rows) {
         if (image.desc == image_desc_t{row.format, IMAGE_TYPE_UINT, row.bits}) {
             tga.depth = row.depth;
             tga.pixels = image;
@@ -169,10 +169,10 @@ bool convert(tgaimage_t& tga, image2d_t const& image) {
         }
     }
     auto const* const row =
-        std::find_if(std::begin(k_depths), std::end(k_depths), [&](auto const& r) {
+        std::find_if(std::begin(depth_rows), std::end(depth_rows), [&](auto const& r) {
             return r.swapped_format == image.desc.format && r.bits == image.desc.bits;
         });
-    if (row == std::end(k_depths)) {
+    if (row == std::end(depth_rows)) {
         return false;
     }
     image2d_t swapped;

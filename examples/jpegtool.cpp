@@ -72,13 +72,13 @@ std::string name_of(unsigned char code) {
         unsigned char first, last;
         char const* name;  ///< ends in the number from `first` on where there are several
     };
-    constexpr row_t k_rows[] = {
+    constexpr row_t command_rows[] = {
         {0xC4, 0xC4, "DHT"}, {0xC8, 0xC8, "JPG"}, {0xCC, 0xCC, "DAC"}, {0xC0, 0xCF, "SOF"},
         {0xD0, 0xD7, "RST"}, {0xD8, 0xD8, "SOI"}, {0xD9, 0xD9, "EOI"}, {0xDA, 0xDA, "SOS"},
         {0xDB, 0xDB, "DQT"}, {0xDC, 0xDC, "DNL"}, {0xDD, 0xDD, "DRI"}, {0xE0, 0xEF, "APP"},
         {0xFE, 0xFE, "COM"},
     };
-    for (row_t const& row : k_rows) {
+    for (row_t const& row : command_rows) {
         if (code >= row.first && code <= row.last) {
             return row.first == row.last ? row.name : row.name + std::to_string(code - row.first);
         }
@@ -228,9 +228,9 @@ int write_changed(JXFORM_CODE change, char const* from, jpegdata_t const& data, 
 /// What makes a picture stand upright, by its Exif orientation.
 JXFORM_CODE upright_change(jpegdata_t const& data) {
     // By the values 1 to 8 (Exif 2.3, tag 0x0112).
-    constexpr JXFORM_CODE k_changes[] = {JXFORM_NONE,       JXFORM_FLIP_H,    JXFORM_ROT_180,
-                                         JXFORM_FLIP_V,     JXFORM_TRANSPOSE, JXFORM_ROT_90,
-                                         JXFORM_TRANSVERSE, JXFORM_ROT_270};
+    constexpr JXFORM_CODE operations[] = {JXFORM_NONE,       JXFORM_FLIP_H,    JXFORM_ROT_180,
+                                          JXFORM_FLIP_V,     JXFORM_TRANSPOSE, JXFORM_ROT_90,
+                                          JXFORM_TRANSVERSE, JXFORM_ROT_270};
     jpeginfo_t info;  // reads through libjpeg, here the header alone, and keeps APPn and COM
     app1_marker_t app1;
     if (!info.analyze_markers(data)) {
@@ -239,8 +239,8 @@ JXFORM_CODE upright_change(jpegdata_t const& data) {
     app1.set_app1_buffer(info.get_marker(MARKER_APP1));
     auto const& orientation = app1.tiff_header.tag_0th_ifd.Orientation;
     bool const is_known = app1.parse() && !orientation.empty() && orientation[0] >= 1 &&
-                          orientation[0] <= std::size(k_changes);
-    return is_known ? k_changes[orientation[0] - 1] : JXFORM_NONE;
+                          orientation[0] <= std::size(operations);
+    return is_known ? operations[orientation[0] - 1] : JXFORM_NONE;
 }
 
 int usage() {
@@ -256,7 +256,8 @@ int usage() {
 int main(int argc, char** argv) {
     std::setlocale(LC_CTYPE, "");
     libutils::escape_names_on_terminals();
-    constexpr JXFORM_CODE k_turns[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180, JXFORM_ROT_270};
+    constexpr JXFORM_CODE rotations[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180,
+                                         JXFORM_ROT_270};
     std::vector<char const*> const words(argv + 1, argv + argc);
     std::string const command = words.empty() ? "" : words[0];
     bool const lists = command == "list" && words.size() == 2;
@@ -275,6 +276,6 @@ int main(int argc, char** argv) {
     if (lists) {
         return list(path, data);
     }
-    return write_changed(turns ? k_turns[words[1][0] - '0'] : upright_change(data), path, data,
+    return write_changed(turns ? rotations[words[1][0] - '0'] : upright_change(data), path, data,
                          words.back());
 }

@@ -27,7 +27,7 @@ inline void read_pixels(libgr::image2d_t const& image) {
         unsigned char const* const row = libgr::pixel_row(image, y);
         sum = std::accumulate(row, row + image.rowbyte(), sum);
     }
-    [[maybe_unused]] unsigned int volatile const kept = sum;  // the reads must not be optimised out
+    [[maybe_unused]] unsigned int const volatile kept = sum;  // the reads must not be optimised out
 }
 
 /// Loads the input as a file, resolves its palette and reads its pixels.

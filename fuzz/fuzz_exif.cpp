@@ -13,7 +13,7 @@ int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     header.parse();
     for (libgr::jpeg_bytes_t const* view :
          {&header.thumbnail, &header.tag_exif_ifd.MakerNote, &header.ifd_maker_note}) {
-        [[maybe_unused]] unsigned int volatile const sum =
+        [[maybe_unused]] unsigned int const volatile sum =
             std::accumulate(view->begin(), view->end(), 0U);
     }
     return 0;

@@ -15,13 +15,13 @@ std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::s
 
 namespace {
 
-constexpr std::size_t k_signature = 8;
-constexpr std::size_t k_length = 4;
-constexpr std::size_t k_name = 4;
-constexpr std::size_t k_checksum = 4;
+constexpr std::size_t signature_size = 8;
+constexpr std::size_t length_size = 4;
+constexpr std::size_t name_size = 4;
+constexpr std::size_t checksum_size = 4;
 
 void put_checksum(std::uint8_t* place, unsigned long checksum) {
-    for (unsigned int i = 0; i < k_checksum; ++i) {
+    for (unsigned int i = 0; i < checksum_size; ++i) {
         place[i] = static_cast<std::uint8_t>(checksum >> (24 - 8 * i));
     }
 }
@@ -31,18 +31,18 @@ void put_checksum(std::uint8_t* place, unsigned long checksum) {
 std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t limit,
                                     unsigned int /*seed*/) {
     size = LLVMFuzzerMutate(data, size, limit);
-    std::size_t at = k_signature;
-    while (at + k_length + k_name + k_checksum <= size) {
-        std::size_t content = k_name;
-        for (std::size_t i = 0; i < k_length; ++i) {
+    std::size_t at = signature_size;
+    while (at + length_size + name_size + checksum_size <= size) {
+        std::size_t content = name_size;
+        for (std::size_t i = 0; i < length_size; ++i) {
             content += std::size_t{data[at + i]} << (24 - 8 * i);
         }
-        std::size_t const start = at + k_length;
-        if (content > size - start || size - start - content < k_checksum) {
+        std::size_t const start = at + length_size;
+        if (content > size - start || size - start - content < checksum_size) {
             break;
         }
         put_checksum(data + start + content, crc32(0, data + start, static_cast<uInt>(content)));
-        at = start + content + k_checksum;
+        at = start + content + checksum_size;
     }
     return size;
 }

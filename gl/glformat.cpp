@@ -13,10 +13,10 @@ namespace libgr {
 namespace {
 
 // A bit for each format value; RG and DEPTH_STENCIL are left out.
-constexpr unsigned int s_accepted_formats = 0x3DF7F;
+constexpr unsigned int accepted_formats = 0x3DF7F;
 
 bool is_accepted(e_image_format_t format) {
-    return format < IMAGE_FORMAT_MAX && ((s_accepted_formats >> format) & 1U) != 0;
+    return format < IMAGE_FORMAT_MAX && ((accepted_formats >> format) & 1U) != 0;
 }
 
 bool convert(gl_loading_format_t* out, image_desc_t desc, bool compress) {

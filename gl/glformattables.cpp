@@ -217,7 +217,7 @@ constexpr gl_typebits_row_t s_INDEX_typebits_to_glintfmttype_list[] = {
 
 // By format value. The rows of RG and DEPTH_STENCIL are kept although the conversion turns both
 // away.
-constexpr std::span<gl_typebits_row_t const> s_families[] = {
+constexpr std::span<gl_typebits_row_t const> type_families[] = {
     s_GRAYSCALE_typebits_to_glintfmttype_list,
     s_GRAYSCALE_ALPHA_typebits_to_glintfmttype_list,
     s_INTENSITY_typebits_to_glintfmttype_list,
@@ -237,7 +237,7 @@ constexpr std::span<gl_typebits_row_t const> s_families[] = {
     {},
     s_INDEX_typebits_to_glintfmttype_list,
 };
-static_assert(std::size(s_families) == IMAGE_FORMAT_MAX);
+static_assert(std::size(type_families) == IMAGE_FORMAT_MAX);
 
 }  // namespace
 
@@ -248,8 +248,8 @@ gl_pixelformat_row_t const* find_gl_pixelformat(e_image_format_t format) {
 }
 
 std::span<gl_typebits_row_t const> gl_typebits_rows(e_image_format_t format) {
-    return format < std::size(s_families) ? s_families[format]
-                                          : std::span<gl_typebits_row_t const>();
+    return format < std::size(type_families) ? type_families[format]
+                                             : std::span<gl_typebits_row_t const>();
 }
 
 }  // namespace libgr

@@ -6,12 +6,12 @@
 
 namespace libgr {
 
-const GLubyte* (*gluErrorString)(GLenum) = ::gluErrorString;
+GLubyte const* (*gluErrorString)(GLenum) = ::gluErrorString;
 GLint (*gluBuild1DMipmaps)(GLenum, GLint, GLsizei, GLenum, GLenum,
-                           const void*) = ::gluBuild1DMipmaps;
+                           void const*) = ::gluBuild1DMipmaps;
 GLint (*gluBuild2DMipmaps)(GLenum, GLint, GLsizei, GLsizei, GLenum, GLenum,
-                           const void*) = ::gluBuild2DMipmaps;
+                           void const*) = ::gluBuild2DMipmaps;
 GLint (*gluBuild3DMipmaps)(GLenum, GLint, GLsizei, GLsizei, GLsizei, GLenum, GLenum,
-                           const void*) = ::gluBuild3DMipmaps;
+                           void const*) = ::gluBuild3DMipmaps;
 
 }  // namespace libgr

@@ -66,7 +66,7 @@ image_bytes_t unpadded(image3d_t const& read, unsigned long long bits) {
 
 /// Rows and pictures without padding. GLU allocates the levels of a volume without padding, but
 /// writes and reads them by the state.
-constexpr pixelstore_t s_unpadded[] = {
+constexpr pixelstore_t unpadded_store[] = {
     {GL_PACK_ALIGNMENT, 1},   {GL_PACK_ROW_LENGTH, 0},     {GL_PACK_SKIP_PIXELS, 0},
     {GL_PACK_SKIP_ROWS, 0},   {GL_PACK_IMAGE_HEIGHT, 0},   {GL_PACK_SKIP_IMAGES, 0},
     {GL_UNPACK_ALIGNMENT, 1}, {GL_UNPACK_ROW_LENGTH, 0},   {GL_UNPACK_SKIP_PIXELS, 0},
@@ -136,7 +136,7 @@ bool build_mipmaps(unsigned int target, gl_loading_format_t const& terms, image3
     if (pixels.empty()) {
         return false;
     }
-    grPixelStoreKeeper const state(s_unpadded);
+    grPixelStoreKeeper const state(unpadded_store);
     gluBuild3DMipmaps(target, static_cast<GLint>(terms.internalformat),
                       static_cast<GLsizei>(image.m_width), static_cast<GLsizei>(image.m_height),
                       static_cast<GLsizei>(image.m_depth), terms.format, terms.type,

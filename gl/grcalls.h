@@ -10,16 +10,16 @@
 
 namespace libgr {
 
-inline void grRotate(const rotation3_t& r) {
+inline void grRotate(rotation3_t const& r) {
     glRotatef(r.angle, r.axis.x, r.axis.y, r.axis.z);
 }
-inline void grScale(const direction3_t& d) {
+inline void grScale(direction3_t const& d) {
     glScalef(d.x, d.y, d.z);
 }
-inline void grTranslate(const position3_t& p) {
+inline void grTranslate(position3_t const& p) {
     glTranslatef(p.x, p.y, p.z);
 }
-inline void grMultMatrix(const matrix3w_t& m) {
+inline void grMultMatrix(matrix3w_t const& m) {
     glMultMatrixf(m.data());
 }
 /// Reads one of the current matrices, GL_MODELVIEW_MATRIX for one.
@@ -27,21 +27,21 @@ inline void grGet(GLenum pname, matrix3w_t& m) {
     glGetFloatv(pname, m.data());
 }
 
-inline void grColor(const color3a_t& c) {
+inline void grColor(color3a_t const& c) {
     glColor4fv(&c.r);
 }
-inline void grColor(const color3aub_t& c) {
+inline void grColor(color3aub_t const& c) {
     glColor4ubv(&c.r);
 }
-inline void grClearColor(const color3a_t& c) {
+inline void grClearColor(color3a_t const& c) {
     glClearColor(c.r, c.g, c.b, c.a);
 }
 
-inline void grLight(GLenum light, GLenum pname, const color3a_t& c) {
+inline void grLight(GLenum light, GLenum pname, color3a_t const& c) {
     glLightfv(light, pname, &c.r);
 }
 /// Places a light at a point of the current modelview space.
-inline void grLightPos(GLenum light, const position3_t& p) {
+inline void grLightPos(GLenum light, position3_t const& p) {
     const vector3w_t v = Generalize(p);
     glLightfv(light, GL_POSITION, &v.x);
 }
@@ -61,19 +61,19 @@ inline void grGetLightPos(GLenum light, direction3_t& d) {
     d = SpecializeToDir(v);
 }
 
-inline void grMaterial(GLenum face, GLenum pname, const color3a_t& c) {
+inline void grMaterial(GLenum face, GLenum pname, color3a_t const& c) {
     glMaterialfv(face, pname, &c.r);
 }
 inline void grMaterial(GLenum face, GLenum pname, float value) {
     glMaterialf(face, pname, value);
 }
-inline void grTexEnv(GLenum target, GLenum pname, const color3a_t& c) {
+inline void grTexEnv(GLenum target, GLenum pname, color3a_t const& c) {
     glTexEnvfv(target, pname, &c.r);
 }
 
 /// Puts the rows of `m` into four program parameters from `index` on (ARB_vertex_program); four
 /// calls.
-inline void grProgramLocalParameterARB(GLenum target, GLuint index, const matrix3w_t& m) {
+inline void grProgramLocalParameterARB(GLenum target, GLuint index, matrix3w_t const& m) {
     for (unsigned int row = 0; row < 4; ++row) {
         glProgramLocalParameter4fvARB(target, index + row, &m[row].x);
     }
@@ -81,13 +81,13 @@ inline void grProgramLocalParameterARB(GLenum target, GLuint index, const matrix
 
 // Vertex arrays: `stride` is the bytes from one element to the next, 0 for none in between. OpenGL
 // keeps the pointer and reads through it in grDrawElements.
-inline void grVertexPointer(const position2_t* pointer, int stride) {
+inline void grVertexPointer(position2_t const* pointer, int stride) {
     glVertexPointer(2, GL_FLOAT, stride, pointer);
 }
-inline void grTexCoordPointer(const texcoord2_t* pointer, int stride) {
+inline void grTexCoordPointer(texcoord2_t const* pointer, int stride) {
     glTexCoordPointer(2, GL_FLOAT, stride, pointer);
 }
-inline void grDrawElements(GLenum mode, int count, const unsigned char* indices) {
+inline void grDrawElements(GLenum mode, int count, unsigned char const* indices) {
     glDrawElements(mode, count, GL_UNSIGNED_BYTE, indices);
 }
 

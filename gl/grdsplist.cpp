@@ -25,7 +25,7 @@ unsigned int grDspListMgr::listname() const {
     return m_generated ? m_listname : static_cast<unsigned int>(GL_INVALID_VALUE);
 }
 
-bool grDspList::Preload(const grObject3D* object) {
+bool grDspList::Preload(grObject3D const* object) {
     grDspListMgr& list = m_list ? *m_list : m_list.create();
     list.Generate();
     glNewList(list.listname(), GL_COMPILE);

@@ -11,8 +11,8 @@ namespace libgr {
 class grDspListMgr {
   public:
     grDspListMgr() = default;
-    grDspListMgr(const grDspListMgr&) = delete;
-    grDspListMgr& operator=(const grDspListMgr&) = delete;
+    grDspListMgr(grDspListMgr const&) = delete;
+    grDspListMgr& operator=(grDspListMgr const&) = delete;
     /// Deletes the list if there is one, for which it needs a current context.
     ~grDspListMgr() { Release(); }
 
@@ -42,7 +42,7 @@ class grDspList : public grObject3D {
     /// Compiles what `object`, which may be null, draws. The calls are recorded and not run, so the
     /// object's own checks of the GL error state see nothing of them. A second call compiles over
     /// the same name. Always true. Needs a current context.
-    bool Preload(const grObject3D* object);
+    bool Preload(grObject3D const* object);
     /// Deletes the GL list, for all copies.
     void Unload();
 

@@ -21,7 +21,7 @@ bool grMemoryWatch::is_exhausted() const {
     return g_out_of_memory != m_before;
 }
 
-bool grPrintError(const char* label) {
+bool grPrintError(char const* label) {
     const GLenum code = glGetError();
     if (code == GL_NO_ERROR) {
         return false;
@@ -37,8 +37,8 @@ bool grPrintError(const char* label) {
         std::cerr << "Error " << std::dec << code << ": ";
     }
     // A null text would put the stream out of order for good.
-    const GLubyte* text = gluErrorString(code);
-    std::cerr << (text != nullptr ? text : reinterpret_cast<const GLubyte*>("unknown error"));
+    GLubyte const* text = gluErrorString(code);
+    std::cerr << (text != nullptr ? text : reinterpret_cast<GLubyte const*>("unknown error"));
     libutils::error();
     std::cerr << std::endl;
     return true;

@@ -9,7 +9,7 @@ namespace libgr {
 /// nothing is written. A further pending error stays for the next call. The code is decimal
 /// whatever the stream's mode, which stays as it was. Needs a current context, and no glBegin in
 /// force.
-bool grPrintError(const char* label);
+bool grPrintError(char const* label);
 
 /// Watches for GL_OUT_OF_MEMORY among the errors that `grPrintError` takes. Uploads return no
 /// result, and the error is no longer pending after they have reported it.

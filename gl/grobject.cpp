@@ -9,7 +9,7 @@
 namespace libgr {
 
 void grObject3D::Draw() {
-    static_cast<const grObject3D*>(this)->Draw();
+    static_cast<grObject3D const*>(this)->Draw();
 }
 
 void grRotater::Draw() const {
@@ -28,13 +28,13 @@ void grZoomer::Draw() const {
     m_object->Draw();
 }
 
-void grZoomer::addZoom(const direction3_t& d) {
+void grZoomer::addZoom(direction3_t const& d) {
     direction3_t sum = m_zoom;
     sum += d;
     setZoom(sum);
 }
 
-void grZoomer::setZoom(const direction3_t& d) {
+void grZoomer::setZoom(direction3_t const& d) {
     m_zoom = d;
     m_scale = pow(direction3(2.0f), m_zoom);
 }
@@ -62,7 +62,7 @@ void grTransformer::Draw() const {
 }
 
 void grContainer::Draw() const {
-    for (const grObject3D* object : m_objects) {
+    for (grObject3D const* object : m_objects) {
         const grMatrixPusher pusher(GL_MODELVIEW);
         if (object != nullptr) {
             object->Draw();
@@ -70,7 +70,7 @@ void grContainer::Draw() const {
     }
 }
 
-const grObject3D* grContainer::getObject(unsigned long n) const {
+grObject3D const* grContainer::getObject(unsigned long n) const {
     return n < m_objects.size() ? m_objects[n] : nullptr;
 }
 

@@ -42,11 +42,11 @@ class grRotater : public grObject3D {
     using grObject3D::Draw;
     void Draw() const override;
 
-    const grObject3D* getObject() const { return m_object; }
-    void setObject(const grObject3D* object) { m_object = object; }
+    grObject3D const* getObject() const { return m_object; }
+    void setObject(grObject3D const* object) { m_object = object; }
 
   private:
-    const grObject3D* m_object = nullptr;
+    grObject3D const* m_object = nullptr;
 
   public:
     rotation3_t m_rotation = Irot;
@@ -59,15 +59,15 @@ class grZoomer : public grObject3D {
     using grObject3D::Draw;
     void Draw() const override;
 
-    const grObject3D* getObject() const { return m_object; }
-    void setObject(const grObject3D* object) { m_object = object; }
+    grObject3D const* getObject() const { return m_object; }
+    void setObject(grObject3D const* object) { m_object = object; }
     /// Adds to the exponents of 2, one for each axis.
-    void addZoom(const direction3_t& d);
+    void addZoom(direction3_t const& d);
     /// Sets the exponents of 2, one for each axis.
-    void setZoom(const direction3_t& d);
+    void setZoom(direction3_t const& d);
 
   private:
-    const grObject3D* m_object = nullptr;
+    grObject3D const* m_object = nullptr;
     direction3_t m_zoom = direction3(1.0f);
     direction3_t m_scale = Iscale;  // what OpenGL gets; follows m_zoom from the first setting on
 };
@@ -79,11 +79,11 @@ class grTranslater : public grObject3D {
     using grObject3D::Draw;
     void Draw() const override;
 
-    const grObject3D* getObject() const { return m_object; }
-    void setObject(const grObject3D* object) { m_object = object; }
+    grObject3D const* getObject() const { return m_object; }
+    void setObject(grObject3D const* object) { m_object = object; }
 
   private:
-    const grObject3D* m_object = nullptr;
+    grObject3D const* m_object = nullptr;
 
   public:
     position3_t m_position = Ipos;
@@ -96,10 +96,10 @@ class grTransformer : public grObject3D {
     using grObject3D::Draw;
     void Draw() const override;
 
-    void setObject(const grObject3D* object) { m_object = object; }
+    void setObject(grObject3D const* object) { m_object = object; }
 
   private:
-    const grObject3D* m_object = nullptr;
+    grObject3D const* m_object = nullptr;
 
   public:
     matrix3w_t m_matrix = Imtx;  ///< the scene reads and writes it in place
@@ -113,16 +113,16 @@ class grContainer : public grObject3D {
     void Draw() const override;
 
     /// Appends a child; null is allowed and draws nothing.
-    void addObject(const grObject3D* object) { m_objects.push_back(object); }
+    void addObject(grObject3D const* object) { m_objects.push_back(object); }
     /// The n-th child, counted from 0; null when there are no more than `n`.
-    const grObject3D* getObject(unsigned long n) const;
+    grObject3D const* getObject(unsigned long n) const;
     void clear() { m_objects.clear(); }
     unsigned long size() const { return m_objects.size(); }
     /// Cuts the list or fills it up with null.
     void resize(unsigned long n) { m_objects.resize(n); }
 
   private:
-    std::vector<const grObject3D*> m_objects;
+    std::vector<grObject3D const*> m_objects;
 };
 
 }  // namespace libgr

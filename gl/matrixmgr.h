@@ -15,8 +15,8 @@ namespace libgr {
 class grBeginner {
   public:
     explicit grBeginner(GLenum mode) { glBegin(mode); }
-    grBeginner(const grBeginner&) = delete;
-    grBeginner& operator=(const grBeginner&) = delete;
+    grBeginner(grBeginner const&) = delete;
+    grBeginner& operator=(grBeginner const&) = delete;
     ~grBeginner() { glEnd(); }
 };
 
@@ -25,8 +25,8 @@ class grMatrixModeKeeper {
   public:
     /// Selects `mode`; 0 leaves the mode in force and queries nothing.
     explicit grMatrixModeKeeper(GLenum mode);
-    grMatrixModeKeeper(const grMatrixModeKeeper&) = delete;
-    grMatrixModeKeeper& operator=(const grMatrixModeKeeper&) = delete;
+    grMatrixModeKeeper(grMatrixModeKeeper const&) = delete;
+    grMatrixModeKeeper& operator=(grMatrixModeKeeper const&) = delete;
     /// Selects the former mode again, if another one was selected.
     ~grMatrixModeKeeper();
 

@@ -14,7 +14,7 @@ struct plane_row_t {
     palette_t::plane_t palette_t::*plane;
 };
 
-constexpr plane_row_t s_planes[] = {
+constexpr plane_row_t plane_rows[] = {
     {GL_PIXEL_MAP_I_TO_R, &palette_t::red},
     {GL_PIXEL_MAP_I_TO_G, &palette_t::green},
     {GL_PIXEL_MAP_I_TO_B, &palette_t::blue},
@@ -22,7 +22,7 @@ constexpr plane_row_t s_planes[] = {
 
 /// A plane that had no memory in a resize holds fewer entries than the palette counts.
 bool planes_hold(palette_t const& palette) {
-    for (plane_row_t const& row : s_planes) {
+    for (plane_row_t const& row : plane_rows) {
         if ((palette.*row.plane).count() < palette.size) {
             return false;
         }
@@ -43,7 +43,7 @@ void grPalette::Load(palette_t const& palette) {
         return;
     }
     glPixelTransferi(GL_MAP_COLOR, 1);
-    for (plane_row_t const& row : s_planes) {
+    for (plane_row_t const& row : plane_rows) {
         glPixelMapusv(row.map, static_cast<GLsizei>(palette.size), (palette.*row.plane).begin());
     }
     loaded = true;

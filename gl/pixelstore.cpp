@@ -17,39 +17,39 @@ struct parameter_t {
 };
 
 void set(std::initializer_list<parameter_t> parameters) {
-    for (const parameter_t& parameter : parameters) {
+    for (parameter_t const& parameter : parameters) {
         glPixelStorei(parameter.name, static_cast<GLint>(parameter.value));
     }
 }
 
 /// The alignment under which OpenGL packs the rows of `image`: that of the store, or else one that
 /// was set before, which is taken for the widest.
-unsigned long long pack_alignment(const image_store_t* store) {
+unsigned long long pack_alignment(image_store_t const* store) {
     constexpr unsigned int widest = 8;
-    const bool valid =
+    bool const valid =
         store != nullptr && store->alignment <= widest && libutils::Is_2nSize(store->alignment);
     return valid ? store->alignment : widest;
 }
 
 }  // namespace
 
-void grPixelStoreUnpack(const image_store_t* store) {
+void grPixelStoreUnpack(image_store_t const* store) {
     if (store != nullptr) {
         set({{GL_UNPACK_SWAP_BYTES, store->swapbytes}, {GL_UNPACK_ALIGNMENT, store->alignment}});
     }
 }
 
-void grPixelStoreUnpack(const image_window1d_t& window) {
+void grPixelStoreUnpack(image_window1d_t const& window) {
     set({{GL_UNPACK_SKIP_PIXELS, window.skippixels}});
 }
 
-void grPixelStoreUnpack(const image_window2d_t& window) {
+void grPixelStoreUnpack(image_window2d_t const& window) {
     set({{GL_UNPACK_ROW_LENGTH, window.rowlength},
          {GL_UNPACK_SKIP_PIXELS, window.skippixels},
          {GL_UNPACK_SKIP_ROWS, window.skiprows}});
 }
 
-void grPixelStoreUnpack(const image_window3d_t& window) {
+void grPixelStoreUnpack(image_window3d_t const& window) {
     set({{GL_UNPACK_ROW_LENGTH, window.rowlength},
          {GL_UNPACK_IMAGE_HEIGHT, window.imageheight},
          {GL_UNPACK_SKIP_PIXELS, window.skippixels},
@@ -57,23 +57,23 @@ void grPixelStoreUnpack(const image_window3d_t& window) {
          {GL_UNPACK_SKIP_IMAGES, window.skipimages}});
 }
 
-void grPixelStorePack(const image_store_t* store) {
+void grPixelStorePack(image_store_t const* store) {
     if (store != nullptr) {
         set({{GL_PACK_SWAP_BYTES, store->swapbytes}, {GL_PACK_ALIGNMENT, store->alignment}});
     }
 }
 
-void grPixelStorePack(const image_window1d_t& window) {
+void grPixelStorePack(image_window1d_t const& window) {
     set({{GL_PACK_SKIP_PIXELS, window.skippixels}});
 }
 
-void grPixelStorePack(const image_window2d_t& window) {
+void grPixelStorePack(image_window2d_t const& window) {
     set({{GL_PACK_ROW_LENGTH, window.rowlength},
          {GL_PACK_SKIP_PIXELS, window.skippixels},
          {GL_PACK_SKIP_ROWS, window.skiprows}});
 }
 
-void grPixelStorePack(const image_window3d_t& window) {
+void grPixelStorePack(image_window3d_t const& window) {
     set({{GL_PACK_ROW_LENGTH, window.rowlength},
          {GL_PACK_IMAGE_HEIGHT, window.imageheight},
          {GL_PACK_SKIP_PIXELS, window.skippixels},
@@ -82,10 +82,10 @@ void grPixelStorePack(const image_window3d_t& window) {
 }
 
 bool grAllocateForPack(image2d_t& image, unsigned int pixelbytes) {
-    const unsigned long long align = pack_alignment(image.store);
-    const unsigned long long row = (image.rowlength() * pixelbytes + align - 1) / align * align;
-    const unsigned long long rows = image.window.skiprows + 1ULL * image.m_height;
-    const unsigned long long first = 1ULL * image.window.skippixels * pixelbytes;
+    unsigned long long const align = pack_alignment(image.store);
+    unsigned long long const row = (image.rowlength() * pixelbytes + align - 1) / align * align;
+    unsigned long long const rows = image.window.skiprows + 1ULL * image.m_height;
+    unsigned long long const first = 1ULL * image.window.skippixels * pixelbytes;
     // 32-bit counts and at most 16 bytes a pixel: only this product can leave 64 bits.
     unsigned long long needed = 0;
     if (image.m_width == 0 || image.m_height == 0 || __builtin_mul_overflow(row, rows, &needed) ||

@@ -43,22 +43,22 @@ class grPixelStoreKeeper {
 // them.
 
 /// GL_UNPACK_SWAP_BYTES, GL_UNPACK_ALIGNMENT; null does nothing.
-void grPixelStoreUnpack(const image_store_t* store);
+void grPixelStoreUnpack(image_store_t const* store);
 /// GL_UNPACK_SKIP_PIXELS.
-void grPixelStoreUnpack(const image_window1d_t& window);
+void grPixelStoreUnpack(image_window1d_t const& window);
 /// GL_UNPACK_ROW_LENGTH, GL_UNPACK_SKIP_PIXELS, GL_UNPACK_SKIP_ROWS.
-void grPixelStoreUnpack(const image_window2d_t& window);
+void grPixelStoreUnpack(image_window2d_t const& window);
 /// GL_UNPACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
-void grPixelStoreUnpack(const image_window3d_t& window);
+void grPixelStoreUnpack(image_window3d_t const& window);
 
 /// GL_PACK_SWAP_BYTES, GL_PACK_ALIGNMENT; null does nothing.
-void grPixelStorePack(const image_store_t* store);
+void grPixelStorePack(image_store_t const* store);
 /// GL_PACK_SKIP_PIXELS.
-void grPixelStorePack(const image_window1d_t& window);
+void grPixelStorePack(image_window1d_t const& window);
 /// GL_PACK_ROW_LENGTH, GL_PACK_SKIP_PIXELS, GL_PACK_SKIP_ROWS.
-void grPixelStorePack(const image_window2d_t& window);
+void grPixelStorePack(image_window2d_t const& window);
 /// GL_PACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
-void grPixelStorePack(const image_window3d_t& window);
+void grPixelStorePack(image_window3d_t const& window);
 
 /// Allocates an image that OpenGL is to write pixels of `pixelbytes` bytes (at most 16) into under
 /// the image's own store and window: at least `image.allocate()`, and more where the description

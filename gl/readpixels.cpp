@@ -20,7 +20,7 @@ struct source_t {
 /// The viewport's rectangle of one buffer, row 0 at the bottom.
 class frame_reader_t {
   public:
-    explicit frame_reader_t(const source_t& source) : m_source(source) {
+    explicit frame_reader_t(source_t const& source) : m_source(source) {
         glGetIntegerv(GL_VIEWPORT, m_viewport);
     }
 
@@ -44,23 +44,23 @@ class frame_reader_t {
     }
 
   private:
-    const source_t& m_source;
+    source_t const& m_source;
     GLint m_viewport[4] = {};
 };
 
-constexpr source_t g_rgb = {
+constexpr source_t rgb_source = {
     {IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_8}, GL_RGB, GL_UNSIGNED_BYTE, 3};
-constexpr source_t g_depth = {
+constexpr source_t depth_source = {
     {IMAGE_FORMAT_DEPTH, IMAGE_TYPE_UINT, IMAGE_BITS_24}, GL_DEPTH_COMPONENT, GL_UNSIGNED_INT, 4};
 
-bool is_black(const image2d_t& image) {
+bool is_black(image2d_t const& image) {
     return std::all_of(image.begin(), image.end(), [](unsigned char byte) { return byte == 0; });
 }
 
 }  // namespace
 
 bool grReadPixelsRGB(image2d_t& image) {
-    const frame_reader_t reader(g_rgb);
+    const frame_reader_t reader(rgb_source);
     if (!reader.prepare(image)) {
         return false;
     }
@@ -72,7 +72,7 @@ bool grReadPixelsRGB(image2d_t& image) {
 }
 
 bool grReadPixelsDepth(image2d_t& image) {
-    const frame_reader_t reader(g_depth);
+    const frame_reader_t reader(depth_source);
     if (!reader.prepare(image)) {
         return false;
     }

@@ -28,7 +28,7 @@ grTextureMgr::~grTextureMgr() {
 
 grTextureObject::grTextureObject() : m_target(GL_INVALID_VALUE) {}
 
-void grTextureObject::Preload(const grTexturableImageGL* image) {
+void grTextureObject::Preload(grTexturableImageGL const* image) {
     grTextureMgr& mgr = m_mgr ? *m_mgr : m_mgr.create();
     m_target = grTextureDimToEnum(image->Dimension());
     if (!mgr.created) {
@@ -46,7 +46,7 @@ unsigned long grTextureObject::Dimension() const {
 }
 
 void grTextureObject::Load() const {
-    const grTextureMgr* const mgr = m_mgr.get();
+    grTextureMgr const* const mgr = m_mgr.get();
     if (mgr == nullptr) {
         return;
     }
@@ -60,7 +60,7 @@ void grTextureObject::Load() const {
 }
 
 void grTextureObject::Reload() const {
-    const grTextureMgr* const mgr = m_mgr.get();
+    grTextureMgr const* const mgr = m_mgr.get();
     if (!m_preloaded || mgr == nullptr) {
         return;
     }
@@ -89,7 +89,7 @@ void grTextureObject::clear() {
 // An entry point that the context is too old for is null; without it there is nothing to do.
 
 bool grTextureObject::isResident() const {
-    const grTextureMgr* const mgr = m_mgr.get();
+    grTextureMgr const* const mgr = m_mgr.get();
     if (mgr == nullptr || glAreTexturesResidentEXT == nullptr) {
         return false;
     }
@@ -100,7 +100,7 @@ bool grTextureObject::isResident() const {
 }
 
 void grTextureObject::BindImage(unsigned int unit, int level, unsigned int access) const {
-    const grTextureMgr* const mgr = m_mgr.get();
+    grTextureMgr const* const mgr = m_mgr.get();
     if (mgr != nullptr && glBindImageTexture != nullptr) {
         glBindImageTexture(unit, mgr->name, level, GL_FALSE, 0, access,
                            m_image->GetInternalFormat());
@@ -134,9 +134,9 @@ bool image_type_of(GLint componenttype, e_image_type_t& type) {
 }
 
 bool image_bits_of(GLint componentbits, e_image_bits_t& bits) {
-    const auto* const row =
+    auto const* const row =
         std::find_if(std::begin(s_image_bits_list), std::end(s_image_bits_list),
-                     [componentbits](const image_bits_t& candidate) {
+                     [componentbits](image_bits_t const& candidate) {
                          return static_cast<long long>(candidate.component) == componentbits;
                      });
     if (componentbits <= 0 || row == std::end(s_image_bits_list)) {
@@ -149,8 +149,8 @@ bool image_bits_of(GLint componentbits, e_image_bits_t& bits) {
 /// Makes `img` the record of a level whose parameters `query` tells, without its pixels; `redtype`
 /// is the type of the level's red component.
 template <typename query_t>
-bool describe_level(const query_t& query, image2d_t& img, GLint& redtype) {
-    const auto ask = [&query](GLenum pname, const char* label) {
+bool describe_level(query_t const& query, image2d_t& img, GLint& redtype) {
+    auto const ask = [&query](GLenum pname, char const* label) {
         GLint value = 0;
         query(pname, &value);
         grPrintError(label);
@@ -193,7 +193,7 @@ bool grTextureObject::GetTexImage(unsigned int target, int level, image2d_t& img
         img.clear();
         return false;
     }
-    const auto query = [target, level](GLenum pname, GLint* value) {
+    auto const query = [target, level](GLenum pname, GLint* value) {
         glGetTexLevelParameteriv(target, level, pname, value);
     };
     GLint redtype = 0;
@@ -205,20 +205,20 @@ bool grTextureObject::GetTexImage(unsigned int target, int level, image2d_t& img
 }
 
 bool grTextureObject::GetTextureImage(int level, image2d_t& img) const {
-    const grTextureMgr* const mgr = m_mgr.get();
+    grTextureMgr const* const mgr = m_mgr.get();
     if (mgr == nullptr || glGetTextureImage == nullptr || glGetTextureLevelParameteriv == nullptr) {
         img.clear();
         return false;
     }
     const GLuint name = mgr->name;
-    const auto query = [name, level](GLenum pname, GLint* value) {
+    auto const query = [name, level](GLenum pname, GLint* value) {
         glGetTextureLevelParameteriv(name, level, pname, value);
     };
     GLint redtype = 0;
     if (!describe_level(query, img, redtype)) {
         return false;
     }
-    const auto bytes = std::min<unsigned long>(img.size(), std::numeric_limits<GLsizei>::max());
+    auto const bytes = std::min<unsigned long>(img.size(), std::numeric_limits<GLsizei>::max());
     glGetTextureImage(name, level, GL_RGBA, static_cast<GLenum>(redtype),
                       static_cast<GLsizei>(bytes), img.begin());
     return true;
@@ -232,7 +232,7 @@ struct parameter_t {
 };
 
 void set(GLenum target, std::initializer_list<parameter_t> parameters) {
-    for (const parameter_t& parameter : parameters) {
+    for (parameter_t const& parameter : parameters) {
         glTexParameteri(target, parameter.pname, static_cast<GLint>(parameter.value));
     }
 }
@@ -243,7 +243,7 @@ void set_anisotropy(GLenum target, float value) {
 
 }  // namespace
 
-void grTexParameter(const texparameter1d_t* parameter) {
+void grTexParameter(texparameter1d_t const* parameter) {
     if (parameter != nullptr) {
         set(GL_TEXTURE_1D, {{GL_TEXTURE_MIN_FILTER, parameter->minfilter},
                             {GL_TEXTURE_MAG_FILTER, parameter->magfilter},
@@ -251,7 +251,7 @@ void grTexParameter(const texparameter1d_t* parameter) {
     }
 }
 
-void grTexParameter(const texparameter2d_t* parameter) {
+void grTexParameter(texparameter2d_t const* parameter) {
     if (parameter != nullptr) {
         set(GL_TEXTURE_2D, {{GL_TEXTURE_MIN_FILTER, parameter->minfilter},
                             {GL_TEXTURE_MAG_FILTER, parameter->magfilter},
@@ -262,7 +262,7 @@ void grTexParameter(const texparameter2d_t* parameter) {
     }
 }
 
-void grTexParameter(const texparametercubemap_t* parameter) {
+void grTexParameter(texparametercubemap_t const* parameter) {
     if (parameter == nullptr) {
         return;
     }
@@ -275,7 +275,7 @@ void grTexParameter(const texparametercubemap_t* parameter) {
     grPrintError("grTexParameter(cubemap) end");
 }
 
-void grTexParameter(const texparameter3d_t* parameter) {
+void grTexParameter(texparameter3d_t const* parameter) {
     if (parameter == nullptr) {
         return;
     }
@@ -289,7 +289,7 @@ void grTexParameter(const texparameter3d_t* parameter) {
     }
 }
 
-void grTexParameter(unsigned int target, const color3a_t* color) {
+void grTexParameter(unsigned int target, color3a_t const* color) {
     if (color != nullptr) {
         glTexParameterfv(target, GL_TEXTURE_BORDER_COLOR, &color->r);
     }

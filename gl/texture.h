@@ -38,8 +38,8 @@ class grTexturableObject : public grTexturable {
 /// The owner of one GL texture name.
 struct grTextureMgr {
     grTextureMgr() = default;
-    grTextureMgr(const grTextureMgr&) = delete;
-    grTextureMgr& operator=(const grTextureMgr&) = delete;
+    grTextureMgr(grTextureMgr const&) = delete;
+    grTextureMgr& operator=(grTextureMgr const&) = delete;
     /// Deletes the texture if there is one, for which it needs a current context.
     ~grTextureMgr();
 
@@ -55,13 +55,13 @@ struct grTextureMgr {
 class grTextureObject : public grTexturableObject {
   public:
     grTextureObject();
-    grTextureObject(const grTextureObject&) = default;
-    grTextureObject& operator=(const grTextureObject&) = default;
+    grTextureObject(grTextureObject const&) = default;
+    grTextureObject& operator=(grTextureObject const&) = default;
     ~grTextureObject() override = default;
 
     /// Makes the texture, if it isn't there, binds it and uploads `image`, which isn't owned and
     /// must outlive this object. A second call keeps the name and uploads again.
-    void Preload(const grTexturableImageGL* image);
+    void Preload(grTexturableImageGL const* image);
 
     /// The dimension of the target; 0 before `Preload`.
     unsigned long Dimension() const override;
@@ -93,7 +93,7 @@ class grTextureObject : public grTexturableObject {
     libutils::refobject<grTextureMgr> m_mgr;
     unsigned int m_target;
     bool m_preloaded = false;
-    const grTexturableImageGL* m_image = nullptr;
+    grTexturableImageGL const* m_image = nullptr;
 };
 
 // Texture parameters, with the values of glTexParameter. Who holds one keeps a pointer to it, so
@@ -146,12 +146,12 @@ constexpr texparameter3d_t texparameter3d(unsigned int minfilter, unsigned int m
 
 /// Apply a record to the texture bound now to the record's target; null does nothing. The 2-D form
 /// sets the anisotropy without asking for the extension, the cube map's and the 3-D form ask.
-void grTexParameter(const texparameter1d_t* parameter);
-void grTexParameter(const texparameter2d_t* parameter);
-void grTexParameter(const texparametercubemap_t* parameter);
-void grTexParameter(const texparameter3d_t* parameter);
+void grTexParameter(texparameter1d_t const* parameter);
+void grTexParameter(texparameter2d_t const* parameter);
+void grTexParameter(texparametercubemap_t const* parameter);
+void grTexParameter(texparameter3d_t const* parameter);
 /// Sets the border colour of the texture bound to `target`; null does nothing.
-void grTexParameter(unsigned int target, const color3a_t* color);
+void grTexParameter(unsigned int target, color3a_t const* color);
 
 /// The target of textures of 1, 2 or 3 dimensions and, for 6, of cube maps; else GL_INVALID_VALUE.
 unsigned int grTextureDimToEnum(unsigned long dim);

@@ -8,10 +8,10 @@
 namespace libgr {
 namespace {
 
-constexpr GLenum s_target = GL_TEXTURE_1D;
+constexpr GLenum texture_target = GL_TEXTURE_1D;
 
 /// The parameters that OpenGL reads a row by and that `unpack` doesn't set.
-constexpr pixelstore_t s_one_row[] = {{GL_UNPACK_ROW_LENGTH, 0}, {GL_UNPACK_SKIP_ROWS, 0}};
+constexpr pixelstore_t one_row_store[] = {{GL_UNPACK_ROW_LENGTH, 0}, {GL_UNPACK_SKIP_ROWS, 0}};
 
 }  // namespace
 
@@ -28,13 +28,13 @@ void grTexture1D::Load() const {
     if (m_images.empty()) {
         return;
     }
-    grPixelStoreKeeper const state(s_one_row);
+    grPixelStoreKeeper const state(one_row_store);
     grPalette palette;
     load_palette(palette, m_images[0]);
     if (m_buildmipmap) {
         load_base_level();
         upload_upper_levels<image1d_t>(
-            s_target, m_images, false, m_border,
+            texture_target, m_images, false, m_border,
             {m_size != 0, bordered_side(m_size, m_border), m_border ? 1 : 0});
     } else {
         for (unsigned long i = 0; i < m_images.size(); ++i) {
@@ -42,7 +42,7 @@ void grTexture1D::Load() const {
         }
     }
     grTexParameter(m_texparameter);
-    grTexParameter(s_target, m_bordercolor);
+    grTexParameter(texture_target, m_bordercolor);
 }
 
 void grTexture1D::load_given_level(unsigned long i) const {
@@ -55,13 +55,14 @@ void grTexture1D::load_given_level(unsigned long i) const {
     GLint const border = m_border ? 1 : 0;
     unpack(image);
     if (image.compressed) {
-        upload_compressed(s_target, level, *terms, image, border);
+        upload_compressed(texture_target, level, *terms, image, border);
     } else if (m_size == 0) {
-        tex_image(s_target, level, *terms, extent_of(image), i == 0 ? border : 0, image.begin());
+        tex_image(texture_target, level, *terms, extent_of(image), i == 0 ? border : 0,
+                  image.begin());
     } else {
         // The two border texels are all the storage there is, as in the 2-D texture.
         GLsizei const width = (i == 0 ? 2 * border : 0) + (i == image.m_width ? 2 * border : 0);
-        upload_into(extent_t<1>{width}, s_target, level, *terms, image, border);
+        upload_into(extent_t<1>{width}, texture_target, level, *terms, image, border);
     }
 }
 
@@ -72,13 +73,13 @@ void grTexture1D::load_base_level() const {
         return;
     }
     unpack(image);
-    auto const send = [&] { full_upload(s_target, *terms, image, m_size, m_border); };
+    auto const send = [&] { full_upload(texture_target, *terms, image, m_size, m_border); };
     if (mipmap_route(terms->internalformat, false) == mipmap_route_t::sgis) {
-        generate_by_sgis(s_target, send);
+        generate_by_sgis(texture_target, send);
     } else if (image.compressed) {
         send();
     } else {
-        upload_by_glu(s_target, *terms, image);
+        upload_by_glu(texture_target, *terms, image);
     }
 }
 

@@ -8,7 +8,7 @@
 namespace libgr {
 namespace {
 
-constexpr GLenum s_target = GL_TEXTURE_2D;
+constexpr GLenum texture_target = GL_TEXTURE_2D;
 
 /// The side that a level of a square texture gets when no mipmaps are built. It comes out as 0 for
 /// textures without border; OpenGL's errors tell whoever uses it.
@@ -27,14 +27,14 @@ void upload_given_level(gl_loading_format_t const& terms, image2d_t const& image
     auto const level = static_cast<GLint>(i);
     GLint const level_border = i == 0 && border ? 1 : 0;
     if (image.compressed) {
-        upload_compressed(s_target, level, terms, image, border);
+        upload_compressed(texture_target, level, terms, image, border);
     } else if (size == 0) {
         grPrintError("before-teximage2d(not-mipmap)");
-        tex_image(s_target, level, terms, extent_of(image), level_border, image.begin());
+        tex_image(texture_target, level, terms, extent_of(image), level_border, image.begin());
         grPrintError("after-teximage2d(not-mipmap)");
     } else {
-        upload_into(square_extent(image, given_level_side(size, border, i)), s_target, level, terms,
-                    image, level_border);
+        upload_into(square_extent(image, given_level_side(size, border, i)), texture_target, level,
+                    terms, image, level_border);
     }
 }
 
@@ -42,9 +42,10 @@ void upload_given_level(gl_loading_format_t const& terms, image2d_t const& image
 void resend(gl_loading_format_t const& terms, image2d_t const& image, std::size_t i) {
     auto const level = static_cast<GLint>(i);
     if (!image.compressed) {
-        tex_sub_image(s_target, level, terms, extent_of(image), image.begin());
+        tex_sub_image(texture_target, level, terms, extent_of(image), image.begin());
     } else if (is_GL_ARB_texture_compression_supported != 0) {
-        glCompressedTexSubImage2DARB(s_target, level, 0, 0, static_cast<GLsizei>(image.m_width),
+        glCompressedTexSubImage2DARB(texture_target, level, 0, 0,
+                                     static_cast<GLsizei>(image.m_width),
                                      static_cast<GLsizei>(image.m_height), terms.format,
                                      static_cast<GLsizei>(image.size()), image.begin());
     } else {
@@ -60,7 +61,7 @@ void resend_checked(gl_loading_format_t const& terms, image2d_t const& image, un
     }
     auto const extent = extent_of(image);
     check_square_storage(terms, border);
-    tex_sub_image(s_target, 0, terms, extent, image.begin());
+    tex_sub_image(texture_target, 0, terms, extent, image.begin());
     check_square_pixels(terms, bordered_side(size, border), extent[0], extent[1]);
 }
 
@@ -83,7 +84,7 @@ void grTexture2D::Load() const {
     load_palette(palette, m_images[0]);
     if (m_buildmipmap) {
         send_base_level(false);
-        upload_upper_levels<image2d_t>(s_target, m_images, m_internalcompression, m_border,
+        upload_upper_levels<image2d_t>(texture_target, m_images, m_internalcompression, m_border,
                                        {m_size != 0, power_of_two_side(m_size), 0});
     } else {
         for (std::size_t i = 0; i < m_images.size(); ++i) {
@@ -130,22 +131,23 @@ void grTexture2D::send_base_level(bool reload) const {
     }
     unpack(image);
     auto const send = [&] {
-        reload ? resend(*terms, image, 0) : full_upload(s_target, *terms, image, m_size, m_border);
+        reload ? resend(*terms, image, 0)
+               : full_upload(texture_target, *terms, image, m_size, m_border);
     };
     switch (route_of(*terms)) {
         case mipmap_route_t::gl3:
             reload ? resend_checked(*terms, image, m_size, m_border) : send();
-            glGenerateMipmap(s_target);
+            glGenerateMipmap(texture_target);
             break;
         case mipmap_route_t::sgis:
-            generate_by_sgis(s_target, send);
+            generate_by_sgis(texture_target, send);
             break;
         case mipmap_route_t::glu:
             if (image.compressed) {
                 report_no_compressed_mipmaps();
                 send();
             } else {
-                upload_by_glu(s_target, *terms, image);
+                upload_by_glu(texture_target, *terms, image);
             }
             break;
     }
@@ -154,7 +156,7 @@ void grTexture2D::send_base_level(bool reload) const {
 void grTexture2D::apply_parameters() const {
     grTexParameter(m_texparameter);
     if (m_border) {
-        grTexParameter(s_target, m_bordercolor);
+        grTexParameter(texture_target, m_bordercolor);
     }
 }
 

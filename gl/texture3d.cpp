@@ -10,7 +10,7 @@
 namespace libgr {
 namespace {
 
-constexpr GLenum s_target = GL_TEXTURE_3D;
+constexpr GLenum texture_target = GL_TEXTURE_3D;
 
 void report_fallback() {
     if (is_GL_SGIS_generate_mipmap_supported != 0) {
@@ -40,7 +40,7 @@ void grTexture3D::Load() const {
     load_palette(palette, m_images[0]);
     if (m_buildmipmap) {
         load_base_level();
-        upload_upper_levels<image3d_t>(s_target, m_images, m_internalcompression, m_border,
+        upload_upper_levels<image3d_t>(texture_target, m_images, m_internalcompression, m_border,
                                        {m_size != 0, bordered_side(m_size, m_border), 0});
     } else {
         for (unsigned long i = 0; i < m_images.size(); ++i) {
@@ -60,13 +60,13 @@ void grTexture3D::load_given_level(unsigned long i) const {
     auto const level = static_cast<GLint>(i);
     unpack(image);
     if (image.compressed) {
-        upload_compressed(s_target, level, *terms, image, m_border);
+        upload_compressed(texture_target, level, *terms, image, m_border);
         return;
     }
     // No storage but a border's: whoever wants a volume has its mipmaps built.
     unsigned int const inner = power_of_two_side(m_size - (m_border ? 2 : 0));
     unsigned int const side = m_border && inner + i == 0 ? 2 : 0;
-    upload_into(square_extent(image, side), s_target, level, *terms, image,
+    upload_into(square_extent(image, side), texture_target, level, *terms, image,
                 i == 0 && m_border ? 1 : 0);
 }
 
@@ -77,14 +77,14 @@ void grTexture3D::load_base_level() const {
         return;
     }
     unpack(image);
-    auto const send = [&] { full_upload(s_target, *terms, image, m_size, m_border); };
+    auto const send = [&] { full_upload(texture_target, *terms, image, m_size, m_border); };
     if (mipmap_route(terms->internalformat, false) == mipmap_route_t::sgis) {
-        generate_by_sgis(s_target, send);
+        generate_by_sgis(texture_target, send);
     } else if (image.compressed) {
         report_fallback();
         send();
     } else {
-        upload_by_glu(s_target, *terms, image);
+        upload_by_glu(texture_target, *terms, image);
     }
 }
 

@@ -10,10 +10,10 @@
 namespace libgr {
 namespace {
 
-constexpr unsigned long s_faces = 6;
+constexpr unsigned long face_count = 6;
 
 GLenum face_target(unsigned long face) {
-    static constexpr GLenum s_gl_cube_map_targets[s_faces] = {
+    static constexpr GLenum s_gl_cube_map_targets[face_count] = {
         GL_TEXTURE_CUBE_MAP_POSITIVE_X, GL_TEXTURE_CUBE_MAP_NEGATIVE_X,
         GL_TEXTURE_CUBE_MAP_POSITIVE_Y, GL_TEXTURE_CUBE_MAP_NEGATIVE_Y,
         GL_TEXTURE_CUBE_MAP_POSITIVE_Z, GL_TEXTURE_CUBE_MAP_NEGATIVE_Z,
@@ -62,17 +62,17 @@ void build_face(GLenum target, gl_loading_format_t const& terms, image2d_t const
 
 void grTextureCubeMap::setImage(image2d_t const (&images)[6], unsigned int size,
                                 unsigned long level) {
-    replace_from(s_faces * libutils::min2(level, s_max_images), images, size);
+    replace_from(face_count * libutils::min2(level, max_image_count), images, size);
 }
 
 void grTextureCubeMap::setImages(std::vector<image2d_t[6]> const& images, unsigned int size,
                                  unsigned long level) {
     std::vector<image2d_t> flat;
-    flat.reserve(images.size() * s_faces);
+    flat.reserve(images.size() * face_count);
     for (auto const& faces : images) {
         flat.insert(flat.end(), std::begin(faces), std::end(faces));
     }
-    overwrite_from(s_faces * libutils::min2(level, s_max_images), flat, size);
+    overwrite_from(face_count * libutils::min2(level, max_image_count), flat, size);
 }
 
 void grTextureCubeMap::Load() const {
@@ -90,11 +90,11 @@ void grTextureCubeMap::Load() const {
 }
 
 void grTextureCubeMap::load_given_levels() const {
-    for (unsigned long i = 0; i < m_images.size() / s_faces * s_faces; ++i) {
+    for (unsigned long i = 0; i < m_images.size() / face_count * face_count; ++i) {
         if (auto const terms = resolve(m_images[i], m_internalcompression)) {
             unpack(m_images[i]);
-            upload_given_face(face_target(i % s_faces), *terms, m_images[i], i / s_faces, m_size,
-                              m_border);
+            upload_given_face(face_target(i % face_count), *terms, m_images[i], i / face_count,
+                              m_size, m_border);
         }
     }
 }
@@ -105,7 +105,7 @@ bool grTextureCubeMap::load_base_level() const {
         return false;
     }
     auto const each_face = [this](auto const& upload) {
-        for (unsigned long face = 0; face < std::min(s_faces, m_images.size()); ++face) {
+        for (unsigned long face = 0; face < std::min(face_count, m_images.size()); ++face) {
             if (auto const terms = resolve(m_images[face], m_internalcompression)) {
                 unpack(m_images[face]);
                 upload(face_target(face), *terms, m_images[face]);

@@ -53,11 +53,11 @@ class grTexturableLevels : public grTexturableImageGL {
     }
 
   protected:
-    static constexpr unsigned long s_max_images = libutils::limits::texture_images.value;
+    static constexpr unsigned long max_image_count = libutils::limits::texture_images.value;
 
     /// Makes the vector exactly `first + images.size()` long and puts the images at its end.
     void replace_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
-        if (first >= s_max_images) {
+        if (first >= max_image_count) {
             libutils::report_limit(libutils::limits::texture_images);
             return;
         }
@@ -66,7 +66,7 @@ class grTexturableLevels : public grTexturableImageGL {
     }
     /// Makes the vector at least `first + images.size()` long and puts the images at `first`.
     void overwrite_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
-        if (first >= s_max_images) {
+        if (first >= max_image_count) {
             libutils::report_limit(libutils::limits::texture_images);
             return;
         }

@@ -9,11 +9,11 @@
 namespace libgr {
 namespace {
 
-constexpr pixelstore_t s_initial_state[] = {{GL_UNPACK_SWAP_BYTES, 0},
-                                            {GL_UNPACK_ALIGNMENT, 4},
-                                            {GL_UNPACK_ROW_LENGTH, 0},
-                                            {GL_UNPACK_SKIP_PIXELS, 0},
-                                            {GL_UNPACK_SKIP_ROWS, 0}};
+constexpr pixelstore_t initial_unpack_state[] = {{GL_UNPACK_SWAP_BYTES, 0},
+                                                 {GL_UNPACK_ALIGNMENT, 4},
+                                                 {GL_UNPACK_ROW_LENGTH, 0},
+                                                 {GL_UNPACK_SKIP_PIXELS, 0},
+                                                 {GL_UNPACK_SKIP_ROWS, 0}};
 
 }  // namespace
 
@@ -34,7 +34,7 @@ void grTextureRectangle::send(bool reload) const {
     if (m_image.empty()) {
         return;
     }
-    grPixelStoreKeeper const state(s_initial_state);
+    grPixelStoreKeeper const state(initial_unpack_state);
     grPalette palette;
     load_palette(palette, m_image);
     auto const terms = resolve_in_initial_state(m_image, m_image.compressed);

@@ -15,10 +15,10 @@
 namespace libgr {
 namespace {
 
-constexpr auto s_largest = static_cast<unsigned int>(std::numeric_limits<GLint>::max());
+constexpr auto max_gl_int = static_cast<unsigned int>(std::numeric_limits<GLint>::max());
 
-constexpr GLenum s_sgis_internalformats[] = {GL_RGB5, GL_RGB8, GL_RGBA8, GL_BGR,
-                                             GL_BGRA, GL_RGB,  GL_RGBA};
+constexpr GLenum sgis_internalformats[] = {GL_RGB5, GL_RGB8, GL_RGBA8, GL_BGR,
+                                           GL_BGRA, GL_RGB,  GL_RGBA};
 
 /// `read` is the record as OpenGL reads it.
 template <typename image_t, typename read_t>
@@ -48,7 +48,7 @@ void log_line(char const* name, unsigned int value) {
 }  // namespace
 
 unsigned int power_of_two_side(unsigned int side) {
-    unsigned int const low = side & s_largest;
+    unsigned int const low = side & max_gl_int;
     return low == 0 || libutils::Is_2nSize(low) ? low : 1U << libutils::Get_TopBitPos(low);
 }
 
@@ -61,8 +61,8 @@ mipmap_route_t mipmap_route(GLenum internalformat, bool has_gl3) {
     if (has_gl3) {
         return mipmap_route_t::gl3;
     }
-    bool const listed = std::ranges::find(s_sgis_internalformats, internalformat) !=
-                        std::end(s_sgis_internalformats);
+    bool const listed =
+        std::ranges::find(sgis_internalformats, internalformat) != std::end(sgis_internalformats);
     return is_GL_SGIS_generate_mipmap_supported != 0 && listed ? mipmap_route_t::sgis
                                                                : mipmap_route_t::glu;
 }

@@ -13,11 +13,11 @@
 namespace libgr {
 namespace {
 
-constexpr auto s_largest = static_cast<unsigned int>(std::numeric_limits<GLint>::max());
+constexpr auto max_gl_int = static_cast<unsigned int>(std::numeric_limits<GLint>::max());
 
 /// OpenGL's alignments, by the logarithm.
-constexpr image_store_t s_stores[] = {{false, 1}, {false, 2}, {false, 4}, {false, 8}};
-constexpr image_store_t const& s_initial_store = s_stores[2];
+constexpr image_store_t stores[] = {{false, 1}, {false, 2}, {false, 4}, {false, 8}};
+constexpr image_store_t const& initial_store = stores[2];
 
 bool is_alignment(unsigned int bytes) {
     return bytes <= 8 && libutils::Is_2nSize(bytes);
@@ -31,7 +31,7 @@ image_store_t const* effective_store(image_store_t const* store) {
     GLint value = 0;
     glGetIntegerv(GL_UNPACK_ALIGNMENT, &value);
     auto const kept = static_cast<unsigned int>(value);
-    return is_alignment(kept) ? &s_stores[libutils::Get_TopBitPos(kept) - 1] : &s_initial_store;
+    return is_alignment(kept) ? &stores[libutils::Get_TopBitPos(kept) - 1] : &initial_store;
 }
 
 image3d_t make_read(image_bytes_t const& bytes, image_store_t const* store,
@@ -54,7 +54,7 @@ bool fits_parameters(image3d_t const& read) {
         std::initializer_list<unsigned int>{window.rowlength, window.imageheight, window.skippixels,
                                             window.skiprows, window.skipimages, read.m_width,
                                             read.m_height, read.m_depth},
-        [](unsigned int value) { return value <= s_largest; });
+        [](unsigned int value) { return value <= max_gl_int; });
 }
 
 }  // namespace
@@ -82,7 +82,7 @@ image3d_t as_read(image3d_t const& image) {
 }
 
 image3d_t as_read_in_initial_state(image2d_t const& image) {
-    return make_read(image, &s_initial_store, {}, image.m_width, image.m_height, 1);
+    return make_read(image, &initial_store, {}, image.m_width, image.m_height, 1);
 }
 
 unsigned long long read_bits(gl_loading_format_t const& terms) {
@@ -110,7 +110,7 @@ unsigned long long read_bits(gl_loading_format_t const& terms) {
 
 bool reads_within(image3d_t const& read, gl_loading_format_t const& terms) {
     if (read.compressed) {
-        return read.size() <= s_largest;
+        return read.size() <= max_gl_int;
     }
     unsigned long long const bits = read_bits(terms);
     return bits == 0 || (fits_parameters(read) && pixels_within(read, bits));

@@ -14,7 +14,7 @@ struct widening_row_t {
     image_desc_t desc;
     unsigned char scale;  ///< a sample of 8 bits for each unit of the source's sample
 };
-constexpr widening_row_t k_widenings[] = {
+constexpr widening_row_t widening_rows[] = {
     {{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_1}, 255},
     {{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_2}, 255 / 3},
     {{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_4}, 255 / 15},
@@ -33,8 +33,8 @@ bool has_byte_order(e_image_bits_t bits) {
 
 bool widen_samples(image2d_t& dst, image2d_t const& src) {
     auto const* const row =
-        std::ranges::find_if(k_widenings, [&](auto const& r) { return r.desc == src.desc; });
-    if (row == std::end(k_widenings)) {
+        std::ranges::find_if(widening_rows, [&](auto const& r) { return r.desc == src.desc; });
+    if (row == std::end(widening_rows)) {
         dst = src;
         return true;
     }

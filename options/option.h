@@ -79,8 +79,8 @@ inline constexpr char const* site_directory = "/usr/site/share/zanolib/";
 
 inline constexpr std::size_t option_count = 25;
 
-/// One row for each field of `g_option`, in that order. The parser, the help, the user default file,
-/// the manual page and the completions of the shells all come from it.
+/// One row for each field of `g_option`, in that order. The parser, the help, the user default
+/// file, the manual page and the completions of the shells all come from it.
 extern std::array<option_entity_t, option_count> option_entity_table;
 
 /// Fills the lengths of all rows. It may run more than once.

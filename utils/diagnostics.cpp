@@ -17,8 +17,8 @@ namespace {
 enum terminal_t : long { NO_TERMINAL, UTF8_TERMINAL, BYTE_TERMINAL };
 
 long& terminal_mark(std::ostream& out) {
-    static int const s_index = std::ios_base::xalloc();
-    return out.iword(s_index);
+    static int const stream_index = std::ios_base::xalloc();
+    return out.iword(stream_index);
 }
 
 }  // namespace

@@ -11,24 +11,30 @@ namespace {
 
 using namespace libgr;
 
-std::string const k_quads = ramp(64);
-std::string const k_area(1024, 'q');
-std::string const k_far(4096, 'p');
-std::string const k_large(300000, 'l');
-std::string const k_srgb = "BGRs" + std::string(64, 'h') + "rgb0";
+std::string const palette_bytes = ramp(64);
+std::string const area_bytes(1024, 'q');
+std::string const far_bytes(4096, 'p');
+std::string const large_bytes(300000, 'l');
+std::string const srgb_header = "BGRs" + std::string(64, 'h') + "rgb0";
 struct {
     bmp_t file;
     char const *mapped, *streamed, *known;  // by image_bmp2_t, image_bmp_t, and BmpLoad as RGB
     char const* limit = "";                 // that image_bmp2_t reports
-} const k_rows[] = {
+} const load_rows[] = {
     {{4, 2, 24, ramp(24)}, "4x2 BGR 8 0: 24", "4x2 BGR 8 0: 24", "4x2 RGB 8 0: 24"},
-    {{1, 1, 24, ramp(4), k_quads}, "1x1 BGR 8 0: 4", "1x1 BGR 8 0: 4", "1x1 RGB 8 0: 3"},
+    {{1, 1, 24, ramp(4), palette_bytes}, "1x1 BGR 8 0: 4", "1x1 BGR 8 0: 4", "1x1 RGB 8 0: 3"},
     {{2, 1, 32, ramp(8)}, "2x1 BGRA 8 0: 8", "-", "2x1 RGB 64 0: 8"},
-    {{2, 1, 32, ramp(8), k_quads}, "-", "-", "2x1 RGB 64 0: 8"},
+    {{2, 1, 32, ramp(8), palette_bytes}, "-", "-", "2x1 RGB 64 0: 8"},
     // The palette area's bytes count as entries, as far as the file goes.
-    {{4, 1, 8, k_far, k_area}, "4x1 INDEX 8 1024: 4096", "4x1 GRAYSCALE 8 0: 4", "4x1 RGB 8 0: 4"},
-    {{3, 1, 4, ramp(4), k_quads}, "3x1 INDEX 4 16: 4", "3x1 GRAYSCALE 4 0: 4", "3x1 RGB 4 0: 0"},
-    {{4, 1, 8, ramp(4), k_srgb}, "4x1 INDEX 8 1: 4", "4x1 GRAYSCALE 8 0: 4", "4x1 RGB 8 0: 4"},
+    {{4, 1, 8, far_bytes, area_bytes},
+     "4x1 INDEX 8 1024: 4096",
+     "4x1 GRAYSCALE 8 0: 4",
+     "4x1 RGB 8 0: 4"},
+    {{3, 1, 4, ramp(4), palette_bytes},
+     "3x1 INDEX 4 16: 4",
+     "3x1 GRAYSCALE 4 0: 4",
+     "3x1 RGB 4 0: 0"},
+    {{4, 1, 8, ramp(4), srgb_header}, "4x1 INDEX 8 1: 4", "4x1 GRAYSCALE 8 0: 4", "4x1 RGB 8 0: 4"},
     // The streams' row bytes are cut before they are padded.
     {{33, 1, 1, ramp(8)}, "33x1 GRAYSCALE 1 0: 8", "33x1 GRAYSCALE 1 0: 4", "33x1 RGB 1 0: 0"},
     {{7, 1, 1, ramp(4)}, "7x1 GRAYSCALE 1 0: 4", "7x1 GRAYSCALE 1 0: 0", "7x1 RGB 1 0: 0"},
@@ -48,7 +54,7 @@ struct {
      "6x4194304 GRAYSCALE 8 0: 33554432",
      "6x4194304 RGB 8 0: 25165824",
      "bmp-ratio "},
-    {{1, 2, 8, k_large, "", 0, 0},
+    {{1, 2, 8, large_bytes, "", 0, 0},
      "1x2 INDEX 8 65536: 300054",
      "1x2 GRAYSCALE 8 0: 8",
      "1x2 RGB 8 0: 2",
@@ -58,7 +64,7 @@ struct {
 using Bmp = picture_test_t;
 
 TEST_F(Bmp, ReadersTakeOrRefuseTheSameFiles) {
-    for (auto const& row : k_rows) {
+    for (auto const& row : load_rows) {
         SCOPED_TRACE(row.mapped);
         write_file(file, row.file.bytes());
         capture_t capture;

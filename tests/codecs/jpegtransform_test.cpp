@@ -12,10 +12,11 @@ namespace {
 using namespace libgr;
 using namespace std::string_literals;
 
-constexpr layout_t k_whole{64, 48, JCS_YCbCr, 2, 2}, k_wide{64, 48, JCS_YCbCr, 2, 1, true},
-    k_rgb{40, 24, JCS_RGB, 1, 1}, k_partial{57, 43, JCS_YCbCr, 2, 2, true},
-    k_tall{45, 39, JCS_YCbCr, 1, 2}, k_gray{27, 43, JCS_GRAYSCALE, 2, 2},
-    k_tiny{9, 13, JCS_YCbCr, 2, 2}, k_scans{64, 48, JCS_YCbCr, 4, 3};
+constexpr layout_t whole_layout{64, 48, JCS_YCbCr, 2, 2},
+    wide_layout{64, 48, JCS_YCbCr, 2, 1, true}, rgb_layout{40, 24, JCS_RGB, 1, 1},
+    partial_layout{57, 43, JCS_YCbCr, 2, 2, true}, tall_layout{45, 39, JCS_YCbCr, 1, 2},
+    gray_layout{27, 43, JCS_GRAYSCALE, 2, 2}, tiny_layout{9, 13, JCS_YCbCr, 2, 2},
+    scans_layout{64, 48, JCS_YCbCr, 4, 3};
 
 jpeg_transform_info request(int code, char const* crop = nullptr) {
     jpeg_transform_info info;
@@ -37,9 +38,9 @@ std::string outcome(std::string const& bytes, jpeg_transform_info info, int opti
 /// which of them turn round.
 struct {
     bool swaps, reverses_x, reverses_y;
-} constexpr k_operations[] = {{false, false, false}, {false, true, false}, {false, false, true},
-                              {true, false, false},  {true, true, true},   {true, false, true},
-                              {false, true, true},   {true, true, false}};
+} constexpr operation_rows[] = {{false, false, false}, {false, true, false}, {false, false, true},
+                                {true, false, false},  {true, true, true},   {true, false, true},
+                                {false, true, true},   {true, true, false}};
 
 struct row_t {
     layout_t const& layout;
@@ -63,7 +64,7 @@ unsigned int source_of(unsigned int at, unsigned int size, unsigned int unit, bo
 
 void expect_moved(row_t const& row) {
     auto const& [width, height, colors, h, v, progressive, restart, arithmetic] = row.layout;
-    auto const& [swaps, reverses_x, reverses_y] = k_operations[row.code];
+    auto const& [swaps, reverses_x, reverses_y] = operation_rows[row.code];
     jpeg_transform_info info = request(row.code, row.crop);
     info.trim = row.trim;
     info.force_grayscale = row.gray;
@@ -95,10 +96,10 @@ void expect_moved(row_t const& row) {
 }
 
 TEST(JpegTransformTest, MovesEachSampleByTheRule) {
-    for (layout_t const& layout :
-         {k_whole, k_wide, k_rgb, k_partial, k_tall, k_gray, k_tiny, k_scans}) {
+    for (layout_t const& layout : {whole_layout, wide_layout, rgb_layout, partial_layout,
+                                   tall_layout, gray_layout, tiny_layout, scans_layout}) {
         for (int code = 0; code < 8; ++code) {
-            auto const [swaps, reverses_x, reverses_y] = k_operations[code];
+            auto const [swaps, reverses_x, reverses_y] = operation_rows[code];
             expect_moved({layout, code, swaps ? layout.height : layout.width,
                           swaps ? layout.width : layout.height});
             JXFORM_CODE const transform = request(code).transform;
@@ -107,22 +108,22 @@ TEST(JpegTransformTest, MovesEachSampleByTheRule) {
         }
     }
     row_t const rows[] = {
-        {k_whole, JXFORM_FLIP_H, 64, 48, nullptr, 0, 0, false, true},
-        {k_whole, JXFORM_TRANSPOSE, 48, 64, nullptr, 0, 0, true},
+        {whole_layout, JXFORM_FLIP_H, 64, 48, nullptr, 0, 0, false, true},
+        {whole_layout, JXFORM_TRANSPOSE, 48, 64, nullptr, 0, 0, true},
         // The corner goes to the unit's edge, and the size grows unless it is forced.
-        {k_whole, JXFORM_NONE, 22, 11, "20x10+18+33", 16, 32},
-        {k_whole, JXFORM_NONE, 20, 10, "20fx10F-10-3", 32, 32},
-        {k_whole, JXFORM_FLIP_H, 48, 48, "+16+1", 16, 0},
-        {k_whole, JXFORM_ROT_90, 16, 16, "16x16+16+32", 16, 32, false, true},
-        {k_whole, JXFORM_FLIP_H, 150, 48, "150rx48", 0, 0, false, false, 64},
+        {whole_layout, JXFORM_NONE, 22, 11, "20x10+18+33", 16, 32},
+        {whole_layout, JXFORM_NONE, 20, 10, "20fx10F-10-3", 32, 32},
+        {whole_layout, JXFORM_FLIP_H, 48, 48, "+16+1", 16, 0},
+        {whole_layout, JXFORM_ROT_90, 16, 16, "16x16+16+32", 16, 32, false, true},
+        {whole_layout, JXFORM_FLIP_H, 150, 48, "150rx48", 0, 0, false, false, 64},
         // With 48 by 32 samples in whole units, and 56 by 40 in the units of gray.
-        {k_partial, JXFORM_ROT_90, 43, 57, "43x57"},
-        {k_partial, JXFORM_ROT_90, 32, 57, nullptr, 0, 0, true},
-        {k_partial, JXFORM_ROT_270, 43, 32, "+0+16", 0, 16, true},
-        {k_partial, JXFORM_FLIP_V, 57, 11, "+0+32", 0, 32, true},  // all that there is
-        {k_partial, JXFORM_ROT_180, 56, 40, nullptr, 0, 0, true, true},
-        {k_partial, JXFORM_NONE, 90, 43, "90R", 0, 0, false, false, 48},
-        {k_partial, JXFORM_FLIP_H, 80, 60, "80fx60f+17", 16},
+        {partial_layout, JXFORM_ROT_90, 43, 57, "43x57"},
+        {partial_layout, JXFORM_ROT_90, 32, 57, nullptr, 0, 0, true},
+        {partial_layout, JXFORM_ROT_270, 43, 32, "+0+16", 0, 16, true},
+        {partial_layout, JXFORM_FLIP_V, 57, 11, "+0+32", 0, 32, true},  // all that there is
+        {partial_layout, JXFORM_ROT_180, 56, 40, nullptr, 0, 0, true, true},
+        {partial_layout, JXFORM_NONE, 90, 43, "90R", 0, 0, false, false, 48},
+        {partial_layout, JXFORM_FLIP_H, 80, 60, "80fx60f+17", 16},
     };
     for (row_t const& row : rows) {
         expect_moved(row);
@@ -130,7 +131,7 @@ TEST(JpegTransformTest, MovesEachSampleByTheRule) {
 }
 
 TEST(JpegTransformTest, TurnsByCountsBelowFourInPlace) {
-    std::string const bytes = jpeg_of(k_partial);
+    std::string const bytes = jpeg_of(partial_layout);
     for (unsigned int count = 0; count < 4; ++count) {
         jpegdata_t data = jpegdata_of(bytes);
         EXPECT_TRUE(transform(count, data, data));
@@ -144,12 +145,12 @@ TEST(JpegTransformTest, TurnsByCountsBelowFourInPlace) {
 
 TEST(JpegTransformTest, RefusesWhatCantBeDone) {
     std::string const error = "nothing\nmemory: error detected.\n";
-    std::string const no_crop = error + "Invalid crop request\n", partial = jpeg_of(k_partial);
+    std::string const no_crop = error + "Invalid crop request\n", partial = jpeg_of(partial_layout);
     for (char const* crop :
          {"58", "x44", "x10+0+34", "0x5", "10f+57", "50-8", "65501f", "4294967295-4294967295"}) {
         EXPECT_EQ(outcome(partial, request(0, crop)), no_crop) << crop;
     }
-    EXPECT_EQ(outcome(jpeg_of(k_tiny), request(0, "40r")), no_crop) << "nothing to mirror";
+    EXPECT_EQ(outcome(jpeg_of(tiny_layout), request(0, "40r")), no_crop) << "nothing to mirror";
     for (char const* text :
          {"4294967296", "10x", "10X10", "10ff", "+", "1+2+3+4", " 1", "1x2 ", "+1f", "1F+-3"}) {
         jpeg_transform_info info;
@@ -159,14 +160,14 @@ TEST(JpegTransformTest, RefusesWhatCantBeDone) {
         EXPECT_EQ(outcome(partial, request(code)),
                   error + "Requested feature was omitted at compile time\n");
     }
-    EXPECT_EQ(outcome(jpeg_of(k_rgb), {.force_grayscale = true}),
+    EXPECT_EQ(outcome(jpeg_of(rgb_layout), {.force_grayscale = true}),
               error + "Unsupported color conversion request\n");
     EXPECT_EQ(outcome(partial, {.transform = JXFORM_ROT_90, .perfect = true}),
               "nothing\n: transformation is not perfect\n");
 }
 
 TEST(JpegTransformTest, SurvivesCutAndDamagedFiles) {
-    for (layout_t const& layout : {k_partial, k_tall, k_gray}) {
+    for (layout_t const& layout : {partial_layout, tall_layout, gray_layout}) {
         std::string const bytes = jpeg_of(layout);
         auto const turned = [&](std::size_t at, std::string const& damage, std::size_t end) {
             return outcome(std::string(bytes).replace(at, damage.size(), damage).substr(0, end),
@@ -221,7 +222,7 @@ std::string encoded_steps(JCOEF step) {
 TEST(JpegTransformTest, WritesEachValueOrNothing) {
     for (int code = 0; code < 8; ++code) {
         std::string const out = outcome(encoded_steps(900), request(code));
-        bool const steps = k_operations[code].swaps;  // from 900 to -1800 at once
+        bool const steps = operation_rows[code].swaps;  // from 900 to -1800 at once
         EXPECT_EQ(out == "nothing\nmemory: error detected.\nDCT coefficient out of range\n", steps);
         EXPECT_TRUE(steps || pixels_of(out).samples.size() == 24 * 16) << code;
     }
@@ -241,16 +242,16 @@ TEST(JpegTransformTest, CopiesMarkersByOption) {
     std::string const copied[] = {"", comment, all, exif + jfxx + comment + adobe, icc};
     for (int option = JCOPY_NONE; option <= JCOPY_ICC; ++option) {
         std::string const expected = copied[option] + "\xFF\xDB";  // behind the new JFIF header
-        std::string const out = outcome(jpeg_of(k_whole, all), request(0), option);
+        std::string const out = outcome(jpeg_of(whole_layout, all), request(0), option);
         EXPECT_EQ(out.substr(20, expected.size()), expected);
-        std::string const rgb = outcome(jpeg_of(k_rgb), request(0), option);
+        std::string const rgb = outcome(jpeg_of(rgb_layout), request(0), option);
         EXPECT_EQ(rgb.find("Adobe"), rgb.rfind("Adobe"));
     }
 }
 
 TEST(JpegTransformTest, WritesTheNewSizeIntoExif) {
     auto const expect = [](std::string const& written, std::string const& old) {
-        std::string const in = jpeg_of(k_whole, segment(0xE1, old));
+        std::string const in = jpeg_of(whole_layout, segment(0xE1, old));
         std::string const out = outcome(in, request(JXFORM_ROT_270), JCOPY_ALL);
         EXPECT_NE(out.find(segment(0xE1, written)), out.npos) << old.size();
     };

@@ -35,7 +35,7 @@ TEST_F(Context, ReadsWhatTheWindowShows) {
     upside_down.setObject(&list);
     grContainer root;
     root.addObject(&upside_down);
-    for (const bool swapped : {true, false}) {  // shown, or drawn anew and not shown yet
+    for (bool const swapped : {true, false}) {  // shown, or drawn anew and not shown yet
         grClearColor(color3a(0, 0, swapped ? 1.0F : 0.2F, 1));
         glClear(GL_COLOR_BUFFER_BIT);
         root.Draw();
@@ -85,7 +85,7 @@ TEST_F(Context, TexturesComeBack) {
     EXPECT_TRUE(texture.GetTexImage(GL_TEXTURE_2D, 0, bound));
     texture.Unload();
     EXPECT_TRUE(texture.GetTextureImage(0, own));
-    for (const image2d_t* image : {&bound, &own}) {
+    for (image2d_t const* image : {&bound, &own}) {
         ASSERT_EQ(image->size(), sizeof source.pixels);
         EXPECT_EQ(std::memcmp(image->begin(), source.pixels, sizeof source.pixels), 0);
     }

@@ -18,15 +18,15 @@ using namespace libgr;
 TEST(glformat, each_description_gets_its_row_or_four_lines) {
     // A format's line tells what a refusal leaves there, 7 where nobody wrote: the pixel format is
     // written before the search. The descriptions that it accepts follow.
-    constexpr unsigned int s_bits = IMAGE_BITS_MAX;
+    constexpr unsigned int bits_count = IMAGE_BITS_MAX;
     std::string text;
     for (unsigned int format = 0; format <= IMAGE_FORMAT_MAX; ++format) {
         std::ostringstream accepted;
         std::set<std::string> left;
-        for (unsigned int cell = 0; cell < IMAGE_TYPE_MAX * s_bits; ++cell) {
+        for (unsigned int cell = 0; cell < IMAGE_TYPE_MAX * bits_count; ++cell) {
             image_desc_t const desc{static_cast<e_image_format_t>(format),
-                                    static_cast<e_image_type_t>(cell / s_bits),
-                                    static_cast<e_image_bits_t>(cell % s_bits)};
+                                    static_cast<e_image_type_t>(cell / bits_count),
+                                    static_cast<e_image_bits_t>(cell % bits_count)};
             gl_loading_format_t out{7, 7, 7};
             capture_t capture;
             bool const known = grConvertImageFormatToGlFormatFULL(&out, desc, false);

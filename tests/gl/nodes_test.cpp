@@ -80,7 +80,7 @@ TEST_F(Nodes, ScopeObjectsChangeOnlyWhatTheyBringBack) {
 TEST_F(Nodes, ReportTakesOneErrorAndKeepsTheStream) {
     gl.errors = {GL_INVALID_ENUM, 0x9999};
     std::cerr << std::hex;
-    for (const char* label : {"after Draw()", static_cast<const char*>(nullptr), "nothing"}) {
+    for (char const* label : {"after Draw()", static_cast<char const*>(nullptr), "nothing"}) {
         note("reported:", grPrintError(label));
     }
     note("hexadecimal:", std::cerr.flags() & std::ios_base::hex);

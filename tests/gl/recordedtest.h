@@ -18,14 +18,14 @@ struct recorded_test : testing::Test {
     std::string text;
 
     /// Puts values behind the calls and the reports until now.
-    void note(const auto&... values) {
+    void note(auto const&... values) {
         std::ostringstream line;
         ((line << ' ' << values), ...);
         text += gl.take() + console.out() + console.err() + "#" + line.str() + "\n";
     }
     void TearDown() override {
         note("end");
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
+        auto const* const test = testing::UnitTest::GetInstance()->current_test_info();
         EXPECT_TRUE(matches_file(text, std::string(CALLS) + test->name() + ".txt"));
     }
 };

@@ -54,7 +54,7 @@ struct upload_t {
     unsigned int size;
 };
 
-constexpr upload_t s_uploads[] = {
+constexpr upload_t uploads[] = {
     {"rows with padding", gl3, IMAGE_FORMAT_RGB, GL_RGB, 5, 3, {}, 0},
     {"window", gl3, IMAGE_FORMAT_BGR, GL_BGR, 6, 4, {16, 3, 2}, 0},
     {"last window in a square", gl3, IMAGE_FORMAT_RGB, GL_RGB, 6, 5, {16, 10, 11}, 7},
@@ -67,7 +67,7 @@ constexpr upload_t s_uploads[] = {
 }  // namespace
 
 TEST_F(texturecontext, pictures_arrive_by_every_route) {
-    for (upload_t const& upload : s_uploads) {
+    for (upload_t const& upload : uploads) {
         SCOPED_TRACE(upload.name);
         gl_flag_t const has_gl3(is_GL_VERSION_3_0_supported, upload.route == gl3);
         gl_flag_t const has_sgis(is_GL_SGIS_generate_mipmap_supported, upload.route == sgis);

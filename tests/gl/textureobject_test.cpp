@@ -30,7 +30,7 @@ TEST_F(TextureObject, CopiesOfATextureShareOneNameUntilTheLast) {
     first.Unload();
     first.clear();
     note("never loaded; resident:", first.isResident());
-    for (const unsigned long dimension : {0UL, 1UL, 2UL, 3UL, 4UL, 5UL, 7UL, 6UL}) {
+    for (unsigned long const dimension : {0UL, 1UL, 2UL, 3UL, 4UL, 5UL, 7UL, 6UL}) {
         images.dimension = dimension;
         first.Preload(&images);
         note("dimension", dimension, "is", first.Dimension());
@@ -42,7 +42,7 @@ TEST_F(TextureObject, CopiesOfATextureShareOneNameUntilTheLast) {
     note("resident, loaded:", second.isResident(), second.isPreload(), second.Dimension());
     second.BindImage(3, 1, GL_READ_ONLY);
     second.UnbindImage(3);
-    for (const bool modern : {false, true}) {
+    for (bool const modern : {false, true}) {
         const gl_flag_t flag(is_GL_VERSION_3_0_supported, modern);
         second.Load();
         second.Unload();
@@ -75,13 +75,13 @@ TEST_F(TextureObject, ReadBackDescribesWhatTheLevelHolds) {
                              {GL_FLOAT, 0, 3},
                              {GL_FLOAT, 5, 3},
                              {GL_FLOAT, 8, 0}};
-    for (const auto& [type, bits, width] : rows) {
+    for (auto const& [type, bits, width] : rows) {
         gl.integers[GL_TEXTURE_RED_TYPE] = {type};
         gl.integers[GL_TEXTURE_RED_SIZE] = {bits};
         gl.integers[GL_TEXTURE_WIDTH] = {width};
-        for (const bool own : {false, true}) {
+        for (bool const own : {false, true}) {
             image2d_t image;
-            const bool good = own ? object.GetTextureImage(1, image)
+            bool const good = own ? object.GetTextureImage(1, image)
                                   : object.GetTexImage(GL_TEXTURE_2D, 1, image);
             note(gl_enum_name(static_cast<GLenum>(type)), bits, width, "read:", good,
                  image.desc.type, image.desc.bits, image.size());
@@ -93,22 +93,22 @@ TEST_F(TextureObject, ReadBackDescribesWhatTheLevelHolds) {
 
 TEST_F(TextureObject, PixelStoreTellsEveryField) {
     const image_store_t store{true, 2};
-    const auto tell_all = [&store](const auto& tell) {
+    auto const tell_all = [&store](auto const& tell) {
         tell(static_cast<const image_store_t*>(nullptr));
         tell(&store);
         tell(image_window1d_t{5});
         tell(image_window2d_t{6, 7, 8});
         tell(image_window3d_t{9, 10, 11, 12, 13});
     };
-    tell_all([](const auto& record) { grPixelStoreUnpack(record); });
-    tell_all([](const auto& record) { grPixelStorePack(record); });
+    tell_all([](auto const& record) { grPixelStoreUnpack(record); });
+    tell_all([](auto const& record) { grPixelStorePack(record); });
     for (const GLenum format :
          {GLenum{GL_LUMINANCE_ALPHA}, GLenum{GL_BGRA}, GLenum{GL_STENCIL_INDEX}}) {
         note(gl_enum_name(format), grFormatToComponents(format));
     }
     for (const GLenum type : {GLenum{GL_UNSIGNED_BYTE}, GLenum{GL_UNSIGNED_SHORT}, GLenum{GL_FLOAT},
                               GLenum{GL_DOUBLE}, GLenum{GL_3_BYTES}}) {
-        const unsigned long size = grTypeToSize(type);
+        unsigned long const size = grTypeToSize(type);
         note(gl_enum_name(type), size, gl_enum_name(grSizeToType(size)));
     }
     note(grSizeToType(3), grSizeToType(9));
@@ -118,7 +118,7 @@ TEST_F(TextureObject, ReadPixelsLooksBehindABlackFront) {
     const image_store_t store{false, 1};
     image2d_t image;
     image.store = &store;
-    const auto read = [this, &image](const char* what, const auto& how) {
+    auto const read = [this, &image](char const* what, auto const& how) {
         const bool good = how(image);
         const std::vector<int> bytes(image.begin(), image.begin() + std::min(image.size(), 12UL));
         note(what, good, image.size(), testing::PrintToString(bytes));

@@ -33,7 +33,7 @@ namespace {
 // for their bytes (c: compressed, s: one too few, r: room behind them, n: no store, w: a window of
 // half the sides), "-" for one never set, "^" ahead of a new level 0. Rows are padded to 4 bytes.
 
-std::map<std::string, image_desc_t> const s_descs = {
+std::map<std::string, image_desc_t> const descs = {
     {"RGB", {IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
     {"RGB565", {IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_R5G6B5}},
     {"GRAY", {IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
@@ -48,13 +48,12 @@ std::map<std::string, image_desc_t> const s_descs = {
     {"RG", {IMAGE_FORMAT_RG, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
 };
 
-constexpr image_store_t s_store{false, 4};
-constexpr color3a_t s_color{1, 0, 0.5F, 1};
-constexpr auto s_filters1d = texparameter1d(GL_NEAREST, GL_LINEAR, GL_CLAMP);
-constexpr auto s_filters2d = texparameter2d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_REPEAT, 2);
-constexpr auto s_filters3d =
-    texparameter3d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_REPEAT, GL_CLAMP, 8);
-constexpr auto s_filterscubemap = texparametercubemap(GL_NEAREST, GL_LINEAR, 4);
+constexpr image_store_t packed_store{false, 4};
+constexpr color3a_t border_color{1, 0, 0.5F, 1};
+constexpr auto filters1d = texparameter1d(GL_NEAREST, GL_LINEAR, GL_CLAMP);
+constexpr auto filters2d = texparameter2d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_REPEAT, 2);
+constexpr auto filters3d = texparameter3d(GL_NEAREST, GL_LINEAR, GL_CLAMP, GL_REPEAT, GL_CLAMP, 8);
+constexpr auto filterscubemap = texparametercubemap(GL_NEAREST, GL_LINEAR, 4);
 
 struct setup_t {
     std::string target, context, options;
@@ -72,12 +71,12 @@ image_t make_image(std::string const& level, gl_recorder_t& gl, std::string cons
     unsigned int width = 1, height = 1, depth = 1;
     std::sscanf(level.c_str(), "%*[A-Z0-9]:%ux%ux%u", &width, &height, &depth);
     image_t image;
-    image.desc = s_descs.at(level.substr(0, level.find(':')));
-    image.store = has(level, 'n') ? nullptr : &s_store;
+    image.desc = descs.at(level.substr(0, level.find(':')));
+    image.store = has(level, 'n') ? nullptr : &packed_store;
     image.compressed = has(level, 'c');
     image.palette.resize(level.starts_with("INDEX") ? 2 : 0);
     unsigned long const bytes =
-        row_stride(width, image.desc.getPixelBits(), &s_store) * height * depth;
+        row_stride(width, image.desc.getPixelBits(), &packed_store) * height * depth;
     image.resize(has(level, 's') ? bytes - 1 : has(level, 'r') ? 4 * bytes + 64 : bytes, 0);
     gl.regions.push_back({image.begin(), image.size(), name});
     image.m_width = width;
@@ -127,24 +126,23 @@ std::unique_ptr<grTexturableImageGL> make(setup_t const& setup, gl_recorder_t& g
     texture->setBorder(has(setup.options, 'b'));
     texture->setInternalCompression(has(setup.options, 'i'));
     texture->setTextureParameter(has(setup.options, 'p') ? &filters : nullptr);
-    texture->setBorderColor(has(setup.options, 'k') ? &s_color : nullptr);
+    texture->setBorderColor(has(setup.options, 'k') ? &border_color : nullptr);
     return texture;
 }
 
 std::unique_ptr<grTexturableImageGL> make_texture(setup_t const& setup, gl_recorder_t& gl) {
     if (setup.target == "R") {
         auto texture = std::make_unique<grTextureRectangle>();
-        texture->setTextureParameter(&s_filters2d);
+        texture->setTextureParameter(&filters2d);
         if (setup.levels[0] != "-") {
             texture->setImage(make_image<image2d_t>(setup.levels[0], gl, "L0"));
         }
         return texture;
     }
-    return setup.target == "1"   ? make<grTexture1D, image1d_t>(setup, gl, s_filters1d)
-           : setup.target == "2" ? make<grTexture2D, image2d_t>(setup, gl, s_filters2d)
-           : setup.target == "3"
-               ? make<grTexture3D, image3d_t>(setup, gl, s_filters3d)
-               : make<grTextureCubeMap, image2d_t[6]>(setup, gl, s_filterscubemap);
+    return setup.target == "1"   ? make<grTexture1D, image1d_t>(setup, gl, filters1d)
+           : setup.target == "2" ? make<grTexture2D, image2d_t>(setup, gl, filters2d)
+           : setup.target == "3" ? make<grTexture3D, image3d_t>(setup, gl, filters3d)
+                                 : make<grTextureCubeMap, image2d_t[6]>(setup, gl, filterscubemap);
 }
 
 std::string route_calls(std::string const& line) {

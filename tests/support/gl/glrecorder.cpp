@@ -22,7 +22,7 @@ std::map<GLenum, std::string> read_names() {
     std::map<GLenum, std::string> names = {
         NAMED(GL_GENERATE_MIPMAP_SGIS), NAMED(GL_RESCALE_NORMAL_EXT),
         NAMED(GL_TEXTURE_MAX_ANISOTROPY_EXT), NAMED(GL_DEPTH_BUFFER_BIT | GL_COLOR_BUFFER_BIT)};
-    for (const int number : {GL_EMISSION, GL_REFLECTION_MAP, GL_PROGRAM_ERROR_POSITION_ARB,
+    for (int const number : {GL_EMISSION, GL_REFLECTION_MAP, GL_PROGRAM_ERROR_POSITION_ARB,
                              GL_PROGRAM_ERROR_STRING_ARB}) {
         names[static_cast<GLenum>(number)] = std::to_string(number);
     }
@@ -35,8 +35,8 @@ std::map<GLenum, std::string> read_names() {
     return names;
 }
 
-const std::map<GLenum, std::string>& names() {
-    static const auto table = read_names();
+std::map<GLenum, std::string> const& names() {
+    static auto const table = read_names();
     return table;
 }
 
@@ -58,19 +58,19 @@ struct line_t {
     }
     void put(char, GLboolean value) { text << +value; }
     void put(char, double value) { text << value; }
-    void put(char kind, const GLfloat* values) { put_all(values, kind == 'M' ? 16 : 4); }
-    void put(char, const GLubyte* values) { put_all(values, 4); }
-    void put(char, const GLuint* values) { put_all(values, count); }
-    void put_all(const auto* values, int n) {
+    void put(char kind, GLfloat const* values) { put_all(values, kind == 'M' ? 16 : 4); }
+    void put(char, GLubyte const* values) { put_all(values, 4); }
+    void put(char, GLuint const* values) { put_all(values, count); }
+    void put_all(auto const* values, int n) {
         for (int i = 0; i < n; ++i) {
             text << (i == 0 ? "{" : ", ") << +values[i];
         }
         text << "}";
     }
-    void put(char, const void* pointer) {
-        for (const auto& [begin, bytes, name] : g_recorder->regions) {
+    void put(char, void const* pointer) {
+        for (auto const& [begin, bytes, name] : g_recorder->regions) {
             if (pointer >= begin && pointer < begin + bytes) {
-                const auto offset = static_cast<const unsigned char*>(pointer) - begin;
+                auto const offset = static_cast<unsigned char const*>(pointer) - begin;
                 text << name;
                 if (offset != 0) {
                     text << '+' << offset;
@@ -82,7 +82,7 @@ struct line_t {
     }
     template <typename T>
     requires(!std::is_const_v<T>) void put(char kind, T* out) {  // the call writes there
-        put(kind, static_cast<const void*>(out));
+        put(kind, static_cast<void const*>(out));
     }
 };
 
@@ -123,13 +123,13 @@ swap_t entry(std::istream& list, std::string kinds) {
 }
 
 template <auto&... Slots, typename Answer>
-std::vector<swap_t> group(const std::string& kinds, Answer, const std::string& names) {
+std::vector<swap_t> group(std::string const& kinds, Answer, std::string const& names) {
     std::istringstream list(names);
     return {entry<Slots, Answer>(list, kinds)...};
 }
 
-void give(const auto& answers, GLenum name, auto* out) {
-    if (const auto found = answers.find(name); found != answers.end()) {
+void give(auto const& answers, GLenum name, auto* out) {
+    if (auto const found = answers.find(name); found != answers.end()) {
         std::ranges::copy(found->second, out);
     }
 }
@@ -165,7 +165,7 @@ constexpr auto give_textures = [](GLsizei count, GLuint* out) {
     g_recorder->textures += count;
     give_names(count, out);
 };
-constexpr auto take_textures = [](GLsizei count, const GLuint*) { g_recorder->textures -= count; };
+constexpr auto take_textures = [](GLsizei count, GLuint const*) { g_recorder->textures -= count; };
 constexpr auto fill_texture = [](auto...) {
     if (g_recorder->textures > g_recorder->most_textures) {
         g_recorder->errors.push_front(GL_OUT_OF_MEMORY);
@@ -218,7 +218,7 @@ void swap_all() {
         GROUP("", keep_buffer, glReadBuffer),
         GROUP("", keep_viewport, glViewport),
     };
-    for (const auto& group : groups) {
+    for (auto const& group : groups) {
         for (const swap_t swap : group) {
             swap();
         }
@@ -228,7 +228,7 @@ void swap_all() {
 }  // namespace
 
 std::string gl_enum_name(GLenum value) {
-    const auto found = names().find(value);
+    auto const found = names().find(value);
     return value >= 0x100 && found != names().end() ? found->second : std::to_string(value);
 }
 
@@ -254,7 +254,7 @@ gl_recorder_t::~gl_recorder_t() {
 
 std::string gl_recorder_t::take() {
     std::string text;
-    for (const std::string& line : std::exchange(lines, {})) {
+    for (std::string const& line : std::exchange(lines, {})) {
         text += line + "\n";
     }
     return text;

@@ -30,7 +30,7 @@ struct gl_recorder_t {
 
     /// Bytes into which pointers are printed as "name" and "name+12".
     struct region_t {
-        const unsigned char* begin;
+        unsigned char const* begin;
         std::size_t bytes;
         std::string name;
     };
