@@ -3,7 +3,8 @@
 #include "image/samples.h"
 
 #include <algorithm>
-#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <iterator>
 
 namespace libgr {
@@ -23,12 +24,28 @@ constexpr widening_row_t widening_rows[] = {
 
 }  // namespace
 
-image_store_t const big_endian_store = {std::endian::native == std::endian::little, 4};
-image_store_t const little_endian_store = {std::endian::native == std::endian::big, 4};
-
-bool has_byte_order(e_image_bits_t bits) {
-    return bits < IMAGE_BITS_MAX &&
-           std::max(s_image_bits_list[bits].component, s_image_bits_list[bits].packed) > 8;
+bool to_machine_order(image2d_t& image, std::endian order) {
+    if (order == std::endian::native || image.desc.bits >= IMAGE_BITS_MAX) {
+        return true;
+    }
+    image_bits_t const& sizes = s_image_bits_list[image.desc.bits];
+    if (std::max(sizes.component, sizes.packed) != 16) {
+        return true;
+    }
+    if (!pixels_within(image)) {
+        return false;
+    }
+    unsigned long long const length = image.rowbyte();
+    for (unsigned int y = 0; y < image.m_height; ++y) {
+        unsigned char* const row = pixel_row(image, y);
+        for (unsigned long long x = 0; x + 1 < length; x += 2) {
+            std::uint16_t value;
+            std::memcpy(&value, row + x, sizeof value);
+            value = static_cast<std::uint16_t>(value << 8 | value >> 8);
+            std::memcpy(row + x, &value, sizeof value);
+        }
+    }
+    return true;
 }
 
 bool widen_samples(image2d_t& dst, image2d_t const& src) {

@@ -2,18 +2,20 @@
 // Samples of other than 8 bits, in the form that OpenGL reads.
 #pragma once
 
+#include <bit>
+
 #include "image/image.h"
 
 namespace libgr {
 
-/// Stores of files whose samples of 16 bits are big-endian or little-endian, with rows padded to
-/// 4 bytes. The bytes are swapped if the machine has the other order.
-extern image_store_t const big_endian_store;
-extern image_store_t const little_endian_store;
-
-/// Returns true if a sample or a packed pixel of `bits` takes more than one byte, so that the byte
-/// order matters.
-bool has_byte_order(e_image_bits_t bits);
+/// Converts samples of 16 bits, and packed pixels of 16 bits, from the byte order of a file to the
+/// machine's order, in place. An image of any other size, or in the machine's order, is unchanged.
+///
+/// OpenGL could swap the bytes by GL_UNPACK_SWAP_BYTES, but GLU writes the mipmaps of these images
+/// with the bytes in the wrong order.
+///
+/// Returns false if the pixels are not in the image's bytes.
+bool to_machine_order(image2d_t& image, std::endian order);
 
 /// Returns sample `x` of a row of samples of 1, 2, 4 or 8 bits each. The first sample of a byte is
 /// in its highest bits.

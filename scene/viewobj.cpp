@@ -3,6 +3,7 @@
 #include "scene/viewobj.h"
 
 #include <algorithm>
+#include <bit>
 #include <cerrno>
 #include <climits>
 #include <iostream>
@@ -74,7 +75,7 @@ struct ViewObject::codec_row_t {
     char const* extension;  ///< with its dot; compared without regard to case
     codec_ptr_t* codec;
     libgr::image_object_t* (*make)();
-    libgr::image_store_t const* wide_store;  ///< byte order of samples of more than 8 bits, or null
+    std::endian byte_order;  ///< of the samples of 16 bits that the codec delivers
 };
 
 codec_ptr_t ViewObject::m_jpeg1imgobj;
@@ -92,11 +93,11 @@ ViewObject::ViewObject()
 
 ViewObject::codec_row_t const* ViewObject::find_codec(std::string const& path) {
     static constexpr codec_row_t codecs[] = {
-        {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, nullptr},
-        {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, nullptr},
-        {".bmp", &m_bmpimgobj, make_codec<libgr::image_bmp2_t>, nullptr},
-        {".png", &m_pngimgobj, make_codec<libgr::image_png_t>, &libgr::big_endian_store},
-        {".tga", &m_tgaimgobj, make_codec<libgr::image_tga_t>, &libgr::little_endian_store},
+        {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, std::endian::native},
+        {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, std::endian::native},
+        {".bmp", &m_bmpimgobj, make_codec<libgr::image_bmp2_t>, std::endian::native},
+        {".png", &m_pngimgobj, make_codec<libgr::image_png_t>, std::endian::big},
+        {".tga", &m_tgaimgobj, make_codec<libgr::image_tga_t>, std::endian::little},
     };
     auto const* const row = std::ranges::find_if(codecs, [&](codec_row_t const& candidate) {
         return libutils::extcasecmp(path, candidate.extension) == 0;
@@ -129,10 +130,8 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
     }
     m_rightrotatecount = codec.rightrotatecount();
     GLint const limit = tile_limit();
-    if (m_image.store == nullptr && libgr::has_byte_order(m_image.desc.bits)) {
-        m_image.store = row->wide_store;
-    }
-    if (!convert_in_place(m_image, libgr::widen_samples) ||
+    if (!libgr::to_machine_order(m_image, row->byte_order) ||
+        !convert_in_place(m_image, libgr::widen_samples) ||
         !convert_in_place(m_image, libgr::index2rgb)) {
         return false;
     }

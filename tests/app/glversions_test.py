@@ -10,7 +10,7 @@ SHAPES = ("-fill", "white", "-draw", "line 0,0 299,269", "-fill", "blue",
           "-draw", "rectangle 280,0 299,30", "-depth", 8, "-alpha", "off")
 PICTURES = {  # how each one is written
     "rgb.png": (), "gray.png": ("-colorspace", "Gray"), "palette.png": ("-colors", 60),
-    "rgb16.png": ("-define", "png:bit-depth=16"),
+    "rgb16.png": ("-depth", 16, "-evaluate", "multiply", 0.7, "-define", "png:bit-depth=16"),
     "rgba.png": ("-alpha", "set", "-channel", "A", "-evaluate", "set", "60%"),
 }
 WITHOUT_SGIS = {"MESA_EXTENSION_OVERRIDE": "-GL_SGIS_generate_mipmap"}
