@@ -111,7 +111,7 @@ TEST(PixelsWithin, RejectsWindowsThatLeaveTheBytes) {
         image.compressed = true;
         EXPECT_FALSE(pixels_within(image, bits)) << line;
     }
-    EXPECT_EQ(rows, 20);
+    EXPECT_EQ(rows, 21);
     image1d_t pixels;
     pixels.window.skippixels = 3;
     pixels.m_width = 4;

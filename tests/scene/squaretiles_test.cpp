@@ -55,10 +55,12 @@ TEST(SquareTiles, BeginAtTheBottomLeft) {
         // With bytes to swap, the tiles begin at the same pixels without skips.
         libgr::image_store_t const swapping = {true, 4};
         image.store = &swapping;
+        image.count = image.size();
         ASSERT_TRUE(rectangle_to_squares(swapped, image, row.maxsize, true));
         for (std::size_t i = 0; i < swapped.m_squares.size(); ++i) {
             EXPECT_EQ(swapped.m_squares[i].begin(), libgr::pixel_row(windows.m_squares[i], 0));
-            EXPECT_EQ(libgr::pixel_row(swapped.m_squares[i], 0), swapped.m_squares[i].begin());
+            EXPECT_EQ(swapped.m_squares[i].window.skiprows, 0U);
+            EXPECT_EQ(swapped.m_squares[i].end(), image.end());
         }
         corner = 99;
         auto const last_pixel = [](libgr::image2d_t const& tile) {

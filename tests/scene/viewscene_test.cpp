@@ -226,19 +226,26 @@ TEST_F(SceneTest, SnapshotsAreSavedBesideThePicture) {
 }
 
 TEST_F(SceneTest, TilesAreDrawnSideBySide) {
-    std::pair<int, char const*> const rows[] = {
-        {16384,
-         "glVertex2f(106, 2.5)\nglVertex2f(-150, 2.5)\nglVertex2f(150, 2.5)\nglVertex2f(106, "
-         "2.5)\n"},
-        {128,
-         "glVertex2f(-22, 2.5)\nglVertex2f(-150, 2.5)\nglVertex2f(106, 2.5)\nglVertex2f(-22, 2.5)\n"
-         "glVertex2f(150, 2.5)\nglVertex2f(106, 2.5)\n"}};
-    for (auto const& [limit, vertices] : rows) {
-        gl.integers[GL_MAX_TEXTURE_SIZE] = {limit};
+    struct {
+        unsigned int width, height;
+        int maxsize;
+        char const* edge;           ///< the coordinate of one edge
+        std::vector<int> vertices;  ///< the other coordinates of the vertices on this edge
+    } const rows[] = {{300, 5, 16384, ", 2.5)", {106, -150, 150, 106}},
+                      {5, 300, 128, "(2.5, ", {-150, -22, -22, 106, 106, 150}}};
+    for (auto const& row : rows) {
+        gl.integers[GL_MAX_TEXTURE_SIZE] = {row.maxsize};
         ViewScene scene;
-        ASSERT_TRUE(add(scene, test_bmp(300, 5)));
+        ASSERT_TRUE(add(scene, test_bmp(row.width, row.height)));
         EXPECT_TRUE(scene.make_graph(""));
-        EXPECT_EQ(take(", 2.5)"), vertices) << limit;
+        std::string expected;
+        for (int const vertex : row.vertices) {
+            std::string const other = std::to_string(vertex);
+            expected += "glVertex2f" +
+                        (row.edge[0] == '(' ? row.edge + other + ")" : "(" + other + row.edge) +
+                        "\n";
+        }
+        EXPECT_EQ(take(row.edge), expected) << row.maxsize;
     }
     EXPECT_EQ(console.out() + console.err(), "");
     g_option.debug = true;
