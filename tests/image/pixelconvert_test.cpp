@@ -107,14 +107,21 @@ TEST(PixelConvert, ReadsTheWindowOfTheSource) {
     }
 }
 
+/// Copies with a type, bits or format that most conversions don't support.
+std::vector<image2d_t> unsupported(image2d_t const& image) {
+    std::vector<image2d_t> copies(3, image);
+    copies[0].desc.type = IMAGE_TYPE_FLOAT;
+    copies[1].desc.bits = IMAGE_BITS_16;
+    copies[2].desc.format = IMAGE_FORMAT_GRAYSCALE_ALPHA;
+    return copies;
+}
+
 TEST(PixelConvert, OtherSourcesAreSharedOrRejected) {
     for (conversion_t const& row : std::vector(conversions, conversions + 4)) {
         SCOPED_TRACE(row.name);
         image2d_t const source = source_of(row);
-        std::vector<image2d_t> others(4, source);
-        others[0].desc.type = IMAGE_TYPE_FLOAT;
-        others[1].desc.bits = IMAGE_BITS_16;
-        others[2].desc.format = IMAGE_FORMAT_GRAYSCALE_ALPHA;
+        std::vector<image2d_t> others = unsupported(source);
+        others.push_back(source);
         others[3].desc = row.to;
         image2d_t dst, tight;
         for (image2d_t const& other : others) {
@@ -162,10 +169,8 @@ TEST(PixelConvert, ColoursAreClamped) {
 }
 
 TEST(PixelConvert, ColoursNeedRgbOf8Bits) {
-    std::vector<image2d_t> bad(5, picture(rgb8, 1, rows_t(1)));
-    bad[0].desc.type = IMAGE_TYPE_FLOAT;
-    bad[1].desc.bits = IMAGE_BITS_16;
-    bad[2].desc.format = IMAGE_FORMAT_GRAYSCALE_ALPHA;
+    std::vector<image2d_t> bad = unsupported(picture(rgb8, 1, rows_t(1)));
+    bad.resize(5, picture(rgb8, 1, rows_t(1)));
     bad[3].compressed = true;
     bad[4].count = 2;
     capture_t streams;
@@ -207,9 +212,10 @@ TEST(MakeWindow, LimitsTheSizeByTheWholeSkip) {
         int x, y;
         unsigned int width, height, expected_width, expected_height;
         bool within;
-    } const rows[] = {{2, 1, 4, 4, 4, 4, true},    {8, 6, 4, 4, 2, 2, true},
-                      {10, 0, 4, 4, 0, 4, true},   {11, 0, 4, 8, 4, 8, false},
-                      {0, 9, 10, 4, 10, 4, false}, {-1, 0, 4, 4, 4, 4, false}};
+    } const rows[] = {{8, 6, 4, 4, 2, 2, true},
+                      {11, 0, 4, 8, 4, 8, false},
+                      {0, 9, 10, 4, 10, 4, false},
+                      {-1, 0, 4, 4, 4, 4, false}};
     image2d_t whole = picture(gray8, 10, rows_t(8)), outer, inner;
     for (auto const& row : rows) {
         ASSERT_TRUE(makewindow(outer, whole, row.x, row.y, row.width, row.height));

@@ -15,7 +15,7 @@ using reduce_t = bool (*)(image2d_t&, image2d_t const&);
 struct reduction_t {
     reduce_t reduce;
     e_image_format_t format;
-    row_t expected;  ///< two pixels
+    row_t expected;
 };
 
 // The bytes of the lower and the upper row of the source.

@@ -147,20 +147,17 @@ TEST_F(ViewFrameTest, UsesTheExtensionsOfTheContext) {
 
 TEST_F(ViewFrameTest, IsDrawnWithoutItsFiles) {
     ViewFrame::destroy();
-    for (char const* broken : {"", "BM", "BM\x36"}) {
-        for (char const* name : {"hairline.bmp", "flower.bmp"}) {
-            write_file(dir.file(name), broken);
-        }
-        ViewFrame::init(data.c_str());
-        capture_t captured;
-        for (unsigned int type : {2U, 4U}) {
-            std::string const text = calls(type);
-            EXPECT_NE(text.find("glDrawElements"), std::string::npos);
-            EXPECT_EQ(text.find("glTexImage2D(GL_TEXTURE_2D"), std::string::npos);
-        }
-        EXPECT_EQ(captured.out() + captured.err(), "");
-        ViewFrame::destroy();
+    for (char const* name : {"hairline.bmp", "flower.bmp"}) {
+        write_file(dir.file(name), "BM\x36");
     }
+    ViewFrame::init(data.c_str());
+    capture_t captured;
+    for (unsigned int type : {2U, 4U}) {
+        std::string const text = calls(type);
+        EXPECT_NE(text.find("glDrawElements"), std::string::npos);
+        EXPECT_EQ(text.find("glTexImage2D(GL_TEXTURE_2D"), std::string::npos);
+    }
+    EXPECT_EQ(captured.out() + captured.err(), "");
 }
 
 }  // namespace
