@@ -10,8 +10,9 @@
 /// libgr::image2d_t picture;  // filled by a decoder
 /// libgr::image2d_t part;
 /// libgr::image2d_t rotated;
-/// bool const ok = libgr::makewindow(part, picture, 10, 20, 100, 50) &&
-///                 libgr::rotate(1, rotated, part);
+/// if (libgr::makewindow(part, picture, 10, 20, 100, 50)) {
+///     libgr::rotate(1, rotated, part);
+/// }
 /// ```
 
 #include "geometry/color.h"

@@ -32,10 +32,11 @@ class ViewObject : public libgr::grObject3D {
     ViewObject& operator=(ViewObject const&) = delete;
     ~ViewObject() override = default;
 
-    /// Loads the file at `path` and cuts the picture into tiles. The extension alone selects the
-    /// codec: .jpg, .jpeg, .bmp, .png or .tga, in any case. Samples that OpenGL would misread are
-    /// converted: indices to RGB, and gray of less than 8 bits to gray of 8 bits. Wider samples get
-    /// a store with the byte order of the file. `datapath` is ignored.
+    /// Loads the file at `path` and cuts the picture into tiles of at most 256 pixels a side. The
+    /// extension alone selects the codec: .jpg, .jpeg, .bmp, .png or .tga, in any case. Samples
+    /// that OpenGL would misread are converted: indices to RGB, and gray of less than 8 bits to
+    /// gray of 8 bits. Wider samples get a store with the byte order of the file. `datapath` is
+    /// ignored.
     ///
     /// Returns false, without a line except those of the codec, if no codec has the extension, the
     /// codec fails, the picture has no pixels or a side of 2^31 pixels or more, or a conversion

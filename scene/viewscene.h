@@ -131,7 +131,7 @@ class ViewScene {
     void Matrix(libgr::matrix3w_t const& m);
     /// Takes back half of the rotation, about the centre of the window: 80 degrees become 40, and
     /// 20 after another call. It is half because `libgr::getRotation3` returns half the angle, and
-    /// users of the key know it so. `Origin` takes back all of it.
+    /// users rely on it. `Origin` takes back the whole rotation.
     void clrRotate();
     /// Takes back the zoom, about the centre of the window.
     void clrZoom();
