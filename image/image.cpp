@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The tables of the image descriptions and the arithmetic of rows and windows.
+// The tables of the enumerations, and the positions of rows and windows.
 #include "image/image.h"
 
 #include <limits>
@@ -35,7 +35,7 @@ image_bits_t const s_image_bits_list[IMAGE_BITS_MAX] = {
     {IMAGE_BITS_R10G10B10A2, 0, 32},
     {IMAGE_BITS_L6A2, 0, 8},
     {IMAGE_BITS_L12A4, 0, 16},
-    {0, 0, 0},  // D24S8 has no size here
+    {0, 0, 0},  // IMAGE_BITS_D24S8: callers rely on the size 0
 };
 
 #define NAMED(enumerator) \
@@ -78,15 +78,15 @@ constexpr unsigned long long bytes_for(unsigned long long bits) {
     return bits / 8 + (bits % 8 != 0 ? 1 : 0);
 }
 
-/// More than any description has; it keeps the products below from wrapping.
+/// Larger than the pixels of any description. The products below don't overflow with it.
 constexpr unsigned long long max_pixelbits = 1ULL << 16;
 
-/// Bytes from the start of a row to the end of the last pixel.
+/// Returns the offset, in bytes from the start of a row, of the end of the last pixel.
 unsigned long long row_end(unsigned int skip, unsigned int width, unsigned long long pixelbits) {
     return bytes_for(pixelbits * (0ULL + skip + width));
 }
 
-/// Bytes from the start of the vector to row `y` of the record.
+/// Returns the offset, in bytes from `begin()`, of row `y` of the record.
 unsigned long long row_position(image2d_t const& image, unsigned int y) {
     return image.rowsize() * (0ULL + image.window.skiprows + y);
 }

@@ -1,6 +1,38 @@
 // SPDX-License-Identifier: MIT
-// The image records, whose layout is that of OpenGL's pixel unpacking, and their enumerations.
+// The image records, which every decoder, pixel operation and texture uses.
 #pragma once
+
+/// Creates a white picture of 640 by 480 pixels:
+///
+/// ```cpp
+/// #include <cstring>
+///
+/// #include "image/image.h"
+///
+/// libgr::image2d_t image;
+/// image.desc = {libgr::IMAGE_FORMAT_RGB, libgr::IMAGE_TYPE_UINT, libgr::IMAGE_BITS_8};
+/// image.m_width = 640;
+/// image.m_height = 480;
+/// if (image.allocate()) {
+///     for (unsigned int y = 0; y < image.m_height; ++y) {
+///         std::memset(libgr::pixel_row(image, y), 255, image.rowbyte());
+///     }
+/// }
+/// ```
+///
+/// The order is: set the description, the sizes, and the store and window if needed; call
+/// `allocate`; write the pixels. The layout is the one that OpenGL unpacks: row 0 is the bottom row
+/// of the picture, and rows are padded to a multiple of 4 bytes unless a store has another
+/// alignment.
+///
+/// Copying a record never copies pixels: the copy shares them, and a change through one record is
+/// visible through the other. `copy` in image/pixelconvert.h copies the pixels. The bytes are freed
+/// with the last record that shares them. The reference counts are not atomic: use the records that
+/// share bytes from one thread only. No function of this library needs an OpenGL context.
+///
+/// image/pixelconvert.h converts, rotates and windows pictures, image/scaledown.h halves them,
+/// image/samples.h widens samples, image/repeatedges.h enlarges a picture by its edges, and
+/// image/normalmap.h computes normal maps.
 
 #include <iosfwd>
 
@@ -10,7 +42,8 @@
 
 namespace libgr {
 
-/// The components of a pixel, in their order in memory.
+/// The components of a pixel, in their order in memory. `s_image_format_components_list` has their
+/// number.
 enum e_image_format_t : unsigned int {
     IMAGE_FORMAT_GRAYSCALE,
     IMAGE_FORMAT_GRAYSCALE_ALPHA,
@@ -29,8 +62,8 @@ enum e_image_format_t : unsigned int {
     IMAGE_FORMAT_YCbCr,
     IMAGE_FORMAT_YCbCrA,
     IMAGE_FORMAT_YCbCr422,
-    IMAGE_FORMAT_INDEX,  ///< an index into the record's palette
-    IMAGE_FORMAT_MAX,    ///< end mark, never in a record
+    IMAGE_FORMAT_INDEX,  ///< an index into the palette of the record
+    IMAGE_FORMAT_MAX,    ///< the number of formats
 };
 
 /// The type of a component.
@@ -38,10 +71,11 @@ enum e_image_type_t : unsigned int {
     IMAGE_TYPE_SINT,
     IMAGE_TYPE_UINT,
     IMAGE_TYPE_FLOAT,
-    IMAGE_TYPE_MAX,  ///< end mark
+    IMAGE_TYPE_MAX,  ///< the number of types
 };
 
-/// The bits of a component, or, from R3G3B2 on, of the components of a packed pixel.
+/// The number of bits of each component. From R3G3B2 on, the numbers of bits of the components of a
+/// packed pixel.
 enum e_image_bits_t : unsigned int {
     IMAGE_BITS_1,
     IMAGE_BITS_2,
@@ -59,17 +93,18 @@ enum e_image_bits_t : unsigned int {
     IMAGE_BITS_L6A2,
     IMAGE_BITS_L12A4,
     IMAGE_BITS_D24S8,
-    IMAGE_BITS_MAX,  ///< end mark
+    IMAGE_BITS_MAX,  ///< the number of sizes
 };
 
+/// The number of components of a pixel.
 struct image_format_components_t {
     e_image_format_t value;
     unsigned int components;
 };
 
-/// One row of sizes: `component` bits for each component, or `packed` bits for the whole pixel.
+/// The size, in bits, of a component or of a packed pixel. The other of the two is 0.
 struct image_bits_t {
-    unsigned long long value;
+    unsigned long long value;  ///< an e_image_bits_t
     unsigned long long component;
     unsigned long long packed;
 };
@@ -87,40 +122,43 @@ struct image_bits_string_t {
     char const* name;
 };
 
-/// Rows in value order; the name tables have one for the end mark, too.
+/// The rows are in the order of the values. The tables of names have a row for the last enumerator,
+/// for example IMAGE_FORMAT_MAX, too.
 extern image_format_components_t const s_image_format_components_list[IMAGE_FORMAT_MAX];
 extern image_bits_t const s_image_bits_list[IMAGE_BITS_MAX];
 extern image_format_string_t const image_format_string[IMAGE_FORMAT_MAX + 1];
 extern image_type_string_t const image_type_string[IMAGE_TYPE_MAX + 1];
 extern image_bits_string_t const image_bits_string[IMAGE_BITS_MAX + 1];
 
-/// Write the enumerator's name; "unknown: " for a value above the end mark.
+/// Print the name of the enumerator, or "unknown: " if the value has none.
 std::ostream& operator<<(std::ostream& out, e_image_format_t value);
 std::ostream& operator<<(std::ostream& out, e_image_type_t value);
 std::ostream& operator<<(std::ostream& out, e_image_bits_t value);
 
-/// What the bytes of an image mean.
+/// The meaning of the bytes of an image.
 struct image_desc_t {
     e_image_format_t format;
     e_image_type_t type;
     e_image_bits_t bits;
 
-    /// Bits of one pixel: those of the packed pixel, or components times the bits of each. 0 for
-    /// IMAGE_BITS_D24S8, whose size the table doesn't hold, and for values outside the tables.
+    /// Returns the size, in bits, of one pixel. For packed pixels the format doesn't matter.
+    /// Returns 0 for IMAGE_BITS_D24S8, which has no size in `s_image_bits_list` because callers
+    /// rely on the 0, and for values outside the tables.
     unsigned long long getPixelBits() const;
 };
 
 bool operator==(image_desc_t const& a, image_desc_t const& b);
 
-/// How rows are packed in memory: the swap and alignment of glPixelStore. Images point to a
-/// long-lived one and don't own it.
+/// The byte order and row alignment of an image, as in glPixelStore. Images point to a store and
+/// don't own it, so a store must outlive the images that use it. Most stores are static.
 struct image_store_t {
-    bool swapbytes;
-    unsigned int alignment;  ///< of a row, in bytes; 0 stands for 4
+    bool swapbytes;  ///< true if components of several bytes are not in the order of the machine
+    unsigned int alignment;  ///< rows begin at multiples of this many bytes; 0 means 4
 };
 
-/// A window into a wider picture that the record's bytes belong to, in pixels, rows and pictures:
-/// the skips and lengths of glPixelStore. A length of 0 means the record's own.
+/// The position of a record in a larger picture whose bytes it shares, as in glPixelStore. Lengths
+/// and skips are in pixels, heights in rows, and `skipimages` in pictures. A length or height of 0
+/// means the size of the record.
 struct image_window1d_t {
     unsigned int skippixels = 0;
 };
@@ -137,12 +175,12 @@ struct image_window3d_t {
     unsigned int skipimages = 0;
 };
 
-/// A colour table in three planes of 16-bit values over the full range, the form that glPixelMapusv
-/// takes. A copy shares the planes.
+/// A colour table. The values are from 0 to 65535, in one array for each component, as
+/// glPixelMapusv takes them. A copy shares the arrays.
 struct palette_t {
     using plane_t = libutils::refvector<unsigned short, libutils::alloc_new>;
 
-    unsigned long size = 0;  ///< entries
+    unsigned long size = 0;  ///< the number of entries
     plane_t red;
     plane_t green;
     plane_t blue;
@@ -152,27 +190,30 @@ struct palette_t {
     palette_t& operator=(palette_t const& other) = default;
     ~palette_t() = default;
 
-    /// Makes room for `n` entries and keeps as many old ones as fit. The result is whether `n`
-    /// isn't 0; a plane that has no memory stays as it was.
+    /// Sets the number of entries. The old entries are kept as far as they fit, and new ones are 0.
+    ///
+    /// Returns true if `n` is not 0, even if there is no memory, because callers check nothing
+    /// else. An array without memory for the entries is unchanged: compare an index with `count()`
+    /// of each array, and not with `size`, before you read an entry.
     bool resize(unsigned long n);
+    /// Releases all entries.
     void clear();
 };
 
-/// The byte store of every image. A copy of a record shares it by reference count.
+/// The bytes of an image. Large blocks are mapped pages and not part of the heap.
 using image_bytes_t = libutils::ofsvector<unsigned char, libutils::alloc_mmap_unix>;
 
 /// One row of pixels.
 struct image1d_t : image_bytes_t {
     image_desc_t desc{};
-    image_store_t const* store = nullptr;  ///< not owned
+    image_store_t const* store = nullptr;  ///< not owned; null means native byte order
     image_window1d_t window;
-    unsigned int m_width = 0;  ///< pixels
-    bool compressed =
-        false;  ///< the bytes are a compressed texture image, to go to OpenGL as they are
+    unsigned int m_width = 0;  ///< in pixels
+    bool compressed = false;   ///< as in image2d_t
     palette_t palette;
 
-    /// The address of byte `i + window.skippixels`, whatever the pixel's size, with no bounds
-    /// check.
+    /// Returns the address of byte `i + window.skippixels`. This is the address of pixel `i` only
+    /// if a pixel has one byte. The bounds are not checked.
     unsigned char* operator[](unsigned int i) { return begin() + i + window.skippixels; }
     unsigned char const* operator[](unsigned int i) const {
         return begin() + i + window.skippixels;
@@ -184,84 +225,88 @@ struct image1d_t : image_bytes_t {
     using image_bytes_t::operator[];
 };
 
-/// A picture. Row 0 is the bottom row. Pixel (x, y) begins at byte rowsize() * (window.skiprows +
-/// y) + getPixelBits() * (window.skippixels + x) / 8 of the vector's data. Components of several
-/// bytes are in the machine's order unless the store says otherwise. A compressed record has no
-/// rows or pixels.
+/// A picture. Row 0 is the bottom row. Pixel (x, y) begins at byte
+///
+///   rowsize() * (window.skiprows + y) + getPixelBits() * (window.skippixels + x) / 8
+///
+/// from `begin()`. The compressed data of a texture has no rows and no pixels: only the texture
+/// classes accept it, and all pixel operations fail.
 struct image2d_t : image_bytes_t {
     image_desc_t desc{};
-    image_store_t const* store = nullptr;  ///< not owned
+    image_store_t const* store = nullptr;  ///< not owned; null means native order, alignment 4
     image_window2d_t window;
-    unsigned int m_width = 0;   ///< pixels in a row of this record
-    unsigned int m_height = 0;  ///< rows of this record
-    bool compressed =
-        false;          ///< the bytes are a compressed texture image, to go to OpenGL as they are
-    palette_t palette;  ///< of IMAGE_FORMAT_INDEX images
+    unsigned int m_width = 0;   ///< in pixels, without the rest of the larger picture
+    unsigned int m_height = 0;  ///< in rows, without the rest of the larger picture
+    bool compressed = false;    ///< true if the bytes are the compressed data of a texture
+    palette_t palette;          ///< the colours of an IMAGE_FORMAT_INDEX image, else empty
 
+    /// Returns the size, in bits, of one pixel.
     unsigned long long getPixelBits() const { return desc.getPixelBits(); }
 
-    /// Pixels in a row of the picture that the bytes belong to.
+    /// Returns the width, in pixels, of the larger picture, or of this one without a window.
     unsigned long long rowlength() const {
         return window.rowlength != 0 ? window.rowlength : m_width;
     }
 
-    /// Bytes from one row to the next: `rowlength()` pixels brought up to the store's alignment,
-    /// and to 4 bytes without a store.
+    /// Returns the distance, in bytes, from one row to the next, padding included.
     unsigned long long rowsize() const;
 
-    /// Bytes of this record's own pixels in a row; a last part of a byte doesn't count.
+    /// Returns the size, in bytes, of one row of this record without padding. If the last byte is
+    /// only partly used, it isn't counted.
     unsigned long long rowbyte() const { return getPixelBits() * m_width / 8; }
 
-    /// Resizes the vector to the rows of the window and the record; sizes and description must be
-    /// set. The pixels aren't cleared. False, with the vector as it was, when there is no such
-    /// memory.
+    /// Allocates `window.skiprows + m_height` rows of `rowsize()` bytes. Set the description,
+    /// sizes, store and window before. The pixels are undefined afterwards. Records that shared the
+    /// old bytes keep them. Returns false, without a change, if there is no memory.
     bool allocate();
 
-    /// Gives up the bytes and the palette and sets the sizes to 0. The description, store, window
-    /// and `compressed` stay.
+    /// Releases the bytes and the palette and sets the sizes to 0. The description, store, window
+    /// and `compressed` are unchanged.
     void clear() override;
 };
 
-/// A volume of pictures.
+/// A volume: pictures of the same size, one after the other.
 struct image3d_t : image_bytes_t {
     image_desc_t desc{};
-    image_store_t const* store = nullptr;  ///< not owned
+    image_store_t const* store = nullptr;  ///< not owned; null means native order, alignment 4
     image_window3d_t window;
-    unsigned int m_width = 0;   ///< pixels
-    unsigned int m_height = 0;  ///< rows
-    unsigned int m_depth = 0;   ///< pictures
-    bool compressed =
-        false;  ///< the bytes are a compressed texture image, to go to OpenGL as they are
+    unsigned int m_width = 0;   ///< in pixels
+    unsigned int m_height = 0;  ///< in rows
+    unsigned int m_depth = 0;   ///< in pictures
+    bool compressed = false;    ///< as in image2d_t
     palette_t palette;
 };
 
-/// Bytes from one row of `pixels` pixels to the next under a store, which may be null.
+/// Returns the distance, in bytes, from one row of `pixels` pixels to the next. `store` may be
+/// null.
 unsigned long long row_stride(unsigned long long pixels, unsigned long long pixelbits,
                               image_store_t const* store);
 
-/// Whether all pixels of the record, read as `pixelbits` bits each with rows, window and alignment
-/// of the record, lie in the vector's bytes. `pixelbits` is the reader's own size of a pixel:
-/// OpenGL takes components times the size of the type, whatever the description says. A record
-/// without pixels is within; a compressed one isn't. No size overflows.
+/// Returns true if the bytes of the record contain all its pixels, with `pixelbits` bits each, at
+/// the positions given by its store and window. `pixelbits` is a parameter because OpenGL uses the
+/// size of its own pixel type, whatever the description says. A record without pixels is accepted,
+/// and a compressed one is rejected. The arithmetic doesn't overflow.
 bool pixels_within(image1d_t const& image, unsigned long long pixelbits);
 bool pixels_within(image2d_t const& image, unsigned long long pixelbits);
 bool pixels_within(image3d_t const& image, unsigned long long pixelbits);
 
-/// The same by the description's size of a pixel.
+/// As above, with the pixel size of the description.
 bool pixels_within(image2d_t const& image);
 
-/// Whether `rows` rows lie in `room` bytes, each `stride` bytes behind the last and `rowbytes`
-/// long.
+/// Returns true if `room` bytes contain `rows` rows of `rowbytes` bytes each that begin `stride`
+/// bytes apart.
 bool rows_fit(unsigned long long stride, unsigned long long rows, unsigned long long rowbytes,
               unsigned long long room);
 
-/// Where row `y` of the record begins in its bytes, at its window's first pixel, for a record whose
-/// pixels are within. Null where it has no bytes.
+/// Returns the address of the first pixel of row `y` of the record, or null if it has no bytes. If
+/// a pixel is smaller than a byte, the pixel may begin within that byte. Call `pixels_within`
+/// before: the bounds are not checked.
 unsigned char* pixel_row(image2d_t& image, unsigned int y);
 unsigned char const* pixel_row(image2d_t const& image, unsigned int y);
 
-/// The same at the first pixel of the picture that the window looks into, for pixels that may begin
-/// within a byte.
+/// Returns the address of the row of the larger picture that contains row `y` of the record, or
+/// null if it has no bytes. The first pixel of the record is pixel `window.skippixels` of that row.
+/// Use this function if pixels may be smaller than a byte.
 unsigned char* whole_row(image2d_t& image, unsigned int y);
 unsigned char const* whole_row(image2d_t const& image, unsigned int y);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Normals from heights, and normals for directions.
+// Computes the normals of height maps and of the faces of a cube map.
 #include "image/normalmap.h"
 
 #include <array>
@@ -18,7 +18,7 @@ constexpr std::size_t cube_map_stride = cube_map_side * 3;
 
 using libutils::refuse;
 
-bool has_whole_bytes(image2d_t const& image) {
+bool has_byte_components(image2d_t const& image) {
     return image.desc.type != IMAGE_TYPE_FLOAT && image.desc.bits == IMAGE_BITS_8;
 }
 
@@ -32,7 +32,6 @@ direction3_t normal_of(unsigned char here, unsigned char right, unsigned char ab
     constexpr float c = 0.003921569f;
     float const dx = right * c + here * -c;
     float const dy = above * c + here * -c;
-    // The sum of the two roots, not their product.
     direction3_t normal =
         Normalize(direction3(dx, dy, std::sqrt(1.0f - dy * dy) + std::sqrt(1.0f - dx * dx)));
     if (compare(normal.x, 0.0f) == 0 && compare(normal.y, 0.0f) == 0 &&
@@ -44,7 +43,7 @@ direction3_t normal_of(unsigned char here, unsigned char right, unsigned char ab
 
 constexpr int last_index = static_cast<int>(cube_map_side) - 1;
 
-/// The coordinates of the indices -255 to 255.
+/// The coordinates for the indices -255 to 255. Negative indices give values down to -3.01.
 constexpr auto coordinates = [] {
     std::array<float, 2 * last_index + 1> all{};
     for (int n = -last_index; n <= last_index; ++n) {
@@ -53,7 +52,8 @@ constexpr auto coordinates = [] {
     return all;
 }();
 
-/// What the texel of a face at column `i` and row `j` looks at.
+/// Returns the direction, before normalization, of the texel at column `i` and row `j`. The photo
+/// frame depends on these values: face 3 has +1 in y, although it is the face -y.
 direction3_t face_direction(int face, int i, int j) {
     auto const s = [](int n) { return coordinates[static_cast<std::size_t>(n + last_index)]; };
     switch (face) {
@@ -91,13 +91,13 @@ bool heightmap2normalmap(image2d_t& dst, image2d_t const& src, float) {
         dst = src;
         return refuse("normalmap(): compressed format not supported.");
     }
-    if (src.desc.format == IMAGE_FORMAT_RGB && has_whole_bytes(src)) {
+    if (src.desc.format == IMAGE_FORMAT_RGB && has_byte_components(src)) {
         dst = src;
         return true;
     }
     image2d_reader_t<unsigned char> heights;
     if (!(src.desc == image_desc_t{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_8}) ||
-        !heights.setimage(src) || !heights.within()) {
+        !heights.setimage(src) || !heights.has_all_rows()) {
         dst = src;
         return refuse("normalmap(): image type not supported.");
     }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pixel operations from one picture to another: channel order, alpha, palettes, colour, turns,
-// windows.
+// Conversions of pictures: channel order, alpha, palettes, colour, rotation and windows.
 #include "image/pixelconvert.h"
 
 #include <array>
@@ -19,7 +18,7 @@ namespace {
 
 using row_function_t = void (*)(unsigned char* to, unsigned char const* from, std::size_t pixels);
 
-/// How one format becomes another of the same or another count of components.
+/// The function that converts rows from one format to another.
 struct row_conversion_t {
     e_image_format_t from;
     e_image_format_t to;
@@ -61,7 +60,7 @@ bool share(image2d_t& dst, image2d_t const& src, bool result) {
     return result;
 }
 
-/// Gives `dst` a description, the source's sizes and bytes for them.
+/// Sets the description and allocates a picture of the size of `src`.
 bool allocate_like(image2d_t& dst, image2d_t const& src, image_desc_t const& desc) {
     dst.desc = desc;
     dst.m_width = src.m_width;
@@ -70,8 +69,7 @@ bool allocate_like(image2d_t& dst, image2d_t const& src, image_desc_t const& des
     return dst.allocate();
 }
 
-/// Converts into rows of the source's pixel bytes padded to 4, which the destination's own window
-/// and store don't move.
+/// Converts to rows that are padded to 4 bytes, and ignores the window and store of `dst`.
 bool swap_rows(image2d_t& dst, image2d_t const& src, row_conversion_t const& conversion) {
     if (!allocate_like(dst, src, {conversion.to, src.desc.type, IMAGE_BITS_8})) {
         return false;
@@ -108,10 +106,10 @@ bool swap_channels(image2d_t& dst, image2d_t const& src, row_conversion_t const 
 
 bool change_alpha(image2d_t& dst, image2d_t const& src, row_conversion_t const& conversion,
                   image_store_t const& store) {
-    bool const wanted = src.desc.format == conversion.to;
-    if (wanted || src.desc.format != conversion.from || !is_byte_image(src) ||
+    bool const is_converted = src.desc.format == conversion.to;
+    if (is_converted || src.desc.format != conversion.from || !is_byte_image(src) ||
         !pixels_within(src)) {
-        return share(dst, src, wanted && is_byte_image(src));
+        return share(dst, src, is_converted && is_byte_image(src));
     }
     dst.store = &store;
     if (!allocate_like(dst, src, {conversion.to, src.desc.type, IMAGE_BITS_8}) ||
@@ -126,7 +124,7 @@ bool change_alpha(image2d_t& dst, image2d_t const& src, row_conversion_t const& 
 
 using colour_bytes_t = std::array<unsigned char, 3>;
 
-/// The palette's colours in bytes; what it lacks stays 0.
+/// Returns the colours of the palette in bytes, and black for the other indices.
 std::array<colour_bytes_t, 256> colour_table(palette_t const& palette) {
     std::array<colour_bytes_t, 256> table{};
     palette_t::plane_t const* const planes[] = {&palette.red, &palette.green, &palette.blue};
@@ -141,7 +139,7 @@ std::array<colour_bytes_t, 256> colour_table(palette_t const& palette) {
 
 using libutils::refuse;
 
-/// Whether a colour can be painted onto the image; the wrong kind of image gets its line.
+/// Returns true if the pixels can be set. Prints a line if the description isn't supported.
 bool is_paintable(image2d_t const& img) {
     if (img.compressed) {
         return false;
@@ -158,7 +156,7 @@ bool is_paintable(image2d_t const& img) {
     return img.m_width == 0 || img.m_height == 0 || (pixels_within(img) && img.is_writable());
 }
 
-/// Calls `paint` with the bytes of every pixel.
+/// Calls `paint` with the address of each pixel.
 template <typename F>
 void for_each_pixel(image2d_t& img, std::size_t components, F paint) {
     for (unsigned int y = 0; y < img.m_height; ++y) {
@@ -173,9 +171,8 @@ struct position_t {
     unsigned int x, y;
 };
 
-/// Where the pixel (x, y) goes by `count` quarter turns clockwise in a picture of the size of
-/// `dst`.
-position_t turned(unsigned long count, image2d_t const& dst, unsigned int x, unsigned int y) {
+/// Returns the position in `dst` of the pixel (x, y) after `count` quarter turns clockwise.
+position_t rotated(unsigned long count, image2d_t const& dst, unsigned int x, unsigned int y) {
     switch (count) {
         case 1:
             return {y, dst.m_height - 1 - x};
@@ -297,7 +294,7 @@ bool monochrome(image2d_t& dst, image2d_t const& src) {
         return refuse(src.desc.bits, ": image bits is not 8.");
     }
     image2d_reader_t<unsigned char> reader;
-    if (!reader.setimage(src) || !reader.within() ||
+    if (!reader.setimage(src) || !reader.has_all_rows() ||
         !allocate_like(dst, src, {IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_8}) ||
         !pixels_within(dst)) {
         return false;
@@ -334,7 +331,7 @@ bool rotate(unsigned long count, image2d_t& dst, image2d_t const& src) {
     for (unsigned int y = 0; y < src.m_height && bits >= 8; ++y) {
         unsigned char const* const from = whole_row(src, y);
         for (unsigned int x = 0; x < src.m_width; ++x) {
-            position_t const place = turned(count, dst, x, y);
+            position_t const place = rotated(count, dst, x, y);
             std::memcpy(
                 whole_row(dst, place.y) + bits * (0ULL + dst.window.skippixels + place.x) / 8,
                 from + bits * (0ULL + src.window.skippixels + x) / 8, bits / 8);
@@ -377,7 +374,7 @@ unsigned long long image2d_reader_t<unsigned char>::rowsize() const {
     return row_stride(width, desc.getPixelBits(), nullptr);
 }
 
-bool image2d_reader_t<unsigned char>::within() const {
+bool image2d_reader_t<unsigned char>::has_all_rows() const {
     return rows_fit(rowsize(), height, (desc.getPixelBits() * width + 7) / 8, bytes.size());
 }
 

@@ -1,91 +1,125 @@
 // SPDX-License-Identifier: MIT
-// Pixel operations from one picture to another: channel order, alpha, palettes, colour, turns,
-// windows.
+// Conversions of pictures: channel order, alpha, palettes, colour, rotation and windows.
 #pragma once
+
+/// Shows a part of a picture without a copy, and rotates a copy of that part:
+///
+/// ```cpp
+/// #include "image/pixelconvert.h"
+///
+/// libgr::image2d_t picture;  // filled by a decoder
+/// libgr::image2d_t part;
+/// libgr::image2d_t rotated;
+/// if (libgr::makewindow(part, picture, 10, 20, 100, 50)) {
+///     libgr::rotate(1, rotated, part);
+/// }
+/// ```
 
 #include "geometry/color.h"
 #include "image/image.h"
 
 namespace libgr {
 
-// All take the destination first, which must not be the source, and give it bytes of its own unless
-// they share the source's. Sources are read through their window and store. A source that is
-// compressed or whose pixels don't lie in its bytes is refused as one of a wrong description is.
-// After a failed allocation the destination has the new description and no new pixels.
+// The rules for all functions, unless stated otherwise:
+//
+//   - `dst` must not be `src`. It gets bytes of its own, or shares the bytes of `src` where this is
+//     stated.
+//   - `src` is read through its window and store, which are described in image/image.h.
+//   - A compressed `src`, and one that has bytes for only a part of its pixels, is treated like one
+//     with an unsupported description.
+//   - `rgb2rgba`, `rgba2rgb` and, for three components, `rgb2bgr` give `dst` a store with native
+//     byte order and alignment 4. Otherwise the store and window of `dst` stay and are used.
+//   - If there is no memory, the function returns false, and `dst` has the new description and
+//     undefined pixels.
 
-/// BGR to RGB and BGRA to RGBA, of 8-bit integers. A source that is in the wanted order already is
-/// shared; any other is shared with the result false. The destination's rows are padded to 4 bytes,
-/// whatever its window and store; one whose bytes have no room for them is refused.
+/// Converts BGR to RGB, and BGRA to RGBA, with 8-bit integer components. A source that is RGB or
+/// RGBA already is shared. With any other source, `dst` shares the bytes of `src` and this function
+/// returns false. The rows of `dst` are padded to 4 bytes, whatever its window and store say.
+/// Returns false if `dst` then has too few bytes.
 bool bgr2rgb(image2d_t& dst, image2d_t const& src);
 
-/// RGB to BGR and RGBA to BGRA, likewise.
+/// Converts RGB to BGR, and RGBA to BGRA. The rules of `bgr2rgb` apply.
 bool rgb2bgr(image2d_t& dst, image2d_t const& src);
 
-/// RGB of 8-bit integers to RGBA with alpha 255. RGBA of that kind is shared, and any other source
-/// is shared with the result false.
+/// Converts RGB with 8-bit integer components to RGBA with alpha 255. RGBA with 8-bit integer
+/// components is shared. With any other source, `dst` shares the bytes of `src` and this function
+/// returns false.
 bool rgb2rgba(image2d_t& dst, image2d_t const& src);
 
-/// RGBA of 8-bit integers to RGB: the alpha is dropped. Otherwise as `rgb2rgba`.
+/// Converts RGBA with 8-bit integer components to RGB and drops alpha. RGB with 8-bit integer
+/// components is shared. With any other source, `dst` shares the bytes of `src` and this function
+/// returns false.
 bool rgba2rgb(image2d_t& dst, image2d_t const& src);
 
-/// An index image of 1, 4 or 8 bits to RGB of 8 bits by the upper bytes of its palette; entries
-/// that the palette lacks are black. The leftmost pixel stands in the highest bits. A source that
-/// isn't an index image is shared. False for other sizes of index.
+/// Converts INDEX of 1, 4 or 8 bits to RGB with 8-bit components. The colours are the upper bytes
+/// of the palette entries, and black for indices without an entry. The leftmost pixel of a byte is
+/// in its highest bits. A source of another format is shared. Returns false for INDEX of other
+/// sizes: `widen_samples` in image/samples.h converts 2 bits to 8.
 bool index2rgb(image2d_t& dst, image2d_t const& src);
 
-/// The deep copy, without window and palette. Whole bytes of the pixels are copied, the rest of
-/// each row becomes 0. False, with `dst` as it was, for a compressed source.
+/// Copies the pixels and the store, without the palette and without the rest of the larger picture.
+/// The padding of the rows becomes 0. If pixels are smaller than a byte, a byte that a row uses
+/// only partly becomes 0, too. Returns false, with `dst` unchanged, for a compressed or incomplete
+/// source.
 bool copy(image2d_t& dst, image2d_t const& src);
 
-/// A float channel as a byte: 0 to 1 is 0 to 255, rounded and saturated. NaN gives 255.
+/// Converts a component from 0 to 1 to a byte from 0 to 255, rounded. Values outside the range are
+/// clamped. NaN gives 255.
 unsigned char channel_byte(float value);
 
-/// Fills an RGB or RGBA image of unsigned 8 bits with a colour. Others are refused with a line on
-/// the error stream, one that can't be written to without.
+/// Sets all pixels of an RGB or RGBA image with unsigned 8-bit components to a colour. For an image
+/// of another description, prints an error line and returns false. Returns false without a line if
+/// the image is compressed, incomplete or read-only.
 bool fillcolor(image2d_t& img, color3a_t const& color);
 
-/// Adds a colour to every pixel of such an image, in the range 0 to 1 with saturation at both ends.
-/// Alpha stays.
+/// Adds red, green and blue of a colour to all pixels. Components range from 0 to 1, and the sums
+/// are clamped. Alpha is unchanged. The images and errors are those of `fillcolor`.
 bool addcolor(image2d_t& img, color3a_t const& color);
 
-/// RGB of unsigned 8 bits to gray by 0.299 R + 0.587 G + 0.114 B. The source's rows are taken to be
-/// padded to 4 bytes and its window is ignored. Others are refused with a line on the error stream.
+/// Converts RGB with unsigned 8-bit components to GRAYSCALE: 0.299 R + 0.587 G + 0.114 B, rounded
+/// down. The window and store of the source are ignored, and its rows are expected to be padded to
+/// 4 bytes. For an image of another description, prints an error line and returns false.
 bool monochrome(image2d_t& dst, image2d_t const& src);
 
-/// Turns clockwise by `count` quarters, 0 to 3; 0 shares the source. Pixels of less than a byte
-/// aren't copied, nor is the palette.
+/// Rotates the pixels clockwise by `count` quarter turns, 0 to 3. With 0, `dst` shares the bytes of
+/// `src`. Pixels smaller than a byte and the palette are not copied. Returns false, with `dst`
+/// unchanged, for another `count`, and for a compressed or incomplete source.
 bool rotate(unsigned long count, image2d_t& dst, image2d_t const& src);
 
-/// Makes `dst` a window into `src`, sharing its bytes. `x` and `y` count from the source's own
-/// window, and the size is cut to what is left of the source's sizes behind the whole skip. That
-/// difference is unsigned: a window that begins beyond the source keeps the given size, and pixel
-/// operations refuse it. False, with `dst` as it was, for a compressed source.
+/// Makes `dst` a window into `src` that shares its bytes. `x` and `y` are relative to the window of
+/// `src`, from the lower left corner. Returns false, with `dst` unchanged, for a compressed source.
+///
+/// The size is limited to the width and height of `src` minus the new `skippixels` and `skiprows`.
+/// These include the skips of `src`, so a window in a window may be smaller than necessary. The
+/// subtraction is unsigned: a window that begins outside of `src` isn't limited. The pixel
+/// operations reject it, and `pixels_within` returns false.
 bool makewindow(image2d_t& dst, image2d_t& src, int x, int y, unsigned int width,
                 unsigned int height);
 
 template <typename T>
 class image2d_reader_t;
 
-/// A read-only view of a picture's bytes that knows no window and takes rows as padded to 4 bytes.
+/// A read-only view of the rows of a picture that ignores its window and store: rows are expected
+/// to be padded to 4 bytes.
 template <>
 class image2d_reader_t<unsigned char> {
   public:
-    /// Shares the image's bytes and takes over its sizes and description. A compressed image leaves
-    /// the view empty, and the result is false.
+    /// Shares the bytes of the image and copies its sizes and description. Returns false, and
+    /// leaves the view empty, if the image is compressed.
     bool setimage(image2d_t const& img);
 
-    /// Bytes from one row to the next.
+    /// Returns the distance, in bytes, from one row to the next.
     unsigned long long rowsize() const;
 
-    /// Whether all rows lie in the bytes.
-    bool within() const;
+    /// Returns true if the bytes contain all rows.
+    bool has_all_rows() const;
 
-    /// Row `y` of the picture, for a view that is within.
+    /// Returns the address of row `y`. Call `has_all_rows` before: the bounds are not checked.
     unsigned char const* row(unsigned long y) const;
 
     image_bytes_t bytes;
-    unsigned long width = 0;
-    unsigned long height = 0;
+    unsigned long width = 0;   ///< in pixels
+    unsigned long height = 0;  ///< in rows
     image_desc_t desc{};
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures made larger by their own edges.
+// Enlarges pictures by repeating their edges.
 #include "image/repeatedges.h"
 
 #include <cstring>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures made larger by their own edges.
+// Enlarges pictures by repeating their edges.
 #pragma once
 
 #include "image/image.h"
@@ -7,12 +7,14 @@
 namespace libgr {
 
 /// Copies `src` into the lower left corner of a picture of `width` by `height` pixels and repeats
-/// its last column and its top row in the rest. `dst` gets bytes of its own, with the description,
-/// store and palette of `src`, and must not be `src`.
+/// its last column and its top row in the rest. `dst`, which must not be `src`, gets bytes of its
+/// own, and the description, store and palette of `src`.
 ///
-/// Returns false, with `dst` as it was, if the sizes are smaller than those of `src`, if `src` is
-/// compressed, has no pixels, has bytes for only a part of them or has pixels that aren't whole
-/// bytes, and if there is no memory.
+/// Returns false, with `dst` unchanged, if
+///   - `width` or `height` is smaller than that of `src`,
+///   - `src` is compressed, has no pixels, or has bytes for only a part of its pixels,
+///   - the size of a pixel is not a multiple of 8 bits,
+///   - there is no memory.
 bool repeat_edges(image2d_t& dst, image2d_t const& src, unsigned int width, unsigned int height);
 
 }  // namespace libgr

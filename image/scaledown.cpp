@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reductions of a picture to half its size, plain or by reading it as a Bayer mosaic.
+// Reduces pictures to half their size.
 #include "image/scaledown.h"
 
 #include <cstddef>
@@ -12,13 +12,13 @@ namespace {
 
 using byte_t = unsigned char;
 
-/// A byte of a cell: row 0 or 1 and the place behind the cell's start.
+/// The position of a sample in a cell of 2 by 2 pixels.
 struct sample_t {
-    unsigned int row;
-    unsigned int place;
+    unsigned int row;     ///< 0 or 1
+    unsigned int offset;  ///< in bytes from the start of the cell in that row
 };
 
-/// Where a mosaic's cell has its red, its two greens and its blue.
+/// The positions of the samples of a mosaic.
 struct mosaic_t {
     sample_t red;
     sample_t green[2];
@@ -30,7 +30,7 @@ constexpr mosaic_t gbrg = {{1, 0}, {{0, 1}, {1, 4}}, {0, 5}};
 constexpr mosaic_t rggb = {{0, 0}, {{0, 4}, {1, 1}}, {1, 5}};
 constexpr mosaic_t bggr = {{1, 3}, {{0, 4}, {1, 1}}, {0, 2}};
 
-/// The mean of four bytes, the first of each row and the one `step` behind it.
+/// Returns the mean of the first byte of each row and the byte `step` after it.
 byte_t box(byte_t const* r0, byte_t const* r1, unsigned int step) {
     return static_cast<byte_t>((r0[0] + r0[step] + r1[0] + r1[step]) >> 2);
 }
@@ -46,7 +46,7 @@ void box_row(byte_t* to, byte_t const* r0, byte_t const* r1, unsigned int width,
     std::size_t const pair = std::size_t{2} * components;
     for (unsigned int x = 0; x < width; ++x, r0 += pair, r1 += pair) {
         for (unsigned int c = 0; c < components; ++c) {
-            *to++ = box(r0 + c, r1 + c, 3);  // 3 also where a pixel has four bytes
+            *to++ = box(r0 + c, r1 + c, 3);  // 3 for pixels of four bytes, too: see the header
         }
     }
 }
@@ -56,7 +56,7 @@ void mosaic_row(byte_t* to, byte_t const* r0, byte_t const* r1, unsigned int wid
     std::size_t const pair = std::size_t{2} * components;
     for (unsigned int x = 0; x < width; ++x, r0 += pair, r1 += pair) {
         auto const at = [&](sample_t const& sample) {
-            return (sample.row == 0 ? r0 : r1)[sample.place];
+            return (sample.row == 0 ? r0 : r1)[sample.offset];
         };
         *to++ = at(mosaic.red);
         *to++ = static_cast<byte_t>((at(mosaic.green[0]) + at(mosaic.green[1])) >> 1);
@@ -67,7 +67,7 @@ void mosaic_row(byte_t* to, byte_t const* r0, byte_t const* r1, unsigned int wid
     }
 }
 
-bool is_supported(e_image_format_t format, bool plain) {
+bool is_supported(e_image_format_t format, bool is_mosaic) {
     switch (format) {
         case IMAGE_FORMAT_GRAYSCALE:
         case IMAGE_FORMAT_RGB:
@@ -75,13 +75,13 @@ bool is_supported(e_image_format_t format, bool plain) {
             return true;
         case IMAGE_FORMAT_BGR:
         case IMAGE_FORMAT_BGRA:
-            return plain;
+            return !is_mosaic;
         default:
             return false;
     }
 }
 
-/// All five reductions: by a mosaic, or the plain one without.
+/// Reduces a mosaic, or, if `mosaic` is null, computes the mean of the pixels.
 bool reduce(image2d_t& dst, image2d_t const& src, mosaic_t const* mosaic) {
     if (src.compressed) {
         return false;
@@ -94,7 +94,7 @@ bool reduce(image2d_t& dst, image2d_t const& src, mosaic_t const* mosaic) {
     if (!dst.allocate()) {
         return libutils::refuse("scaledown(): allocate() fail.");
     }
-    if (!is_supported(src.desc.format, mosaic == nullptr)) {
+    if (!is_supported(src.desc.format, mosaic != nullptr)) {
         return libutils::refuse("scaledown(): ", src.desc.format, ": unsupported format.");
     }
     if (dst.m_height == 0) {

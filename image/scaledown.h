@@ -1,27 +1,40 @@
 // SPDX-License-Identifier: MIT
-// Reductions of a picture to half its size, plain or by reading it as a Bayer mosaic.
+// Reductions of a picture to half its size: a box filter and four filters for Bayer mosaics.
 #pragma once
 
 #include "image/image.h"
 
 namespace libgr {
 
-// The destination gets half the source's width and height, truncated, with the source's
-// description; its store and window stay. It must be another record than the source. Rows are read
-// from the source's window, and components are taken to be bytes. Sums are truncated. A format that
-// isn't supported is refused with a line on the error stream, a source whose pixels don't lie in
-// its bytes, are compressed or are smaller than its components' bytes without.
+// All of these functions:
 //
-// Two sampling rules differ from the plain box of 2 by 2 pixels. With four components the second
-// pixel of a pair is read 3 bytes behind the first. A grayscale source moves one pixel, not two,
-// for each pixel of the destination, which so covers its left half.
+//   - set `dst`, which must not be `src`, to half the width and height of `src`, rounded down, with
+//     the description of `src`. The last column of an odd width and the top row of an odd height
+//     are ignored. The store and window of `dst` stay and are used.
+//   - take each component for one byte, whatever the type and bits of `src` say. Sums are rounded
+//     down.
+//   - return false and print an error line if the format isn't supported or there is no memory.
+//     They return false without a line if `src` is compressed, has bytes for only a part of its
+//     pixels, or has pixels of fewer bits than its format needs with 8-bit components.
+//
+// Two rules differ from a plain mean of 2 by 2 pixels. Callers depend on both:
+//
+//   - With four components, the second pixel of a pair is read 3 bytes after the first, as with
+//     three components, and not 4.
+//   - In a grayscale picture, the pair of columns of result pixel x begins at column x of the
+//     source, and not 2x. The result shows only the left half of the source.
 
-/// The box filter, for GRAYSCALE, RGB, BGR, RGBA and BGRA.
+/// Computes the mean of each 2 by 2 pixels, component by component. The supported formats are
+/// GRAYSCALE, RGB, BGR, RGBA and BGRA.
 bool scaledown(image2d_t& dst, image2d_t const& src);
 
-/// One colour pixel for each cell of a mosaic, which is named by the colours of its two rows, the
-/// lower row first. RGB and RGBA are read in the channel that a place in the cell carries, RGBA at
-/// the byte places of RGB; GRAYSCALE as by `scaledown`.
+/// Makes one pixel from each 2 by 2 cell of a Bayer mosaic. The letters of the names are the
+/// colours of the cell: the two of its lower row, then the two of its upper row.
+///
+/// The supported formats are RGB and RGBA, where each sample is in the component of its colour, and
+/// GRAYSCALE, which is reduced as by `scaledown`. The green of the result is the mean of the two
+/// greens. RGBA samples are read at the byte positions of an RGB picture, and the alpha is the mean
+/// that `scaledown` computes.
 bool scaledownGRBG(image2d_t& dst, image2d_t const& src);
 bool scaledownGBRG(image2d_t& dst, image2d_t const& src);
 bool scaledownRGGB(image2d_t& dst, image2d_t const& src);

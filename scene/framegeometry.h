@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The band of the photo frame as numbers: corners, texture coordinates and the order of drawing.
+// The vertices, texture coordinates and indices of the photo frame.
 #pragma once
 
 #include <array>
@@ -8,10 +8,12 @@
 
 namespace zanolib {
 
-/// The band's corners, outer and inner in turn, counter-clockwise from the bottom left.
+/// The corners of the frame, counter-clockwise from the bottom left. Each outer corner is followed
+/// by its inner one.
 using frame_vertices_t = std::array<libgr::position2_t, 8>;
 
-/// The band of `width` pixels around a picture of `size` pixels that is centred on the origin.
+/// Returns the corners of a frame around a picture that is centred on the origin. `size` is the
+/// size of the picture, and `width` the width of the frame, in pixels.
 inline frame_vertices_t frame_vertices(libgr::direction2_t const& size, float width) {
     float const hx = size.x * 0.5f;
     float const hy = size.y * 0.5f;
@@ -21,8 +23,8 @@ inline frame_vertices_t frame_vertices(libgr::direction2_t const& size, float wi
         {{-ox, -oy}, {-hx, -hy}, {ox, -oy}, {hx, -hy}, {ox, oy}, {hx, hy}, {-ox, oy}, {-hx, hy}}};
 }
 
-/// One texture over the band, whatever the picture's proportions: the outer edge lies on the
-/// texture's edge, the inner one a quarter of the way in. In the order of the corners.
+/// The texture coordinates, in the order of the corners. The outer edge of the frame is the edge of
+/// the texture, and the inner edge is at a quarter of the texture, for pictures of all proportions.
 inline constexpr std::array<libgr::texcoord2_t, 8> texcoords_frame{{{0.0f, 0.0f},
                                                                     {0.25f, 0.25f},
                                                                     {1.0f, 0.0f},
@@ -32,8 +34,8 @@ inline constexpr std::array<libgr::texcoord2_t, 8> texcoords_frame{{{0.0f, 0.0f}
                                                                     {0.0f, 1.0f},
                                                                     {0.25f, 0.75f}}};
 
-/// The corners as a quad strip. The inner corner leads each pair, which makes the quads
-/// counter-clockwise, so that they survive the culling of back faces.
+/// The indices of a quad strip. In each pair, the inner corner comes first: so the quads are
+/// counter-clockwise and aren't culled as back faces.
 inline constexpr std::array<unsigned char, 10> elements{1, 0, 3, 2, 5, 4, 7, 6, 1, 0};
 
 }  // namespace zanolib

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Plans the square tiles of a picture and cuts them out of it.
+// Plans and cuts the square tiles of a picture.
 #include "scene/squaretiles.h"
 
 #include <algorithm>
@@ -22,9 +22,9 @@ bool refuse(char const* reason) {
     return libutils::refuse("rectangle_to_squares()", reason);
 }
 
-/// Moves the skipped rows and pixels from the window into the offset of the bytes, so that the tile
-/// stays the same without them. Drivers that swap bytes do so in a copy of the window and may then
-/// skip once more in that copy, past its end.
+/// Adds the skipped rows and pixels to the offset of the bytes, and sets the skips to 0. Some
+/// drivers swap bytes in a copy that contains only the window, skip in it again, and read past its
+/// end.
 void skip_by_offset(libgr::image2d_t& tile) {
     auto const skipped = static_cast<unsigned long>(libgr::pixel_row(tile, 0) - tile.begin());
     tile.offset += skipped;
@@ -52,10 +52,11 @@ bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const&
     return true;
 }
 
-/// Returns true if the textures of the tiles, of which a strip fills only a small part, are not too
-/// large for the picture.
+/// Returns true if the textures aren't much larger than the picture. A picture of one row would
+/// need 256 times its size. Prints an error line otherwise.
 bool is_plausible_plan(tile_plan_t const& plan, libgr::image2d_t const& in) {
-    std::uint64_t const texels = std::uint64_t{plan.cols()} * plan.lines() * plan.tile * plan.tile;
+    std::uint64_t const texels =
+        std::uint64_t{plan.column_count()} * plan.row_count() * plan.tile * plan.tile;
     std::uint64_t const pixels = std::uint64_t{in.m_width} * in.m_height;
     return texels <= limits::texels_unchecked.value ||
            texels / limits::texel_ratio.value <= pixels ||
@@ -132,8 +133,8 @@ bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsig
     out.m_format = in.desc.format;
     out.m_type = in.desc.type;
     out.m_bits = in.desc.bits;
-    out.m_cols = plan.cols();
-    out.m_rows = plan.lines();
+    out.m_cols = plan.column_count();
+    out.m_rows = plan.row_count();
     float const scale = plan.tile != 0 ? 1.0f / static_cast<float>(plan.tile) : 0.0f;
     out.m_size = libgr::direction2(static_cast<float>(in.m_width) * scale,
                                    static_cast<float>(in.m_height) * scale);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Describes, loads and draws the textures of a picture's tiles.
+// Sets up, uploads and draws the textures of the tiles of a picture.
 #include "scene/tiletextures.h"
 
 #include <algorithm>
@@ -17,10 +17,9 @@ namespace zanolib {
 
 namespace {
 
-/// One tile in drawing units: its corners and the part of the texture that it shows.
 struct tile_quad_t {
-    float x0, y0, x1, y1;
-    float tx, ty;
+    float x0, y0, x1, y1;  ///< the corners, in drawing units
+    float tx, ty;          ///< the texture coordinates of the upper right corner
 };
 
 void draw_quad(tile_quad_t const& quad) {
@@ -51,7 +50,7 @@ bool multi_texture_object_t::Preload() {
         }
         loaded = !memory.is_exhausted();
     } catch (std::bad_alloc const&) {
-        // A driver that keeps textures in the process's own memory leaves none for their names.
+        // Software drivers keep textures in the memory of this process, which may now be used up.
     }
     if (!loaded) {
         Unload();

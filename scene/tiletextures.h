@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The textures of a picture's square tiles, drawn side by side as one rectangle.
+// The textures of the tiles of a picture.
 #pragma once
 
 #include <cstdint>
@@ -12,35 +12,43 @@
 
 namespace zanolib {
 
-/// One 2-D texture for each tile of a picture. Described by `squares_to_texobjs`; only `Preload`
-/// makes GL objects. Copies share the GL textures.
+/// The textures of the tiles of one picture. The order of calls is `squares_to_texobjs`,
+/// `setTexParm`, `Preload`, `draw_image` and `Unload`. After `Unload`, `Preload` may be called
+/// again. Copies share the OpenGL textures.
 struct multi_texture_object_t {
-    std::vector<libgr::grTexture2D> m_textures;     ///< the descriptions, in the order of the tiles
-    std::vector<libgr::grTextureObject> m_texobjs;  ///< the GL textures; empty until `Preload`
-    libgr::texparameter2d_t const* m_texparm = nullptr;  ///< filters and wrap; not owned
+    std::vector<libgr::grTexture2D>
+        m_textures;  ///< the images and formats, in the order of the tiles
+    std::vector<libgr::grTextureObject> m_texobjs;  ///< the OpenGL textures, empty until `Preload`
+    libgr::texparameter2d_t const* m_texparm = nullptr;  ///< not owned
     std::uint32_t m_cols = 0;
     std::uint32_t m_rows = 0;
-    libgr::direction2_t m_size{0.0f, 0.0f};  ///< the picture measured in tile sides
+    libgr::direction2_t m_size{0.0f, 0.0f};  ///< the size of the picture, in sides of a tile
 
-    /// Sets the record that `draw_image` applies to each tile; it has to outlive this object.
+    /// Sets the filters and wrap modes that `draw_image` sets for each tile. `parm` must outlive
+    /// this object, and may change between calls of `draw_image`.
     void setTexParm(libgr::texparameter2d_t const* parm) { m_texparm = parm; }
-    /// Creates and fills the GL textures. If there is no memory for all of them, stops at the first
-    /// that fails, deletes those before it and returns false. Needs a current context.
+    /// Creates the OpenGL textures and uploads the tiles. Returns false, without textures, if there
+    /// is no memory for all of them. Needs a current context.
     bool Preload();
-    /// Lets go of the GL textures; a later `Preload` makes new ones. Needs a current context.
+    /// Deletes the OpenGL textures, unless a copy of this object uses them. Needs a current
+    /// context.
     void Unload();
-    /// Whether the GL holds all textures resident. Those that aren't loaded don't count against it.
+    /// Returns true if all textures that are loaded are resident, and also if none is loaded. Needs
+    /// a current context.
     [[nodiscard]] bool isResident() const;
-    /// Draws the tiles so that together they cover the rectangle from `btm_lft` to `top_rit`, in
-    /// the plane z = 0, facing +z, texels unchanged by light or colour. Draws no tile before
-    /// `Preload`. Needs a current context and may be compiled into a display list.
+    /// Draws the picture as the rectangle from `btm_lft` to `top_rit` in the plane z = 0, with its
+    /// front toward +z. Light and the current colour don't change the colours of the picture. Draws
+    /// nothing before `Preload`. Needs a current context, and can be compiled into a display list.
     void draw_image(libgr::position2_t const& btm_lft, libgr::position2_t const& top_rit) const;
 };
 
-/// Describes a texture for each tile of `in`, all of one size. A tile that GLU would stretch
-/// because it fills only a part of its texture is copied into a full square with its edges
-/// repeated. If there is no memory for the square, the tile is stretched. All other tiles share
-/// their pixels. Makes no GL object, but the extension flags must be set. Returns true.
+/// Sets up one texture for each tile of `in`. All textures have the same power-of-two size, and
+/// share the pixels of the tiles. Creates no OpenGL object, but `gl_extloader_init` must have been
+/// called. Always returns true.
+///
+/// If GLU is to build the mipmaps (see `isBuiltByGLU` in gl/texture2d.h), it would stretch a tile
+/// that fills only a part of its texture. This tile is copied into a full square, and its edges
+/// are repeated. If there is no memory for the square, the tile is stretched.
 bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const& in);
 
 }  // namespace zanolib

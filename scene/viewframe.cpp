@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The drawing of the photo frame, look by look and path by path.
+// Draws the photo frame.
 #include "scene/viewframe.h"
 
 #include <iostream>
@@ -78,20 +78,20 @@ void ViewFrame::setSize(libgr::direction2_t size, unsigned int width) {
     m_width = static_cast<float>(width);
 }
 
-bool ViewFrame::programs_available() {
+bool ViewFrame::has_programs() {
     return is_GL_ARB_vertex_program_supported && is_GL_ARB_fragment_program_supported;
 }
 
-bool ViewFrame::combiners_available() {
+bool ViewFrame::has_combiners() {
     return is_GL_ARB_texture_env_combine_supported && is_GL_ARB_texture_env_dot3_supported &&
            is_GL_ARB_texture_cube_map_supported && is_GL_ARB_multitexture_supported;
 }
 
 ViewFrame::path_t ViewFrame::bump_path() {
-    if (programs_available() && s_vertex_program_loaded && s_fragment_program_loaded) {
+    if (has_programs() && s_vertex_program_loaded && s_fragment_program_loaded) {
         return path_t::programs;
     }
-    return combiners_available() ? path_t::combiners : path_t::plain;
+    return has_combiners() ? path_t::combiners : path_t::plain;
 }
 
 libgr::color3a_t ViewFrame::bump_color() const {
@@ -111,7 +111,7 @@ void ViewFrame::begin_flower() {
     glEnable(GL_TEXTURE_2D);
     s_flowertexobj.Load();
     glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_MODULATE);
-    // The scene's light falls off to nothing over its distance: the flowers glow by themselves.
+    // The light of the scene is too far away to make the texture visible.
     libgr::grMaterial(GL_FRONT, GL_EMISSION, libgr::white);
     begin_texcoords();
 }
@@ -189,7 +189,7 @@ void ViewFrame::begin_combiners(libgr::color3a_t const& color) {
 }
 
 void ViewFrame::end_combiners() {
-    glDisable(GL_TEXTURE_2D);  // of unit 1, which is still the active one
+    glDisable(GL_TEXTURE_2D);  // unit 1
     glActiveTextureARB(GL_TEXTURE0);
     glClientActiveTextureARB(GL_TEXTURE0);
     glDisable(GL_TEXTURE_CUBE_MAP);
@@ -241,7 +241,7 @@ void ViewFrame::begin_look() const {
     }
 }
 
-/// Leaves the state that the picture is drawn in.
+/// Disables everything that `begin_look` enabled, because the picture is drawn next.
 void ViewFrame::end_look() const {
     if (m_frametype == FRAMETYPE_FLOWER) {
         end_flower();

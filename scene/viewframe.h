@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The photo frame: a band around the picture, drawn anew each time under the picture's view matrix.
+// The photo frame around a picture.
 #pragma once
 
 #include "geometry/color.h"
@@ -12,56 +12,69 @@
 
 namespace zanolib {
 
-/// The looks of the photo frame, the values of the option `frametype`.
+/// The looks of the photo frame. The values are those of the option `frametype`.
 enum e_frametype_t : unsigned int {
-    FRAMETYPE_NONE = 0,        ///< nothing is drawn
-    FRAMETYPE_FLAT = 1,        ///< a flat band in the option `framecolor`
-    FRAMETYPE_BUMP_BROWN = 2,  ///< a bump-mapped band in brown
-    FRAMETYPE_BUMP_COLOR = 3,  ///< a bump-mapped band in three quarters of the option `framecolor`
-    FRAMETYPE_FLOWER = 4,      ///< a blended band with the flower texture
+    FRAMETYPE_NONE = 0,        ///< no frame
+    FRAMETYPE_FLAT = 1,        ///< the colour of the option `framecolor`
+    FRAMETYPE_BUMP_BROWN = 2,  ///< brown, bump-mapped
+    FRAMETYPE_BUMP_COLOR = 3,  ///< `framecolor` with its components multiplied by 0.75, bump-mapped
+    FRAMETYPE_FLOWER = 4,      ///< the texture flower.bmp, blended over the background
 };
 
-/// The frame of one picture. All frames share their textures, which live as long as the program,
-/// and the programs of the GL, which live from `make_graph` to `free_graph`: draw only in between.
+/// The frame of one picture. It is drawn with the current modelview matrix, so it rotates and zooms
+/// with the picture. The order of calls is `init` (once), `setFrameType`, `setSize`, `make_graph`,
+/// `Draw` as often as needed, `free_graph`, and `destroy` (once).
 ///
-/// The bump-mapped looks are drawn by the first path that the context has: vertex and fragment
-/// programs (ARB_vertex_program, ARB_fragment_program), texture combiners with a normalising cube
-/// map (ARB_texture_env_dot3), or a plain lit texture.
+/// All frames share one set of OpenGL textures and programs. `make_graph` creates the objects that
+/// the look needs, and `free_graph` releases it for all frames of that look. Call `free_graph` of
+/// one frame before `make_graph` of another.
+///
+/// The bump-mapped looks use the first of these paths that the context supports:
+///
+///   Path       Extensions
+///   programs   GL_ARB_vertex_program, GL_ARB_fragment_program
+///   combiners  GL_ARB_texture_env_combine, GL_ARB_texture_env_dot3, GL_ARB_texture_cube_map,
+///              GL_ARB_multitexture
+///   plain      none: a lit texture without bumps
+///
+/// The files are hairline.bmp, flower.bmp, bumpmapv.vp1 and bumpmapf.fp1. Each is searched in the
+/// working directory, in `datapath` and in `zanolib::site_directory` (options/option.h). The sides
+/// of the pictures must be powers of two.
 class ViewFrame : public libgr::grObject3D {
   public:
     ViewFrame() = default;
     ViewFrame(ViewFrame const&) = default;
     ViewFrame& operator=(ViewFrame const&) = delete;
-    /// Frees nothing: what the frames share outlives them all.
     ~ViewFrame() override = default;
 
-    /// Loads what all frames share, once, from the working directory, from `datapath` (which ends
-    /// in its separator) or from the site directory; a missing file doesn't stop it. Makes no GL
-    /// object.
+    /// Loads the pictures that all frames share, unless they are loaded. `datapath` is put in front
+    /// of the names of the files, so it must end in "/". If a file is missing or damaged, its
+    /// texture stays empty. Creates no OpenGL object, but `gl_extloader_init` must have been
+    /// called.
     static void init(char const* datapath);
-    /// Drops the shared images.
+    /// Releases the pictures that `init` loaded.
     static void destroy();
 
     void setFrameType(e_frametype_t type);
-    /// Sets the picture's size and the band's width, both in picture pixels.
+    /// Sets the size of the picture and the width of the frame, in pixels of the picture.
     void setSize(libgr::direction2_t size, unsigned int width);
 
-    /// Creates the GL objects of this frame's look. A program that is missing or rejected gets a
-    /// line on std::cerr, and the next path is taken. Needs a current context.
+    /// Creates the OpenGL objects of the look. If a program is missing or has an error, prints an
+    /// error line and uses the next path. Needs a current context.
     void make_graph(char const* datapath);
-    /// Lets go of them. Needs a current context.
+    /// Releases the OpenGL objects of the look. Needs a current context.
     void free_graph();
 
     using grObject3D::Draw;
-    /// Draws the band in one call. Leaves lighting, blending and texturing off, and no emission.
-    /// Needs a current context.
+    /// Draws the frame. Expects lighting, blending and texturing to be disabled, and disables them
+    /// afterwards. The emission of the material is black afterwards. Needs a current context.
     void Draw() const override;
 
   private:
     enum class path_t { programs, combiners, plain };
 
-    static bool programs_available();
-    static bool combiners_available();
+    static bool has_programs();
+    static bool has_combiners();
     static path_t bump_path();
 
     bool is_bump_mapped() const {
@@ -88,7 +101,7 @@ class ViewFrame : public libgr::grObject3D {
     static libgr::grTexture2D s_monotex;         ///< "hairline.bmp" as colour
     static libgr::grTexture2D s_hairlinetex;     ///< "hairline.bmp" as a normal map
     static libgr::grTexture2D s_flowertex;       ///< "flower.bmp"
-    static libgr::grTextureCubeMap s_normaltex;  ///< the normalising cube map
+    static libgr::grTextureCubeMap s_normaltex;  ///< the normalization cube map
     static libgr::grTextureObject s_monotexobj;
     static libgr::grTextureObject s_hairlinetexobj;
     static libgr::grTextureObject s_flowertexobj;

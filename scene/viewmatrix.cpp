@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The arithmetic of the view.
+// Computes the partial resets of the view matrix and the offset of the projection.
 #include "scene/viewmatrix.h"
 
 #include <cmath>
@@ -13,8 +13,6 @@ libgr::matrix3w_t without_scale(libgr::matrix3w_t const& view) {
 }
 
 libgr::rotation3_t half_turn_back(libgr::matrix3w_t const& view) {
-    // getRotation3 yields half the matrix's turn: each reset closes in on the upright position by
-    // half.
     return libgr::Invert(libgr::getRotation3(without_scale(view)));
 }
 

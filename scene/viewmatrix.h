@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The arithmetic of the view: what the partial resets do to a view matrix, and where the projection
-// looks.
+// Computes the partial resets of the view matrix and the offset of the projection.
 #pragma once
 
 #include "geometry/matrix.h"
@@ -9,17 +8,18 @@
 
 namespace zanolib {
 
-/// The view matrix without its scale. The scale is the cube root of the 4x4 determinant, and the
-/// division acts last, so the picture's offset from the window centre scales along. A mirrored
-/// matrix gives NaN.
+/// Returns `view` divided by its scale, which is the cube root of the determinant. The translation
+/// is divided, too: zooming scales the distance of the picture from the window centre, and so does
+/// its reset. Returns NaN if `view` is mirrored.
 libgr::matrix3w_t without_scale(libgr::matrix3w_t const& view);
 
-/// The turn that `clrRotate` adds: half of the view matrix's turn, backwards.
+/// Returns the rotation that `ViewScene::clrRotate` appends: half the rotation of `view`, in the
+/// opposite direction. It is half because `libgr::getRotation3` returns half the angle.
 libgr::rotation3_t half_turn_back(libgr::matrix3w_t const& view);
 
-/// How far the projection looks beside the origin, in pixels: -0.5 on each axis on which the sizes
-/// of window and picture differ in parity, since they can't both be centred on a pixel's edge then,
-/// else 0.
+/// Returns the offset, in pixels, of the projection. It is -0.5 along an axis if one of the sizes
+/// of `window` and `image` is even and the other is odd, else 0. Without it, the pixels of the
+/// picture would be between those of the window.
 libgr::direction2_t parity_offset(libgr::direction2l_t const& window,
                                   libgr::direction2l_t const& image);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The choice of the codec, the way from a file to tile textures, and the drawing of a picture.
+// Selects the codec of a picture, cuts the picture into tiles, and draws it.
 #include "scene/viewobj.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ namespace zanolib {
 
 namespace {
 
-// Larger tiles are never made, however much the GL allows.
+// Smaller tiles waste less of the textures at the right and top edges.
 constexpr GLint max_tile_side = 256;
 
 using codec_ptr_t = libutils::ptr_t<libgr::image_object_t>;
@@ -69,10 +69,10 @@ bool convert_in_place(libgr::image2d_t& image, conversion_t* convert) {
 
 }  // namespace
 
-/// The codec of a file kind. It lives for one load; one left over from a failed load serves the
-/// next.
+/// The codec for an extension. It is deleted after a successful load to free its memory, and used
+/// again after a failed one.
 struct ViewObject::codec_row_t {
-    char const* extension;  ///< with its dot; compared without regard to case
+    char const* extension;  ///< with the dot; the case doesn't matter
     codec_ptr_t* codec;
     libgr::image_object_t* (*make)();
     std::endian byte_order;  ///< of the samples of 16 bits that the codec delivers
@@ -136,7 +136,7 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
         return false;
     }
     libgr::grPrintError("before rectangle_to_squares");
-    // A picture that can't be cut is shown as far as its tiles go.
+    // If this fails, the tiles that were cut before are shown.
     rectangle_to_squares(m_squareimage, m_image, static_cast<unsigned long>(limit), true);
     libgr::grPrintError("rectangle-to-squares");
     debug_line("rectangle_to_square() complete.");

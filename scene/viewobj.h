@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One picture on its way from a file to the screen: decoded, cut into tiles, drawn as one
-// rectangle.
+// Loads one picture from a file and draws it.
 #pragma once
 
 #include <string>
@@ -17,64 +16,70 @@
 
 namespace zanolib {
 
-/// Returns the path of a picture's snapshot, which ends in ".zvw.jpg"; see libutils::path_beside.
+/// Returns the path of the snapshot of a picture: "dir/name.zvw.jpg" for "dir/name.png". For the
+/// limits of its length see `libutils::path_beside` in utils/path.h.
 std::string make_snapshotpath(char const* picture);
 
-/// One picture. It lies in the plane z = 0, centred on the origin, one unit to a pixel, and is
-/// never scaled or turned in memory: that is the business of the view matrix above it.
+/// One picture. It is drawn in the plane z = 0, centred on the origin, with one unit for each
+/// pixel. Its pixels are never scaled or rotated: the view matrix of ViewScene does this. The order
+/// of calls is `setImage`, `load_texture`, `Draw` and `free_texture`.
 class ViewObject : public libgr::grObject3D {
   public:
     ViewObject();
-    /// Field by field. The filter record of a copy's textures stays that of the original until the
-    /// next `setImage`, so only empty objects are worth copying.
+    /// Copies only empty objects correctly: the textures of a copy keep a pointer to the filters of
+    /// the original.
     ViewObject(ViewObject const&) = default;
     ViewObject& operator=(ViewObject const&) = delete;
     ~ViewObject() override = default;
 
-    /// Loads the file at `path` with the codec that its extension names and cuts the picture into
-    /// tiles. Samples that OpenGL would misread get another form first: indices become RGB, gray of
-    /// less than 8 bits becomes gray of 8 bits, and wider samples get a store with the byte order
-    /// of the file. `datapath` is not used.
+    /// Loads the file at `path` and cuts the picture into tiles of at most 256 pixels a side. The
+    /// extension alone selects the codec: .jpg, .jpeg, .bmp, .png or .tga, in any case. Samples
+    /// that OpenGL would misread are converted: indices to RGB, and gray of less than 8 bits to
+    /// gray of 8 bits. Wider samples get a store with the byte order of the file. `datapath` is
+    /// ignored.
     ///
-    /// Returns false, and prints nothing of its own, if no codec has the extension, the codec
-    /// fails, the picture has no pixels or a side of 2^31 pixels or more, or a conversion fails.
-    /// Asks OpenGL for its largest texture, so it needs a current context, but makes no OpenGL
-    /// object.
+    /// Returns false, without a line except those of the codec, if no codec has the extension, the
+    /// codec fails, the picture has no pixels or a side of 2^31 pixels or more, or a conversion
+    /// fails. If the picture can't be cut, prints an error line and returns true, and nothing will
+    /// be drawn. Needs a current context, but creates no OpenGL object.
     bool setImage(char const* path, char const* datapath);
 
-    /// Writes what the window shows now, frame and view included, as a JPEG to the snapshot path of
-    /// the picture at `path`, replacing an old snapshot. Returns false and sets errno on failure,
-    /// and then an old snapshot is unchanged. Needs a current context.
+    /// Saves the contents of the window, including the frame, as a JPEG file. Its path is the
+    /// snapshot path of `path`, and it replaces an old snapshot. On failure, returns false, sets
+    /// errno, and leaves an old snapshot unchanged. Needs a current context.
     bool saveImage(char const* path);
 
-    /// Creates the tile textures unless they are there. Returns false, without textures, if there
-    /// is no memory for all of them. Needs a current context.
+    /// Creates the textures of the tiles unless they exist. Returns false, without textures, if
+    /// there is no memory for all of them. Needs a current context.
     bool load_texture();
-    /// Lets go of the tile textures. Needs a current context when they were loaded.
+    /// Deletes the textures. Needs a current context if they exist.
     void free_texture();
-    /// Whether the GL holds all tile textures resident.
+    /// Returns true if all textures are resident. Needs a current context.
     [[nodiscard]] bool is_resident() const { return m_texobject.isResident(); }
 
-    /// Chooses smooth or blocky magnification. A display list made before keeps what it recorded.
+    /// Sets the filter for magnification: linear (smooth) or nearest. Display lists that were
+    /// compiled before keep the old filter.
     void setMagSmooth(bool on);
     [[nodiscard]] bool getMagSmooth() const { return m_magsmooth; }
 
-    /// Width and height of the stored picture in pixels, before any turn.
+    /// Returns the size, in pixels, of the picture in the file, without the rotation by its
+    /// orientation.
     [[nodiscard]] libgr::direction2l_t getImageSize() const;
     /// Returns the path that was last given to `setImage`.
     [[nodiscard]] std::string const& path() const { return m_path; }
-    /// Quarter turns to the right that the file asks for; 0 until a load succeeds.
+    /// Returns the number of quarter turns clockwise that bring the picture upright, according to
+    /// the orientation in the file (codecs/orientation.h). Returns 0 before a file is loaded.
     [[nodiscard]] unsigned long rightrotatecount() const { return m_rightrotatecount; }
 
     using grObject3D::Draw;
-    /// Draws the tiles; nothing before `load_texture`. Needs a current context.
+    /// Draws the picture. Draws nothing before `load_texture`. Needs a current context.
     void Draw() const override;
 
   private:
     struct codec_row_t;
 
-    /// Returns the row for the extension of `path`, with its codec made if there is none left over,
-    /// or null if no codec has that extension.
+    /// Returns the row for the extension of `path`, or null if there is none. Creates the codec of
+    /// the row if it doesn't exist.
     static codec_row_t const* find_codec(std::string const& path);
     static void release_codecs();
 

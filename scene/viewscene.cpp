@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The list of pictures, the operations on the view and the drawing of one frame.
+// Keeps the list of pictures, changes views, and draws the current picture.
 #include "scene/viewscene.h"
 
 #include <sys/stat.h>
@@ -24,8 +24,8 @@
 namespace zanolib {
 
 bool ViewScene::obj_t::load(char const* path, char const* datapath) {
-    // Everything but pixels is allocated with exceptions, which end the program elsewhere. Here the
-    // picture itself may be what does not fit into memory, and the destructor gives all of it back.
+    // A large picture may use up the memory. Then an exception must not end the program: the caller
+    // frees the picture.
     try {
         if (!viewobj.setImage(path, datapath)) {
             return false;
@@ -49,7 +49,7 @@ bool ViewScene::obj_t::make_graph(char const* datapath) {
     libgr::grMemoryWatch const memory;
     graph_made = viewobj.load_texture();
     libgr::grPrintError("ViewScene::obj_t::make_graph() - after viewobj.load_texture().");
-    // Drivers may crash in the following calls if they have no memory.
+    // Drivers may crash in these calls if they have no memory.
     if (graph_made && !memory.is_exhausted()) {
         objdspl.Preload(&viewobj);
         libgr::grPrintError("ViewScene::obj_t::make_graph() - after objdspl.Preload().");
@@ -76,7 +76,7 @@ void ViewScene::Init(char const* datapath) {
     if (g_option.debug) {
         std::cout << "gl_init" << std::endl;
     }
-    // There is no depth test: the order of drawing decides what lies on top.
+    // Without a depth test, the picture covers the frame because it is drawn later.
     for (GLenum const test : std::initializer_list<GLenum>{
              GL_DEPTH_TEST, GL_LIGHTING, GL_ALPHA_TEST, GL_STENCIL_TEST, GL_BLEND}) {
         glDisable(test);
@@ -271,8 +271,8 @@ void ViewScene::Display() const {
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
-    // Lighting itself stays off; only the frame's looks use this light. Its position is in eye
-    // coordinates.
+    // Only the frame enables lighting. The position is in eye coordinates, because the matrix is
+    // the identity.
     glEnable(GL_LIGHT0);
     libgr::grLightPos(GL_LIGHT0, libgr::position3(-50.0f, 50.0f, 50.0f));
     for (GLenum const property :
@@ -311,7 +311,7 @@ void ViewScene::Reshape(unsigned long width, unsigned long height) {
     }
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
-    // A window without area has no projection, and the GL would refuse it.
+    // glOrtho would fail for an empty window.
     if (window.x > 0 && window.y > 0) {
         glOrtho(offset.x - half.x, offset.x + half.x, offset.y - half.y, offset.y + half.y, 0.0,
                 10000.0);

@@ -1,7 +1,36 @@
 // SPDX-License-Identifier: MIT
-// The drawable world of the viewer: the loaded pictures, each under one view matrix, and how they
-// are drawn.
+// The scene: the list of loaded pictures, their views, and the drawing of the current one.
 #pragma once
+
+/// Cuts a picture into tiles and draws it, zoomed to twice its size:
+///
+/// ```cpp
+/// #include "scene/viewscene.h"
+///
+/// zanolib::ViewScene scene;
+/// scene.Init("/usr/share/zanolib/");
+/// if (scene.addImage("photo.jpg", "") && scene.make_graph("/usr/share/zanolib/")) {
+///     scene.Reshape(640, 480);
+///     scene.Zoom(1, 0);
+///     scene.Display();  // then swap the buffers
+/// }
+/// ```
+///
+/// The order of calls is:
+///
+///   1. Create a context, make it current, and call `gl_extloader_init` (glext/glextloader.h).
+///   2. `Init`, once.
+///   3. `addImage` and `make_graph`, for each picture. `delImage` before the next picture if only
+///      one is needed.
+///   4. `Reshape` after the size of the framebuffer or the picture changed.
+///   5. `Display` for each frame, and then swap the buffers.
+///   6. `Destroy`, once.
+///
+/// All calls must come from the thread that has the context. scene/viewobj.h lists the formats of
+/// files, scene/viewframe.h the looks of the frame, and utils/limits.h the limits.
+/// scene/squaretiles.h and scene/tiletextures.h cut and draw a picture without a scene. The scene
+/// reads the options `frametype`, `framewidth`, `framecolor`, `verbose` and `debug`
+/// (options/option.h).
 
 #include <list>
 
@@ -14,39 +43,42 @@
 
 namespace zanolib {
 
-/// The scene owns the pictures, the fixed GL state, the viewport and the projection, and draws the
-/// current picture. World units are picture pixels; with an identity view matrix one picture pixel
-/// is one window pixel. Every view operation appends its transform to the current picture's matrix
-/// M, which becomes M * X: the newest acts last, in screen axes, about the window centre. Without a
-/// current picture the view operations do nothing.
+/// A list of pictures, of which the current one is drawn. The scene owns the pictures, and sets the
+/// OpenGL state, the viewport and the projection.
+///
+/// Each picture has a view matrix M, with row vectors as in geometry/matrix.h. One unit is one
+/// pixel of the picture. With the identity, one pixel of the picture is one pixel of the window,
+/// and the picture is centred. Each view operation multiplies M by its matrix from the right. So
+/// the newest operation is applied last: x is to the right and y up on the screen, the origin is
+/// the centre of the window, and rotations and zooms change the position of a picture that was
+/// moved before. Without a current picture, the view operations have no effect. None of them needs
+/// a context.
 class ViewScene {
   public:
-    /// One picture with its frame and the small node tree that draws both under one view matrix.
+    /// One picture, its frame, and the nodes that draw both with the view matrix.
     struct obj_t {
         ViewObject viewobj;
         libgr::grDspList objdspl;
         ViewFrame viewframe;
-        libgr::grContainer objcontainer;      ///< the frame, then the display list over it
-        libgr::grTransformer objtransformer;  ///< its matrix is the picture's view matrix
-        bool graph_made = false;              ///< whether the GL resources exist
+        libgr::grContainer objcontainer;      ///< the frame, then the display list
+        libgr::grTransformer objtransformer;  ///< contains the view matrix
+        bool graph_made = false;              ///< true if the OpenGL objects exist
 
         obj_t() = default;
-        /// Member by member, node pointers included: for elements that aren't loaded yet.
+        /// Copies only empty objects correctly: the nodes of a copy point to those of the original.
         obj_t(obj_t const&) = default;
         obj_t& operator=(obj_t const&) = delete;
-        /// Frees the GL resources, with or without a context: the window may be gone by then. The
-        /// entry points stay mapped, as the loader never closes the library, and libGL (GLVND's
-        /// and Mesa's own) hands calls without a current context to functions that do nothing; the
-        /// names went with their context.
+        /// Deletes the OpenGL objects. A scene may outlive its context: the loader never closes
+        /// libGL, and calls without a current context have no effect in GLVND and Mesa.
         ~obj_t() { free_graph(); }
 
-        /// Loads the picture, sets the frame up by the options and joins the nodes. False when the
-        /// picture doesn't load. Needs a current context.
+        /// Loads the picture and sets up the frame. Returns false if the picture can't be loaded or
+        /// there is no memory. Needs a current context.
         bool load(char const* path, char const* datapath);
-        /// Creates textures, display list and the frame's resources unless they are there. Returns
-        /// false, without any of them, if OpenGL runs out of memory. Needs a current context.
+        /// Creates the textures, the display list and the objects of the frame unless they exist.
+        /// Returns false, without any of them, if OpenGL has no memory. Needs a current context.
         bool make_graph(char const* datapath);
-        /// Releases what `make_graph` made, in reverse order. The view matrix stays.
+        /// Deletes the OpenGL objects. The view matrix is unchanged. Needs a current context.
         void free_graph();
     };
 
@@ -54,83 +86,95 @@ class ViewScene {
     ViewScene(ViewScene const&) = delete;
     ViewScene& operator=(ViewScene const&) = delete;
 
-    /// Sets the GL state that never changes and loads what the frames share. Call once, with the
-    /// entry points resolved and a context current.
+    /// Sets the OpenGL state that never changes and loads the pictures of the frames. `datapath` is
+    /// the directory of the program's data and must end in "/". Needs a current context.
     void Init(char const* datapath);
-    /// Drops what the frames share.
+    /// Releases the pictures of the frames.
     void Destroy();
 
-    /// Appends the picture at `path`, which becomes current when there was none, and turns the
-    /// current picture upright by its right-rotate count. False when the file isn't there, which is
-    /// told on the error stream, is no plain file, or doesn't load, or when there is no memory for
-    /// what belongs to it; the list is as before then.
-    /// Needs a current context.
+    /// Loads the picture at `path` and appends it to the list. If there is no current picture, the
+    /// first of the list becomes current. Then the current picture is rotated as the orientation in
+    /// its file says: add pictures only to an empty list, or the current one is rotated again.
+    /// `datapath` is ignored. Needs a current context.
+    ///
+    /// Returns false, without a change of the list, if the file doesn't exist, isn't a regular file
+    /// or can't be loaded, or if there is no memory. Prints an error line if the file doesn't
+    /// exist. The codecs print their own lines.
     bool addImage(char const* path, char const* datapath);
-    /// Removes the current picture; the one behind it, or else the last, becomes current. False
-    /// without one.
+    /// Removes the current picture. The next one becomes current, or the last if there is no next
+    /// one. Returns false if there is no current picture. Needs a current context if the OpenGL
+    /// objects exist.
     bool delImage();
-    /// Makes the n-th picture current, counted from 0; none when there are no more than n.
+    /// Makes the picture with the index `n`, counted from 0, the current one. If there are not more
+    /// than `n` pictures, there is no current picture afterwards.
     void setCurrent(unsigned long n);
-    /// Creates the GL resources of all pictures. Pictures for which OpenGL has no memory are
-    /// removed, each with a line on the error stream; false is returned if there were any. Needs a
-    /// current context.
+    /// Creates the OpenGL objects of all pictures. `datapath` is as in `Init`. A picture for which
+    /// OpenGL has no memory is removed, and an error line is printed. Returns false if any was
+    /// removed. Needs a current context.
     bool make_graph(char const* datapath);
-    /// Releases the GL resources of all pictures. Needs a current context.
+    /// Deletes the OpenGL objects of all pictures. Needs a current context.
     void free_graph();
-    /// Whether the GL holds the textures of all pictures resident.
+    /// Returns true if the textures of all pictures are resident. Needs a current context.
     [[nodiscard]] bool is_resident() const;
 
-    /// Turns counter-clockwise by `degrees`. The second float of this and its siblings is ignored.
+    // The view operations. The unnamed float is ignored: pass 0.
+
+    /// Rotates counter-clockwise by `degrees`.
     void Rotate(float degrees, float);
     /// Magnifies by 2 to the power of `zoom`.
     void Zoom(float zoom, float);
     /// Magnifies by `factor`.
     void Scale(float factor, float);
-    /// Moves by `d`, in window pixels.
+    /// Moves by `d`, in pixels of the window.
     void Move(libgr::direction3_t const& d, float);
-    /// Appends `m`; it composes and doesn't replace.
+    /// Multiplies the view matrix by `m`. It doesn't replace the view.
     void Matrix(libgr::matrix3w_t const& m);
-    /// Takes half of the present turn back; the offset from the window centre turns along.
+    /// Takes back half of the rotation, about the centre of the window: 80 degrees become 40, and
+    /// 20 after another call. It is half because `libgr::getRotation3` returns half the angle, and
+    /// users rely on it. `Origin` takes back the whole rotation.
     void clrRotate();
-    /// Takes the zoom away; the offset from the window centre scales along.
+    /// Takes back the zoom, about the centre of the window.
     void clrZoom();
-    /// Brings the picture back to the window centre.
+    /// Moves the picture back to the centre of the window.
     void clrMove();
-    /// Resets the view to the upright picture: identity, then the turn that the file asks for.
+    /// Resets the view to the rotation that the orientation in the file needs.
     void Origin();
-    /// The current picture's view matrix, or the identity without one.
+    /// Returns the view matrix of the current picture, or the identity if there is none.
     [[nodiscard]] libgr::matrix3w_t const& getMatrix() const;
 
-    /// Flips smooth magnification and compiles the display list anew. The new state; false without
-    /// a picture. Needs a current context.
+    /// Switches between smooth and blocky magnification and compiles the display list again.
+    /// Returns true if it is smooth now, and false if there is no current picture. Needs a current
+    /// context.
     bool toggleSmooth();
-    /// Pixels of the current picture as stored, before any turn; (0, 0) without one.
+    /// Returns the size, in pixels, of the current picture in its file, without the rotation by its
+    /// orientation, or (0, 0) if there is none.
     [[nodiscard]] libgr::direction2l_t getCurrentImageSize() const;
-    /// Quarter turns to the right that the current picture's file asks for; 0 without one.
+    /// Returns the number of quarter turns clockwise that bring the current picture upright, or 0
+    /// if there is none.
     [[nodiscard]] unsigned long rightrotatecount() const;
-    /// Writes what the window shows beside the picture file at `path`; see `ViewObject::saveImage`.
-    /// Returns false and sets errno on failure and without a picture.
+    /// Saves the contents of the window as a JPEG file: see `ViewObject::saveImage`. On failure, or
+    /// if there is no current picture, returns false and sets errno. Needs a current context.
     bool saveImage(char const* path);
 
-    /// Draws one frame, without swapping buffers. Needs a current context.
+    /// Draws the background and the current picture. Doesn't swap the buffers. Needs a current
+    /// context.
     void Display() const;
-    /// Sets viewport and projection for a framebuffer of `width` by `height` pixels, cut to what
-    /// the GL allows. The matrix mode stays that of the projection. Needs a current context.
+    /// Sets the viewport and the projection for a framebuffer of `width` by `height` pixels, or of
+    /// GL_MAX_VIEWPORT_DIMS if that is smaller. Leaves the matrix mode at GL_PROJECTION. Needs a
+    /// current context.
     void Reshape(unsigned long width, unsigned long height);
 
   private:
     [[nodiscard]] bool has_current() const { return m_current != m_objlist.end(); }
-    /// Removes a picture and returns the place after it. If it is the current one, the picture
-    /// after it, or else the last, becomes current.
+    /// Removes a picture, as `delImage` does with the current one. Returns the next position.
     std::list<obj_t>::iterator remove(std::list<obj_t>::iterator place);
-    /// M := M * `transform` for the current picture, if any.
+    /// Multiplies the view matrix of the current picture, if there is one, by `transform`.
     void append(libgr::matrix3w_t const& transform);
-    /// Turns the current picture by the quarter turns that its file asks for.
+    /// Rotates the current picture as the orientation in its file says.
     void turn_upright();
 
-    std::list<obj_t> m_objlist;  // the nodes point into the elements, so their addresses must hold
-    libgr::grContainer
-        m_container;  // every picture that ever loaded; never drawn and never emptied
+    std::list<obj_t> m_objlist;      // a list, because the nodes point to the elements
+    libgr::grContainer m_container;  // all pictures that were ever loaded; never drawn
     std::list<obj_t>::iterator m_current = m_objlist.end();
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Small pictures for tests, written as rows of bytes from the bottom up.
+// Small pictures for tests, given as rows of bytes from the bottom to the top.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,16 +12,16 @@
 using row_t = std::vector<unsigned char>;
 using rows_t = std::vector<row_t>;
 
-/// A description of components of 8 bits.
-constexpr libgr::image_desc_t bytes_desc(libgr::e_image_format_t format, unsigned int type = 1) {
-    return {format, static_cast<libgr::e_image_type_t>(type), libgr::IMAGE_BITS_8};
+constexpr libgr::image_desc_t bytes_desc(libgr::e_image_format_t format,
+                                         libgr::e_image_type_t type = libgr::IMAGE_TYPE_UINT) {
+    return {format, type, libgr::IMAGE_BITS_8};
 }
 
 inline constexpr libgr::image_desc_t gray8 = bytes_desc(libgr::IMAGE_FORMAT_GRAYSCALE);
 inline constexpr libgr::image_desc_t rgb8 = bytes_desc(libgr::IMAGE_FORMAT_RGB);
 inline constexpr libgr::image_desc_t rgba8 = bytes_desc(libgr::IMAGE_FORMAT_RGBA);
 
-/// A picture of `width` pixels whose rows begin with these bytes; the rest of each row is 0xEE.
+/// A picture of `width` pixels whose rows begin with these bytes. The rest of each row is 0xEE.
 inline libgr::image2d_t picture(libgr::image_desc_t const& desc, unsigned int width,
                                 rows_t const& rows) {
     libgr::image2d_t image;
@@ -31,12 +31,12 @@ inline libgr::image2d_t picture(libgr::image_desc_t const& desc, unsigned int wi
     EXPECT_TRUE(image.allocate());
     std::fill(image.begin(), image.end(), static_cast<unsigned char>(0xEE));
     for (unsigned int y = 0; y < image.m_height; ++y) {
-        std::copy(rows[y].begin(), rows[y].end(), libgr::pixel_row(image, y));
+        std::ranges::copy(rows[y], libgr::pixel_row(image, y));
     }
     return image;
 }
 
-/// The bytes of the record's own pixels.
+/// The rows of the record, without padding and without the rest of a larger picture.
 inline rows_t pixels(libgr::image2d_t const& image) {
     rows_t rows;
     for (unsigned int y = 0; y < image.m_height; ++y) {

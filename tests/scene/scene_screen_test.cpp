@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Pictures drawn by a real OpenGL and read back pixel by pixel, and a scene that outlives its
-// context.
-#include <algorithm>
-#include <array>
-#include <initializer_list>
+// Tests of the scene that compare the pixels that OpenGL draws.
 #include <memory>
-#include <sstream>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "options/option.h"
@@ -43,7 +37,7 @@ struct screen_row_t {
     unsigned width, height;  // the picture
     int columns, rows;       // the viewport
     float move;              // to the right and up, in pixels
-    int left, bottom;        // where the picture's first pixel comes to stand
+    int left, bottom;        // the expected position of the first pixel
     int scale;
 };
 
@@ -52,11 +46,11 @@ screen_row_t const screen_rows[] = {
     {7, 5, 64, 64, 0, 29, 30, 1},
     {8, 6, 63, 61, 0, 28, 28, 1},
     {7, 5, 63, 61, 0, 28, 28, 1},
-    {300, 257, 64, 64, -100, -218, -196, 1},  // a seam between two tiles in sight
-    {8, 6, 64, 64, 0, 24, 26, 2},             // blocky
+    {300, 257, 64, 64, -100, -218, -196, 1},  // shows the edges of four tiles
+    {8, 6, 64, 64, 0, 24, 26, 2},             // not smooth
 };
 
-/// The frame's colour three pixels around the picture, the background's beyond.
+/// The expected colour: the picture, three pixels of the frame around it, or the background.
 std::vector<int> expected(screen_row_t const& row, int x, int y) {
     int const px = x - row.left;
     int const py = y - row.bottom;
@@ -74,7 +68,7 @@ std::vector<int> expected(screen_row_t const& row, int x, int y) {
     return {channel(0), channel(1), channel(2)};
 }
 
-/// Tests that run once for each way of building mipmaps.
+/// These tests run once for each way to build mipmaps.
 class SceneMipmapTest : public SceneScreenTest, public testing::WithParamInterface<std::string> {
   protected:
     gl_flag_t gl3{is_GL_VERSION_3_0_supported, GetParam() == "GL30"};
@@ -84,7 +78,7 @@ class SceneMipmapTest : public SceneScreenTest, public testing::WithParamInterfa
 INSTANTIATE_TEST_SUITE_P(Mipmaps, SceneMipmapTest, testing::Values("GL30", "SGIS", "GLU"),
                          [](auto const& test) { return test.param; });
 
-TEST_P(SceneMipmapTest, EveryTexelLiesOnItsWindowPixel) {
+TEST_P(SceneMipmapTest, EachTexelIsDrawnOnOnePixel) {
     for (screen_row_t const& row : screen_rows) {
         ViewScene scene;
         load(scene, row.width, row.height);
@@ -106,66 +100,8 @@ TEST_P(SceneMipmapTest, EveryTexelLiesOnItsWindowPixel) {
     }
 }
 
-/// The state that the next drawing depends on, as found and again for texture unit 1. Unit 0 is
-/// active afterwards.
-std::string drawing_state() {
-    std::ostringstream text;
-    for (GLenum const next_unit : std::initializer_list<GLenum>{GL_TEXTURE1, GL_TEXTURE0}) {
-        for (GLenum const name : std::initializer_list<GLenum>{GL_ACTIVE_TEXTURE,
-                                                               GL_CLIENT_ACTIVE_TEXTURE,
-                                                               GL_MATRIX_MODE,
-                                                               GL_MODELVIEW_MATRIX,
-                                                               GL_MODELVIEW_STACK_DEPTH,
-                                                               GL_PROJECTION_MATRIX,
-                                                               GL_TEXTURE_MATRIX,
-                                                               GL_BLEND,
-                                                               GL_LIGHTING,
-                                                               GL_NORMALIZE,
-                                                               GL_RESCALE_NORMAL,
-                                                               GL_VERTEX_PROGRAM_ARB,
-                                                               GL_FRAGMENT_PROGRAM_ARB,
-                                                               GL_VERTEX_ARRAY,
-                                                               GL_TEXTURE_COORD_ARRAY,
-                                                               GL_TEXTURE_2D,
-                                                               GL_TEXTURE_CUBE_MAP,
-                                                               GL_TEXTURE_GEN_S,
-                                                               GL_TEXTURE_GEN_T,
-                                                               GL_TEXTURE_GEN_R}) {
-            std::array<GLfloat, 16> values{};
-            glGetFloatv(name, values.data());
-            text << "\n" << gl_enum_name(name);
-            std::ranges::for_each(values, [&text](GLfloat value) { text << " " << value; });
-        }
-        glActiveTexture(next_unit);
-    }
-    GLfloat emission[4];
-    glGetMaterialfv(GL_FRONT, GL_EMISSION, emission);
-    text << "\nemission";
-    std::ranges::for_each(emission, [&text](GLfloat value) { text << " " << value; });
-    return text.str();
-}
-
-TEST_F(SceneScreenTest, AFrameLeavesTheStateThatItFound) {
-    ViewScene scene;
-    load(scene, 8, 6);
-    scene.Display();
-    std::string const before = drawing_state();
-    for (auto const& [type, programs, combiners] :
-         {std::tuple{1U, 1, 1}, {2U, 1, 1}, {2U, 0, 1}, {3U, 0, 0}, {4U, 1, 1}}) {
-        gl_flag_t const vertex(is_GL_ARB_vertex_program_supported, programs);
-        gl_flag_t const combine(is_GL_ARB_texture_env_combine_supported, combiners);
-        zanolib::ViewFrame frame;
-        frame.setFrameType(static_cast<zanolib::e_frametype_t>(type));
-        frame.setSize({8, 6}, 3);
-        frame.make_graph(DATA);
-        frame.Draw();
-        EXPECT_EQ(before, drawing_state()) << "type " << type << " " << programs << combiners;
-        frame.free_graph();
-    }
-}
-
-// The last of the suite: there is no window after it.
-TEST_F(SceneScreenTest, ASceneMayGoAfterItsContext) {
+// This test must be the last one of the suite: it destroys the window.
+TEST_F(SceneScreenTest, ASceneMayOutliveItsContext) {
     auto scene = std::make_unique<ViewScene>();
     load(*scene, 300, 3);
     scene->Reshape(64, 64);

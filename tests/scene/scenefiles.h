@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures for the scene's tests, made byte by byte.
+// Picture files for tests, made byte by byte.
 #pragma once
 
 #include <cmath>
@@ -30,7 +30,7 @@ inline unsigned char test_channel(unsigned x, unsigned y, unsigned channel) {
     return static_cast<unsigned char>(channels[channel]);
 }
 
-/// A BMP whose body, `palette` bytes and pixels, stands behind 54 bytes of headers.
+/// A BMP with a palette of `palette` bytes. The body is the palette and the pixels.
 inline std::string bmp(unsigned width, unsigned height, unsigned bits, unsigned palette,
                        std::string const& body) {
     return std::string("BM")
@@ -50,7 +50,7 @@ inline std::string test_bmp(unsigned width, unsigned height) {
     return bmp(width, height, 24, 0, rows);
 }
 
-/// A view in words, to a thousandth: its turn in degrees, its scale and where it moves the centre.
+/// Describes a view: the rotation in degrees, the scale, and the position of the centre.
 inline std::string view_text(libgr::matrix3w_t const& m) {
     float const numbers[] = {std::atan2(m[0][1], m[0][0]) * 57.29578f, std::hypot(m[0][0], m[0][1]),
                              m[3][0], m[3][1]};
@@ -62,14 +62,14 @@ inline std::string view_text(libgr::matrix3w_t const& m) {
     return text.str();
 }
 
-/// Writes a JPEG that stands upright after a quarter turn clockwise.
+/// Writes a JPEG with an orientation that needs a quarter turn clockwise.
 inline std::string write_turned_jpeg(std::string const& path, unsigned width, unsigned height) {
     libgr::image2d_t image;
     image.desc = {libgr::IMAGE_FORMAT_RGB, libgr::IMAGE_TYPE_UINT, libgr::IMAGE_BITS_8};
     image.m_width = width;
     image.m_height = height;
     EXPECT_TRUE(image.allocate() && libgr::image_jpeg1_t().save(image, path.c_str()));
-    // An Exif block with the tag Orientation at 6, behind the start of the image.
+    // An Exif block with the tag Orientation = 6, which is inserted after the start marker.
     std::string const exif(
         "\xff\xe1\0\x22"
         "Exif\0\0MM\0*\0\0\0\x8\0\1\1\x12\0\3\0\0\0\1\0\6\0\0\0\0\0\0",

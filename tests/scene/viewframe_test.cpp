@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every look and path of the photo frame by its calls, which stand in frame_calls.txt.
+// Tests of the OpenGL calls of each look and path of the photo frame.
 #include "scene/viewframe.h"
 
 #include <gtest/gtest.h>
@@ -13,24 +13,43 @@ namespace {
 
 using zanolib::ViewFrame;
 
-/// The frames' shared textures go at the program's end, when no recorder listens any more.
+/// The shared textures are deleted when the program ends, after the recorder.
 [[maybe_unused]] bool const g_outlived = [] {
     glDeleteTextures = [](GLsizei, GLuint const*) {};
     return true;
 }();
 
+/// The states that are enabled at the end of these calls, with the texture unit of each.
+std::set<std::string> left_enabled(std::vector<std::string> const& lines) {
+    std::set<std::string> enabled;
+    std::string unit = "GL_TEXTURE0";
+    for (std::string const& line : lines) {
+        std::size_t const at = std::min(line.find('('), line.size());
+        std::string const call = line.substr(0, at), state = line.substr(at);
+        if (call == "glActiveTextureARB" || call == "glActiveTexture") {
+            unit = state;
+        } else if (call == "glEnable" || call == "glEnableClientState") {
+            enabled.insert(state + (state.starts_with("(GL_TEXTURE_2D") ? unit : ""));
+        } else if (call == "glDisable" || call == "glDisableClientState") {
+            enabled.erase(state + (state.starts_with("(GL_TEXTURE_2D") ? unit : ""));
+        }
+    }
+    return enabled;
+}
+
 class ViewFrameTest : public testing::Test {
   protected:
     ViewFrameTest() {
-        gl.muted.insert({"glPixelStorei"});
-        gl.floats[GL_MODELVIEW_MATRIX] = {2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 2, 0, 0, 0, -1000, 1};
+        gl.muted.insert({"glPixelStorei", "glGetIntegerv", "glGetFloatv", "glGetLightfv"});
+        gl.floats[GL_MODELVIEW_MATRIX] = {2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 2, 0, 30, 0, -1000, 1};
+        gl.floats[GL_PROJECTION_MATRIX] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 7, 0, 0, 1};
         gl.floats[GL_POSITION] = {-50, 50, 50, 1};
         std::string gray = bmp(4, 4, 8, 0, words({0x10203040, 0x50607080, 0x90a0b0c0, 0xd0e0f000}));
         write_file(dir.file("hairline.bmp"), gray);
         write_file(dir.file("flower.bmp"), test_bmp(4, 4));
         write_file(dir.file("bumpmapv.vp1"), "!!ARBvp1.0");
         write_file(dir.file("bumpmapf.fp1"), "!!ARBfp1.0");
-        ViewFrame::init((dir.path() + "/").c_str());
+        ViewFrame::init(data.c_str());
         zanolib::g_option.framecolor = {255, 0, 255, 255};
     }
     ~ViewFrameTest() override {
@@ -38,76 +57,107 @@ class ViewFrameTest : public testing::Test {
         zanolib::g_option = {};
     }
 
-    /// The calls of a frame's life: made, drawn, freed.
-    std::string life(unsigned int type) {
+    /// The calls that make, draw and free a frame, except those that disable states.
+    std::string calls(unsigned int type) {
         ViewFrame frame;
         frame.setFrameType(static_cast<zanolib::e_frametype_t>(type));
         frame.setSize({100, 50}, 32);
         gl.take();
-        frame.make_graph((dir.path() + "/").c_str());
-        std::string text = gl.take() + "-- draw\n";
+        frame.make_graph(data.c_str());
+        gl.lines.emplace_back("-- drawn");
         frame.Draw();
-        text += gl.take() + "-- free\n";
+        EXPECT_EQ(left_enabled(gl.lines), std::set<std::string>()) << type;
+        gl.lines.emplace_back("-- freed");
         frame.free_graph();
-        return text + gl.take();
+        std::erase_if(gl.lines, [this](std::string const& line) {
+            return line.starts_with("glDisable") ||
+                   std::ranges::any_of(hidden, [&](auto const& words) {
+                       return line.find(words) != std::string::npos;
+                   });
+        });
+        return gl.take();
     }
 
     gl_recorder_t gl;
     temp_dir_t dir;
+    std::string data = dir.path() + "/";
+    std::vector<std::string> hidden;
     gl_flag_t modern{is_GL_VERSION_3_0_supported, 1};
     gl_flag_t bgra{is_GL_EXT_bgra_supported, 1};
     gl_flag_t rescale{is_GL_EXT_rescale_normal_supported, 1};
     gl_flag_t vertex{is_GL_ARB_vertex_program_supported, 1};
     gl_flag_t fragment{is_GL_ARB_fragment_program_supported, 1};
     gl_flag_t combine{is_GL_ARB_texture_env_combine_supported, 1};
+    gl_flag_t dot3{is_GL_ARB_texture_env_dot3_supported, 1};
     gl_flag_t cube{is_GL_ARB_texture_cube_map_supported, 1};
     gl_flag_t imaging{is_GL_ARB_imaging_supported, 0};
     gl_flag_t units{is_GL_ARB_multitexture_supported, 1};
 };
 
 TEST_F(ViewFrameTest, MakesTheCallsOfItsLookAndPath) {
-    std::string text;
-    for (unsigned int type : {0u, 1u, 4u, 99u}) {
-        text += "== type " + std::to_string(type) + "\n" + life(type);
-    }
-    gl_flag_t dot3{is_GL_ARB_texture_env_dot3_supported, 1};
-    text += "== type 2 by programs\n" + life(2);
-    is_GL_EXT_bgra_supported = is_GL_EXT_rescale_normal_supported = 0;
-    is_GL_ARB_imaging_supported = 1;
-    ViewFrame::destroy();
-    ViewFrame::init((dir.path() + "/").c_str());
-    text += "== type 4 with what else a GL may have\n" + life(4);
-    is_GL_EXT_bgra_supported = is_GL_EXT_rescale_normal_supported = 1;
-    std::filesystem::remove(dir.file("bumpmapf.fp1"));
     capture_t captured;
-    text += "== type 3 by combiners, a program missing\n" + life(3);
+    EXPECT_EQ(calls(0), "-- drawn\n-- freed\n");
+    EXPECT_EQ(calls(99), "-- drawn\n-- freed\n");
+    // Calls that a look shares with an earlier one are hidden.
+    std::string text = "== flat\n" + calls(1);
+    hidden = {"GL_VERTEX_ARRAY", "glVertexPointer", "glDrawElements"};
+    text += "== flower\n" + calls(4);
+    hidden.insert(hidden.end(),
+                  {"_ARB, 2, {", "_ARB, 3, {", "_ARB, 4, {", "_ARB, 6, {", "_ARB, 7, {",
+                   "_ARB, 8, {", "_ARB, 10, {", "_ARB, 11, {", "_ARB, 12, {"});
+    text += "== brown by programs\n" + calls(2);
+    EXPECT_EQ(captured.out() + captured.err(), "");
+    hidden.insert(hidden.end(), {"TexCoord", "TEXTURE_COORD", "glNormal3f", "GL_NORMALIZE", "glGen",
+                                 "glProgramString", "glGetString", "GL_RGB, GL_BYTE, ptr",
+                                 "MAP_NEGATIVE", "MAP_POSITIVE_Y", "MAP_POSITIVE_Z",
+                                 "glTexParameteri(GL_TEXTURE_2D", "glTexParameterf"});
+    std::filesystem::remove(dir.file("bumpmapf.fp1"));
+    std::filesystem::create_directory(dir.file("bumpmapf.fp1"));
+    text += "== coloured by combiners, without a program\n" + calls(3);
     EXPECT_EQ(captured.err(), "/usr/site/share/zanolib/bumpmapf.fp1: read error.\n");
+    std::filesystem::remove(dir.file("bumpmapf.fp1"));
+    write_file(dir.file("bumpmapf.fp1"), "!!ARBfp1.0");
     gl.errors = {GL_INVALID_OPERATION};
     gl.integers[GL_PROGRAM_ERROR_POSITION_ARB] = {7};
     gl.strings[GL_PROGRAM_ERROR_STRING_ARB] = "no such word";
-    write_file(dir.file("bumpmapf.fp1"), "!!ARBfp1.0");
     is_GL_ARB_texture_env_dot3_supported = 0;
-    text += "== type 3 plain, a program rejected\n" + life(3);
+    text += "== coloured, plain, with a rejected program\n" + calls(3);
     EXPECT_EQ(captured.err(), "bumpmapv.vp1: 7: no such word\n");
     EXPECT_TRUE(matches_file(text, FRAME_CALLS));
 }
 
-TEST_F(ViewFrameTest, DoesWithoutItsFiles) {
+TEST_F(ViewFrameTest, UsesTheExtensionsOfTheContext) {
+    gl_flag_t const no_bgra{is_GL_EXT_bgra_supported, 0};
+    gl_flag_t const no_rescale{is_GL_EXT_rescale_normal_supported, 0};
+    gl_flag_t const with_imaging{is_GL_ARB_imaging_supported, 1};
     ViewFrame::destroy();
-    for (char const* broken : {"", "BM", "BM\x36"}) {
-        for (char const* name : {"hairline.bmp", "flower.bmp"}) {
-            write_file(dir.file(name), broken);
-        }
-        ViewFrame::init((dir.path() + "/").c_str());
-        capture_t quiet;
-        for (unsigned int type : {2u, 4u}) {
-            std::string const calls = life(type);
-            EXPECT_NE(calls.find("glDrawElements"), std::string::npos);
-            EXPECT_EQ(calls.find("glTexImage2D(GL_TEXTURE_2D"), std::string::npos);
-        }
-        EXPECT_EQ(quiet.out() + quiet.err(), "");
-        ViewFrame::destroy();
+    ViewFrame::init(data.c_str());
+    std::string const text = calls(4);
+    for (char const* call : {"4, 4, 0, GL_RGB, GL_UNSIGNED_BYTE, ptr)",
+                             "glBlendEquationEXT(GL_FUNC_ADD)", "glEnable(GL_NORMALIZE)"}) {
+        EXPECT_NE(text.find(call), std::string::npos) << call;
     }
+    zanolib::g_option.debug = true;
+    capture_t captured;
+    calls(2);
+    std::string const printed = captured.out();
+    EXPECT_TRUE(printed.starts_with("frametype: 2\npos3(-50.000000, 50.000000, 50.000000)\n"));
+    EXPECT_NE(printed.find("-1000.0"), std::string::npos) << "the modelview matrix";
+}
+
+TEST_F(ViewFrameTest, IsDrawnWithoutItsFiles) {
+    ViewFrame::destroy();
+    for (char const* name : {"hairline.bmp", "flower.bmp"}) {
+        write_file(dir.file(name), "BM\x36");
+    }
+    ViewFrame::init(data.c_str());
+    capture_t captured;
+    for (unsigned int type : {2U, 4U}) {
+        std::string const text = calls(type);
+        EXPECT_NE(text.find("glDrawElements"), std::string::npos);
+        EXPECT_EQ(text.find("glTexImage2D(GL_TEXTURE_2D"), std::string::npos);
+    }
+    EXPECT_EQ(captured.out() + captured.err(), "");
 }
 
 }  // namespace

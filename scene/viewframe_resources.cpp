@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the photo frames share: their files, textures and programs.
+// Loads and releases the files, textures and programs of the photo frame.
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -44,13 +44,13 @@ libgr::texparameter2d_t const s_textureparameter_heightmap = libgr::texparameter
 libgr::texparametercubemap_t const s_textureparameter_normalmap =
     libgr::texparametercubemap(GL_LINEAR, GL_LINEAR, 1.0f);
 
-/// The first place that has the file; the last one that was looked at when none has.
+/// Returns the first path at which the file exists, or else the last one that was tried.
 std::string find_data_file(char const* name, char const* datapath) {
     std::string path;
     for (std::string const& directory :
          {std::string(), std::string(datapath), std::string(site_directory)}) {
         path = directory + name;
-        // A pipe would wait for its writer, and a directory opens, too.
+        // Opening a pipe would block, and a directory can be opened, too.
         struct stat status {};
         if (stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
             access(path.c_str(), R_OK) == 0) {
@@ -105,8 +105,8 @@ void load_image_normalmap(libgr::grTextureCubeMap& texture) {
     texture.setTextureParameter(&s_textureparameter_normalmap);
 }
 
-/// Gives the program bound to `target` the text of a file; false with a line when there is no such
-/// file or the GL rejects it.
+/// Loads the text of the program that is bound to `target`. Prints an error line and returns false
+/// if the file can't be read or OpenGL rejects the text.
 bool load_program(GLenum target, char const* name, char const* datapath) {
     std::string const path = find_data_file(name, datapath);
     std::vector<char> text;
@@ -134,7 +134,7 @@ bool make_program(GLuint& program, GLenum target, char const* name, char const* 
     return load_program(target, name, datapath);
 }
 
-/// Deletes a program that wasn't accepted; nobody else would.
+/// Deletes a program that has no text. `free_graph` deletes only programs that were loaded.
 void drop_rejected(GLuint program, bool loaded) {
     if (!loaded) {
         glDeleteProgramsARB(1, &program);
@@ -172,7 +172,7 @@ void ViewFrame::make_graph(char const* datapath) {
     if (!is_bump_mapped()) {
         return;
     }
-    if (programs_available()) {
+    if (has_programs()) {
         s_hairlinetexobj.Preload(&s_hairlinetex);
         s_vertex_program_loaded =
             make_program(s_vertex_program, GL_VERTEX_PROGRAM_ARB, "bumpmapv.vp1", datapath);
@@ -185,7 +185,7 @@ void ViewFrame::make_graph(char const* datapath) {
             return;
         }
     }
-    if (combiners_available()) {
+    if (has_combiners()) {
         s_hairlinetexobj.Preload(&s_hairlinetex);
         s_normaltexobj.Preload(&s_normaltex);
     } else {
@@ -200,7 +200,7 @@ void ViewFrame::free_graph() {
     if (!is_bump_mapped()) {
         return;
     }
-    if (programs_available()) {
+    if (has_programs()) {
         s_hairlinetexobj.Unload();
         if (s_vertex_program_loaded) {
             glDeleteProgramsARB(1, &s_vertex_program);
@@ -209,8 +209,8 @@ void ViewFrame::free_graph() {
             glDeleteProgramsARB(1, &s_fragment_program);
         }
     }
-    // Which of these was in use doesn't matter: what was never loaded isn't there to let go of.
-    if (combiners_available()) {
+    // The textures that the path didn't use aren't loaded, and `Unload` has no effect on them.
+    if (has_combiners()) {
         s_hairlinetexobj.Unload();
         s_normaltexobj.Unload();
     } else {
