@@ -4,6 +4,7 @@
 #include <regex>
 
 #include "gl/glumipmaps.h"
+#include "gl/palette.h"
 #include "gl/pixelstore.h"
 #include "gl/readpixels.h"
 #include "gl/texture2d.h"
@@ -187,6 +188,14 @@ TEST_F(PixelTransfer, ParametersAreSetFromImageRecords) {
     EXPECT_EQ(gl.integers[GL_PACK_SKIP_ROWS][0], 3);
     EXPECT_EQ(gl.integers[GL_PACK_ROW_LENGTH][0], 9);
     gl.take();
+}
+
+TEST_F(PixelTransfer, PaletteWithShortPlanesIsNotLoaded) {
+    palette_t palette;
+    palette.resize(2);
+    palette.size = 3;
+    grPalette().Load(palette);
+    EXPECT_EQ(gl.take(), "");
 }
 
 TEST_F(PixelTransfer, FormatsAndTypesHaveSizes) {
