@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How an image description is spoken of to OpenGL: internal format, pixel format and pixel type.
+// Conversion of image descriptions to internal format, pixel format and pixel type of OpenGL.
 #include "gl/glformat.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 namespace libgr {
 namespace {
 
-// A bit for each format value; RG and DEPTH_STENCIL are left out.
+// A bit for each e_image_format_t. IMAGE_FORMAT_RG and IMAGE_FORMAT_DEPTH_STENCIL are missing.
 constexpr unsigned int accepted_formats = 0x3DF7F;
 
 bool is_accepted(e_image_format_t format) {
@@ -53,14 +53,14 @@ bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t d
 }
 
 std::optional<gl_loading_format_t> find_gl_format(image_desc_t desc, bool compress) {
-    gl_loading_format_t terms{};
-    return convert(&terms, desc, compress) ? std::optional(terms) : std::nullopt;
+    gl_loading_format_t glformat{};
+    return convert(&glformat, desc, compress) ? std::optional(glformat) : std::nullopt;
 }
 
 unsigned int internal_format_of(image_desc_t desc, bool compress) {
-    gl_loading_format_t terms{};
-    return grConvertImageFormatToGlFormatFULL(&terms, desc, compress) ? terms.internalformat
-                                                                      : GL_INVALID_VALUE;
+    gl_loading_format_t glformat{};
+    return grConvertImageFormatToGlFormatFULL(&glformat, desc, compress) ? glformat.internalformat
+                                                                         : GL_INVALID_VALUE;
 }
 
 void grReportUnsupportedImage(image_desc_t desc) {
@@ -68,7 +68,7 @@ void grReportUnsupportedImage(image_desc_t desc) {
     std::cerr << "Not supported image format!" << std::endl;
     std::cerr << "imgformat: " << desc.format << std::endl;
     std::cerr << "imgtype: " << desc.type << std::endl;
-    // Readers of the error stream see hexadecimal numbers from here on: the stream stays so.
+    // The stream stays hexadecimal: readers of the error stream depend on it.
     std::cerr << std::hex << "imgbits: " << desc.bits << std::endl;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How an image description is spoken of to OpenGL: internal format, pixel format and pixel type.
+// Conversion of image descriptions to internal format, pixel format and pixel type of OpenGL.
 #pragma once
 
 #include <optional>
@@ -8,29 +8,46 @@
 
 namespace libgr {
 
-/// The three OpenGL enumerants with which glTexImage2D and its relatives take an image.
+/// The three OpenGL enumerants that glTexImage2D needs for an image.
 struct gl_loading_format_t {
     unsigned int internalformat;
     unsigned int format;
     unsigned int type;
 };
 
-/// Turns an image description into the terms of OpenGL.
+/// Converts an image description. These can become textures (names without their prefixes):
 ///
-/// `compress` asks for a compressed internal format; it takes effect on plain GL_ALPHA alone, and
-/// only where ARB_texture_compression is there. Returns true if `out` is valid. A description that
-/// can't become a texture is reported on the error stream, leaves `out` in part written and gives
-/// false. No GL call is made, but the extension flags must be set.
+/// | Format             | SINT bits                   | UINT bits                     | FLOAT bits
+/// |
+/// |--------------------|-----------------------------|-------------------------------|------------|
+/// | GRAYSCALE          | 4 8 12 16 32                | 1 4 8 16 32                   | 16 32 | |
+/// GRAYSCALE_ALPHA    | 4 8 16 32 L6A2 L12A4        | 1 4 8 12 16 24 32 L6A2 L12A4  | 16 32      |
+/// | INTENSITY          | 4 8 16 32                   | 1 4 8 12 16 32                | 16 32 | |
+/// RED, GREEN, BLUE   | 8 16 32                     | 1 8 16 32                     | 16 32      |
+/// | ALPHA              | 4 8 12 16 32                | 1 4 8 12 16 32                | 16 32 | |
+/// RGB, YCbCr         | 4 8 12 16 32 R3G3B2 R5G6B5  | 1 4 8 12 16 32 R3G3B2 R5G6B5  | 16 32      |
+/// | RGBA, YCbCrA       | 4 8 12 16 32, packed        | 1 4 8 12 16 32, packed        | 16 32 | |
+/// BGR                | 8 R3G3B2 R5G6B5             | 8 R3G3B2 R5G6B5               |            |
+/// | BGRA               | 4 8, packed                 | 4 8, packed                   | | | DEPTH
+/// |                             |                               | 16 24 32   | | INDEX | | 1 8 | |
+///
+/// "packed" is R5G5B5A1 and R10G10B10A2. RG, DEPTH_STENCIL and YCbCr422 are rejected. YCbCr images
+/// are uploaded as if they were RGB. The rows are in gl/glformattables.cpp.
+///
+/// `compress` selects a compressed internal format for images whose internal format is GL_ALPHA, if
+/// ARB_texture_compression is supported. It has no effect on others. Returns true if `out` is
+/// valid. Otherwise reports the description on the error stream and may have changed `out->format`.
+/// Makes no GL call, but `gl_extloader_init` must have been called.
 bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t desc, bool compress);
 
-/// The same conversion without a report: nothing for a description that can't become a texture.
+/// Does the same without a report. Returns nothing for a rejected description.
 std::optional<gl_loading_format_t> find_gl_format(image_desc_t desc, bool compress);
 
-/// The internal format that the conversion gives, or GL_INVALID_VALUE where it refuses.
+/// Returns the internal format, or reports the description and returns GL_INVALID_VALUE.
 unsigned int internal_format_of(image_desc_t desc, bool compress);
 
-/// Reports an image that no texture can be made of: four lines on the error stream, which stays in
-/// hexadecimal mode afterwards.
+/// Prints four lines about a rejected description on the error stream, which stays in hexadecimal
+/// mode afterwards.
 void grReportUnsupportedImage(image_desc_t desc);
 
 }  // namespace libgr

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The tables from image descriptions to OpenGL's enumerants.
+// Tables from image descriptions to OpenGL enumerants.
 #include "gl/glformattables.h"
 
 #include <algorithm>
@@ -21,8 +21,9 @@ constexpr gl_pixelformat_row_t s_image_format_to_glformat_list[] = {
     {IMAGE_FORMAT_YCbCr422, GL_RGB},        {IMAGE_FORMAT_INDEX, GL_COLOR_INDEX},
 };
 
-// Signed RGBA of packed kinds, depth as a pixel type, unsized formats for the BGR families and the
-// other cells that look wrong are meant so: a change here is seen on the screen.
+// Some cells look wrong but must stay, because a change would change the picture on the screen: for
+// example GL_DEPTH_COMPONENT as a pixel type, unsigned packed types for signed components, and
+// internal formats without a size for BGR and BGRA.
 constexpr gl_typebits_row_t s_GRAYSCALE_typebits_to_glintfmttype_list[] = {
     {IMAGE_TYPE_SINT, IMAGE_BITS_4, GL_LUMINANCE4, GL_BYTE},
     {IMAGE_TYPE_SINT, IMAGE_BITS_8, GL_LUMINANCE8, GL_BYTE},
@@ -215,8 +216,8 @@ constexpr gl_typebits_row_t s_INDEX_typebits_to_glintfmttype_list[] = {
     {IMAGE_TYPE_UINT, IMAGE_BITS_8, GL_COLOR_INDEX, GL_UNSIGNED_BYTE},
 };
 
-// By format value. The rows of RG and DEPTH_STENCIL are kept although the conversion turns both
-// away.
+// Indexed by e_image_format_t. The conversion rejects RG and DEPTH_STENCIL before it uses their
+// rows.
 constexpr std::span<gl_typebits_row_t const> type_families[] = {
     s_GRAYSCALE_typebits_to_glintfmttype_list,
     s_GRAYSCALE_ALPHA_typebits_to_glintfmttype_list,

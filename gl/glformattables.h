@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The tables from image descriptions to OpenGL's enumerants, as data.
+// Tables from image descriptions to OpenGL enumerants.
 #pragma once
 
 #include <span>
@@ -14,8 +14,8 @@ struct gl_pixelformat_row_t {
     unsigned int glformat;
 };
 
-/// What one pair of type and bits becomes within a format family. GL_INVALID_VALUE in either of the
-/// last two columns marks a refused pair.
+/// The internal format and pixel type for a component type and size. The description is rejected if
+/// one of them is GL_INVALID_VALUE.
 struct gl_typebits_row_t {
     e_image_type_t imagetype;
     e_image_bits_t imagebits;
@@ -23,11 +23,12 @@ struct gl_typebits_row_t {
     unsigned int type;
 };
 
-/// The row of `format`, or null for a format that has none.
+/// Returns the row of `format`, or null if there is none.
 gl_pixelformat_row_t const* find_gl_pixelformat(e_image_format_t format);
 
-/// The rows of the format's family, in the order in which they are searched. YCbCr goes by the RGB
-/// rows and YCbCrA by the RGBA rows; YCbCr422 and what is no format have none.
+/// Returns the rows of `format`. The first row that matches is used. IMAGE_FORMAT_YCbCr has the
+/// rows of RGB and IMAGE_FORMAT_YCbCrA those of RGBA. Returns an empty list for
+/// IMAGE_FORMAT_YCbCr422 and for values that are no format.
 std::span<gl_typebits_row_t const> gl_typebits_rows(e_image_format_t format);
 
 }  // namespace libgr

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The system's GL utility library behind our pointers.
+// Pointers to the functions of GLU.
 #include "gl/glucalls.h"
 
 #include <GL/glu.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// GL calls that take the geometry's types, one call each; all need a current context.
+// GL calls with the types of geometry/. Each function is one GL call and needs a current context.
 #pragma once
 
 #include "geometry/color.h"
@@ -22,7 +22,7 @@ inline void grTranslate(position3_t const& p) {
 inline void grMultMatrix(matrix3w_t const& m) {
     glMultMatrixf(m.data());
 }
-/// Reads one of the current matrices, GL_MODELVIEW_MATRIX for one.
+/// Reads a matrix, for example GL_MODELVIEW_MATRIX.
 inline void grGet(GLenum pname, matrix3w_t& m) {
     glGetFloatv(pname, m.data());
 }
@@ -40,12 +40,12 @@ inline void grClearColor(color3a_t const& c) {
 inline void grLight(GLenum light, GLenum pname, color3a_t const& c) {
     glLightfv(light, pname, &c.r);
 }
-/// Places a light at a point of the current modelview space.
+/// Sets the position of a light in the coordinates of the current modelview matrix.
 inline void grLightPos(GLenum light, position3_t const& p) {
-    const vector3w_t v = Generalize(p);
+    vector3w_t const v = Generalize(p);
     glLightfv(light, GL_POSITION, &v.x);
 }
-/// The place of a light in eye coordinates.
+/// Reads the position of a light in eye coordinates.
 inline void grGetLightPos(GLenum light, vector3w_t& v) {
     glGetLightfv(light, GL_POSITION, &v.x);
 }
@@ -54,7 +54,7 @@ inline void grGetLightPos(GLenum light, position3_t& p) {
     grGetLightPos(light, v);
     p = SpecializeToPos(v);
 }
-/// The direction of a light from the eye, normalized.
+/// Reads the direction of a light from the eye as a vector of length 1.
 inline void grGetLightPos(GLenum light, direction3_t& d) {
     vector3w_t v{};
     grGetLightPos(light, v);
@@ -71,16 +71,16 @@ inline void grTexEnv(GLenum target, GLenum pname, color3a_t const& c) {
     glTexEnvfv(target, pname, &c.r);
 }
 
-/// Puts the rows of `m` into four program parameters from `index` on (ARB_vertex_program); four
-/// calls.
+/// Sets four local parameters of a vertex or fragment program, from `index` on, to the rows `m[0]`
+/// to `m[3]` (ARB_vertex_program). Makes four GL calls.
 inline void grProgramLocalParameterARB(GLenum target, GLuint index, matrix3w_t const& m) {
     for (unsigned int row = 0; row < 4; ++row) {
         glProgramLocalParameter4fvARB(target, index + row, &m[row].x);
     }
 }
 
-// Vertex arrays: `stride` is the bytes from one element to the next, 0 for none in between. OpenGL
-// keeps the pointer and reads through it in grDrawElements.
+// Vertex arrays. `stride` is the number of bytes from one element to the next, or 0 if there is no
+// padding. OpenGL keeps the pointer and reads the elements in grDrawElements.
 inline void grVertexPointer(position2_t const* pointer, int stride) {
     glVertexPointer(2, GL_FLOAT, stride, pointer);
 }

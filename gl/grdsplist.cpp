@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Making, calling and deleting GL display lists.
+// A node that draws a compiled GL display list.
 #include "gl/grdsplist.h"
 
 #include "glext/glextloader.h"
@@ -21,7 +21,7 @@ void grDspListMgr::Release() {
 }
 
 unsigned int grDspListMgr::listname() const {
-    // The number of an error stands for no name; it is part of the interface.
+    // Callers depend on this value for a missing name.
     return m_generated ? m_listname : static_cast<unsigned int>(GL_INVALID_VALUE);
 }
 
@@ -43,7 +43,7 @@ void grDspList::Unload() {
 }
 
 void grDspList::Draw() const {
-    if (m_list && m_list->generated()) {
+    if (m_list && m_list->is_generated()) {
         glCallList(m_list->listname());
     }
 }

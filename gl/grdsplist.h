@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A node that replays a compiled GL display list.
+// A node that draws a compiled GL display list.
 #pragma once
 
 #include "gl/grobject.h"
@@ -7,21 +7,22 @@
 
 namespace libgr {
 
-/// The owner of one GL display list name.
+/// Owns one GL display list name.
 class grDspListMgr {
   public:
     grDspListMgr() = default;
     grDspListMgr(grDspListMgr const&) = delete;
     grDspListMgr& operator=(grDspListMgr const&) = delete;
-    /// Deletes the list if there is one, for which it needs a current context.
+    /// Deletes the list. Needs a current context if `is_generated()` is true.
     ~grDspListMgr() { Release(); }
 
-    /// Takes a list name unless there is one. Needs a current context.
+    /// Creates a list name unless there is one. Needs a current context.
     void Generate();
-    /// Deletes the list, if there is one; a later `Generate` takes a new name.
+    /// Deletes the list. Needs a current context if `is_generated()` is true. A later `Generate`
+    /// creates a new name.
     void Release();
-    bool generated() const { return m_generated; }
-    /// The name when generated, otherwise 1281, which no list has.
+    bool is_generated() const { return m_generated; }
+    /// Returns the name, or 1281 (GL_INVALID_VALUE) if there is none.
     unsigned int listname() const;
 
   private:
@@ -29,21 +30,24 @@ class grDspListMgr {
     bool m_generated = false;
 };
 
-/// Draws what another node drew while it was compiled. Copies share one GL list; the last of them
-/// deletes it, for which it needs a current context if a list is there. Without one nothing needs a
-/// context.
+/// Draws the GL calls that another node made while the list was compiled. Copies share one GL list.
+/// The destructor of the last copy deletes the list and needs a current context if there is one.
+/// Construction and copying make no GL call.
 class grDspList : public grObject3D {
   public:
     ~grDspList() override = default;
     using grObject3D::Draw;
-    /// Calls the list; nothing before `Preload` and after `Unload`.
+    /// Calls the list. Does nothing before `Preload` and after `Unload`. Needs a current context if
+    /// there is a list.
     void Draw() const override;
 
-    /// Compiles what `object`, which may be null, draws. The calls are recorded and not run, so the
-    /// object's own checks of the GL error state see nothing of them. A second call compiles over
-    /// the same name. Always true. Needs a current context.
+    /// Compiles the GL calls that `object` makes in `Draw`. `object` may be null, which gives an
+    /// empty list, and isn't kept. The calls are not executed, so errors in them are not found
+    /// before the list is drawn. A second call replaces the list. Always returns true. Needs a
+    /// current context.
     bool Preload(grObject3D const* object);
-    /// Deletes the GL list, for all copies.
+    /// Deletes the GL list of this object and all its copies. Needs a current context if there is a
+    /// list.
     void Unload();
 
   private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The report of GL errors on the error stream.
+// Reports GL errors on the error stream.
 #include "gl/grerror.h"
 
 #include <iostream>
@@ -11,32 +11,32 @@ namespace libgr {
 
 namespace {
 
-unsigned long g_out_of_memory = 0;  // errors GL_OUT_OF_MEMORY that were reported
+unsigned long s_out_of_memory_count = 0;  // of reported errors
 
 }  // namespace
 
-grMemoryWatch::grMemoryWatch() : m_before(g_out_of_memory) {}
+grMemoryWatch::grMemoryWatch() : m_before(s_out_of_memory_count) {}
 
 bool grMemoryWatch::is_exhausted() const {
-    return g_out_of_memory != m_before;
+    return s_out_of_memory_count != m_before;
 }
 
 bool grPrintError(char const* label) {
-    const GLenum code = glGetError();
+    GLenum const code = glGetError();
     if (code == GL_NO_ERROR) {
         return false;
     }
     if (code == GL_OUT_OF_MEMORY) {
-        ++g_out_of_memory;
+        ++s_out_of_memory_count;
     }
     if (label != nullptr) {
         std::cerr << label << ": ";
     }
     {
-        const libutils::keepflag keep(std::cerr);
+        libutils::keepflag const keep(std::cerr);
         std::cerr << "Error " << std::dec << code << ": ";
     }
-    // A null text would put the stream out of order for good.
+    // A null text would set the bad bit of the stream.
     GLubyte const* text = gluErrorString(code);
     std::cerr << (text != nullptr ? text : reinterpret_cast<GLubyte const*>("unknown error"));
     libutils::error();

@@ -1,24 +1,25 @@
 // SPDX-License-Identifier: MIT
-// The one report of GL errors.
+// Reports GL errors.
 #pragma once
 
 namespace libgr {
 
-/// Takes one pending error from the GL and writes it to the error stream behind `label`, which may
-/// be null: "after Draw(): Error 1282: invalid operation". True when there was one; without one
-/// nothing is written. A further pending error stays for the next call. The code is decimal
-/// whatever the stream's mode, which stays as it was. Needs a current context, and no glBegin in
-/// force.
+/// Gets one pending GL error and prints it on the error stream after `label`, which may be null:
+/// "after Draw(): Error 1282: invalid operation". Returns true if there was an error. Otherwise
+/// prints nothing. Further errors stay pending for the next call. The code is decimal in every mode
+/// of the stream, and the mode is kept. Needs a current context. Must not be called between glBegin
+/// and glEnd.
 bool grPrintError(char const* label);
 
-/// Watches for GL_OUT_OF_MEMORY among the errors that `grPrintError` takes. Uploads return no
-/// result, and the error is no longer pending after they have reported it.
+/// Detects GL_OUT_OF_MEMORY among the errors that `grPrintError` reports. Uploads return no result,
+/// and the error isn't pending any more after they have reported it.
 class grMemoryWatch {
   public:
+    /// Starts the detection. Makes no GL call.
     grMemoryWatch();
 
-    /// Returns true if the error was reported since the construction. OpenGL's state is undefined
-    /// then, and what was made meanwhile may be incomplete.
+    /// Returns true if the error was reported since the construction. The GL state is undefined
+    /// then, and textures that were uploaded may be incomplete. Makes no GL call.
     [[nodiscard]] bool is_exhausted() const;
 
   private:

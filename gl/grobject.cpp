@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Drawing of the node tree.
+// Draws the node tree.
 #include "gl/grobject.h"
 
 #include "gl/grcalls.h"
@@ -63,7 +63,7 @@ void grTransformer::Draw() const {
 
 void grContainer::Draw() const {
     for (grObject3D const* object : m_objects) {
-        const grMatrixPusher pusher(GL_MODELVIEW);
+        grMatrixPusher const pusher(GL_MODELVIEW);
         if (object != nullptr) {
             object->Draw();
         }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The tree of drawable nodes: transforms of the current GL matrix over one child, lists of
-// children.
+// The tree of drawable nodes: nodes that transform the current GL matrix, and lists of nodes.
 #pragma once
 
 #include <vector>
@@ -12,30 +11,33 @@
 
 namespace libgr {
 
-/// Anything that draws itself.
+/// An object that draws.
 class grDrawable3D {
   public:
-    /// Draws into the current context.
+    /// Draws. Needs a current context.
     virtual void Draw() = 0;
     virtual ~grDrawable3D() = default;
 };
 
-/// Anything that draws itself without changing: the node of the scene's trees.
+/// A node of a scene tree, which doesn't change when it draws.
 ///
-/// Parents hold their children by pointer and own nothing below them. Only `Draw` makes GL calls,
-/// so nodes may be made and destroyed without a context unless their class says otherwise.
+/// Nodes have pointers to their children and don't own them: a child must outlive its parent or be
+/// removed from it. Only `Draw` makes GL calls. Nodes can be created and destroyed without a
+/// context, except grDspList (gl/grdsplist.h).
 class grObject3D : public grDrawable3D {
   public:
+    /// Calls `Draw() const`.
     void Draw() override;
     ~grObject3D() override = default;
-    /// Draws into the current context; walking a tree uses this form alone.
+    /// Draws the node and its children. Needs a current context.
     virtual void Draw() const = 0;
 };
 
-// The transform nodes below do nothing at all without a child. They don't save the matrix: their
-// effect stays for whatever is drawn after them, unless a container above bounds it.
+// The transform nodes multiply the current GL matrix before they draw their child. They don't
+// restore it, so the transform also applies to everything that is drawn later: put them into a
+// grContainer, which restores the matrix after each child. Without a child they do nothing.
 
-/// Turns its child.
+/// Rotates its child by `m_rotation` (degrees and axis).
 class grRotater : public grObject3D {
   public:
     ~grRotater() override = default;
@@ -69,10 +71,10 @@ class grZoomer : public grObject3D {
   private:
     grObject3D const* m_object = nullptr;
     direction3_t m_zoom = direction3(1.0f);
-    direction3_t m_scale = Iscale;  // what OpenGL gets; follows m_zoom from the first setting on
+    direction3_t m_scale = Iscale;  // set by addZoom and setZoom
 };
 
-/// Moves its child.
+/// Moves its child by `m_position`.
 class grTranslater : public grObject3D {
   public:
     ~grTranslater() override = default;
@@ -89,7 +91,7 @@ class grTranslater : public grObject3D {
     position3_t m_position = Ipos;
 };
 
-/// Multiplies the current matrix by its own before its child is drawn.
+/// Transforms its child by `m_matrix`.
 class grTransformer : public grObject3D {
   public:
     ~grTransformer() override = default;
@@ -102,23 +104,23 @@ class grTransformer : public grObject3D {
     grObject3D const* m_object = nullptr;
 
   public:
-    matrix3w_t m_matrix = Imtx;  ///< the scene reads and writes it in place
+    matrix3w_t m_matrix = Imtx;  ///< may be changed at any time between two draws
 };
 
-/// Draws its children in the order of adding, each under a saved modelview matrix.
+/// Draws its children in order. Saves the modelview matrix before each child and restores it after.
 class grContainer : public grObject3D {
   public:
     ~grContainer() override = default;
     using grObject3D::Draw;
     void Draw() const override;
 
-    /// Appends a child; null is allowed and draws nothing.
+    /// Appends a child, which may be null.
     void addObject(grObject3D const* object) { m_objects.push_back(object); }
-    /// The n-th child, counted from 0; null when there are no more than `n`.
+    /// Returns child `n`, counted from 0, or null if there are at most `n` children.
     grObject3D const* getObject(unsigned long n) const;
     void clear() { m_objects.clear(); }
     unsigned long size() const { return m_objects.size(); }
-    /// Cuts the list or fills it up with null.
+    /// Removes children at the end, or appends null children.
     void resize(unsigned long n) { m_objects.resize(n); }
 
   private:

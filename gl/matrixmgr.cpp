@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Matrix modes and matrix stacks, with a software overflow behind each stack.
+// Scope objects for the matrix mode and the matrix stacks.
 #include "gl/matrixmgr.h"
 
 #include <iostream>
@@ -20,7 +20,7 @@ grMatrixModeKeeper::grMatrixModeKeeper(GLenum mode) {
     if (mode == 0) {
         return;
     }
-    const GLenum current = current_mode();
+    GLenum const current = current_mode();
     if (current != mode) {
         glMatrixMode(mode);
         m_savedmode = current;
@@ -42,7 +42,7 @@ bool grMatrixPusher::grMatrixManager::canPush() const {
     return depth < m_limit;
 }
 
-void grMatrixPusher::grMatrixManager::observe_limit(bool on) {
+void grMatrixPusher::grMatrixManager::set_limit(bool on) {
     m_limit = 0;
     if (on) {
         glGetIntegerv(m_maxdepth_name, &m_limit);
@@ -98,12 +98,12 @@ void grMatrixPusher::setEnhanceMode(bool on) {
     g_enhance = on;
     for (grMatrixManager* manager :
          {&g_modelview_matrix, &g_projection_matrix, &g_texture_matrix, &g_color_matrix}) {
-        manager->observe_limit(on);
+        manager->set_limit(on);
     }
 }
 
 grMatrixPusher::grMatrixManager& grMatrixPusher::getMatrixManager(GLenum mode) {
-    const GLenum wanted = mode != 0 ? mode : current_mode();
+    GLenum const wanted = mode != 0 ? mode : current_mode();
     for (grMatrixManager* manager :
          {&g_modelview_matrix, &g_projection_matrix, &g_texture_matrix, &g_color_matrix}) {
         if (manager->mode() == wanted) {

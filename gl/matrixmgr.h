@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Scope objects: a primitive, a matrix mode, a saved matrix that may outgrow the GL's own stack.
+// Scope objects for glBegin, the matrix mode and the matrix stacks.
 #pragma once
 
 #include <vector>
@@ -9,9 +9,11 @@
 
 namespace libgr {
 
-// All of these need a current context and must end in the reverse order of their start.
+// Constructors and destructors need a current context. Destroy the objects in the reverse order of
+// their construction.
 
-/// glBegin to glEnd. Only vertex, colour and texture coordinate calls may run in between.
+/// Calls glBegin, and glEnd in the destructor. Call only vertex, colour and texture coordinate
+/// functions in between.
 class grBeginner {
   public:
     explicit grBeginner(GLenum mode) { glBegin(mode); }
@@ -20,27 +22,27 @@ class grBeginner {
     ~grBeginner() { glEnd(); }
 };
 
-/// Selects a matrix mode for its lifetime.
+/// Selects a matrix mode. The destructor restores the previous mode.
 class grMatrixModeKeeper {
   public:
-    /// Selects `mode`; 0 leaves the mode in force and queries nothing.
+    /// Selects `mode`. 0 keeps the current mode and makes no GL call.
     explicit grMatrixModeKeeper(GLenum mode);
     grMatrixModeKeeper(grMatrixModeKeeper const&) = delete;
     grMatrixModeKeeper& operator=(grMatrixModeKeeper const&) = delete;
-    /// Selects the former mode again, if another one was selected.
     ~grMatrixModeKeeper();
 
   private:
     GLenum m_savedmode = 0;
 };
 
-/// Saves the current matrix of a mode for its lifetime.
+/// Saves the current matrix of a mode. The destructor restores the matrix and then the mode.
 ///
-/// With enhancement on the nesting may go as deep as memory allows: the GL's stack is used to its
-/// last level and software takes the rest. With it off, as at the start, the GL's limit holds.
+/// Objects can be nested as deep as the GL matrix stack, often 32 levels for GL_MODELVIEW. In
+/// enhanced mode, which is off at the start, there is no limit: matrices that don't fit the GL
+/// stack are saved in memory.
 class grMatrixPusher : public grMatrixModeKeeper {
   public:
-    /// One matrix stack of the GL and its overflow.
+    /// A matrix stack of OpenGL and the matrices that don't fit it.
     class grMatrixManager {
       public:
         grMatrixManager(GLenum mode, GLenum maxdepth_name, GLenum depth_name, GLenum matrix_name)
@@ -50,13 +52,13 @@ class grMatrixPusher : public grMatrixModeKeeper {
               m_matrix_name(matrix_name) {}
 
         GLenum mode() const { return m_mode; }
-        /// Whether the GL's own stack can take a further matrix. Always true, without a query,
-        /// while no limit is observed.
+        /// Returns true if the GL stack has room for one more matrix. In enhanced mode this needs a
+        /// current context. Otherwise it returns true without a GL call.
         bool canPush() const;
 
       private:
         friend class grMatrixPusher;
-        void observe_limit(bool on);
+        void set_limit(bool on);
         void save();
         void restore();
 
@@ -64,26 +66,26 @@ class grMatrixPusher : public grMatrixModeKeeper {
         GLenum m_maxdepth_name;
         GLenum m_depth_name;
         GLenum m_matrix_name;
-        GLint m_limit = 0;  // 0: none is observed
+        GLint m_limit = 0;  // levels of the GL stack, or 0 for no limit
         std::vector<matrix3w_t> m_overflow;
     };
 
-    /// Selects `mode` and saves its matrix; 0 stands for the mode in force.
+    /// Selects `mode` and saves its matrix. 0 selects the current mode.
     explicit grMatrixPusher(GLenum mode);
-    /// Brings the matrix back, and then the matrix mode.
     ~grMatrixPusher();
 
-    /// On reads the four stacks' limits from the GL, off forgets them. Call it while no pusher
-    /// lives.
+    /// Switches enhanced mode on or off for all stacks. Call it when no grMatrixPusher exists.
+    /// Needs a current context if `on` is true.
     static void setEnhanceMode(bool on);
     static bool getEnhanceMode() { return g_enhance; }
-    /// The manager of a matrix mode, of the mode in force for 0. Another value is reported on
-    /// standard output, which stays in hexadecimal mode, and gives the modelview manager.
+    /// Returns the manager of GL_MODELVIEW, GL_PROJECTION, GL_TEXTURE or GL_COLOR. For 0, returns
+    /// the manager of the current mode and needs a current context. For another value, prints a
+    /// line on standard output, which stays in hexadecimal mode, and returns the modelview manager.
     static grMatrixManager& getMatrixManager(GLenum mode);
 
   private:
     grMatrixManager* m_manager;
-    bool m_pushed = false;  // by the GL's stack, not by software
+    bool m_pushed = false;  // true: on the GL stack, false: in memory
 
     static grMatrixManager g_modelview_matrix;
     static grMatrixManager g_projection_matrix;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The guard that keeps an image's palette in OpenGL's pixel maps while the image goes up.
+// Applies the palette of an image while the image is uploaded.
 #include "gl/palette.h"
 
 #include <limits>
@@ -20,8 +20,9 @@ constexpr plane_row_t plane_rows[] = {
     {GL_PIXEL_MAP_I_TO_B, &palette_t::blue},
 };
 
-/// A plane that had no memory in a resize holds fewer entries than the palette counts.
-bool planes_hold(palette_t const& palette) {
+/// Returns true if each plane has `palette.size` values. A plane has fewer if `resize` had no
+/// memory.
+bool has_full_planes(palette_t const& palette) {
     for (plane_row_t const& row : plane_rows) {
         if ((palette.*row.plane).count() < palette.size) {
             return false;
@@ -39,7 +40,7 @@ grPalette::~grPalette() {
 }
 
 void grPalette::Load(palette_t const& palette) {
-    if (palette.size == 0 || !planes_hold(palette)) {
+    if (palette.size == 0 || !has_full_planes(palette)) {
         return;
     }
     glPixelTransferi(GL_MAP_COLOR, 1);

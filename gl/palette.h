@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: MIT
-// The guard that keeps an image's palette in OpenGL's pixel maps while the image goes up.
+// Applies the palette of an image while the image is uploaded.
 #pragma once
 
 #include "image/image.h"
 
 namespace libgr {
 
-/// Switches GL_MAP_COLOR on for the uploads within its lifetime. Needs a current context.
+/// Makes OpenGL convert the indices of uploaded images to colours. Uploads between `Load` and the
+/// destructor use the palette.
 class grPalette {
   public:
     grPalette() = default;
     grPalette(grPalette const&) = delete;
     grPalette& operator=(grPalette const&) = delete;
-    /// Switches GL_MAP_COLOR off if a palette was loaded; the maps keep their values.
+    /// Sets GL_MAP_COLOR to 0 if a palette was loaded. The pixel maps keep their values. Needs a
+    /// current context.
     ~grPalette();
 
-    /// Sets the maps GL_PIXEL_MAP_I_TO_R, _G and _B to the planes of `palette` (`palette.size`
-    /// entries of 0 to 65535 each) and GL_MAP_COLOR to 1. An empty palette does nothing, and so
-    /// does one with planes shorter than its size.
+    /// Sets GL_MAP_COLOR to 1 and the pixel maps GL_PIXEL_MAP_I_TO_R, _G and _B to the planes of
+    /// `palette`, `palette.size` values from 0 to 65535 each. Does nothing if the palette is empty
+    /// or a plane has fewer values. Needs a current context.
     void Load(palette_t const& palette);
 
   private:

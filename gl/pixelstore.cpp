@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Image records as glPixelStore parameters, and the sizes of OpenGL's pixel formats and types.
+// Pixel store parameters (glPixelStore) from image records. Sizes of pixel formats and types.
 #include "gl/pixelstore.h"
 
 #include <initializer_list>
@@ -22,8 +22,8 @@ void set(std::initializer_list<parameter_t> parameters) {
     }
 }
 
-/// The alignment under which OpenGL packs the rows of `image`: that of the store, or else one that
-/// was set before, which is taken for the widest.
+/// Returns the alignment, in bytes, that OpenGL writes rows with. Without a valid row layout OpenGL
+/// uses an alignment that was set earlier. The largest one is returned for it.
 unsigned long long pack_alignment(image_store_t const* store) {
     constexpr unsigned int widest = 8;
     bool const valid =
@@ -86,7 +86,7 @@ bool grAllocateForPack(image2d_t& image, unsigned int pixelbytes) {
     unsigned long long const row = (image.rowlength() * pixelbytes + align - 1) / align * align;
     unsigned long long const rows = image.window.skiprows + 1ULL * image.m_height;
     unsigned long long const first = 1ULL * image.window.skippixels * pixelbytes;
-    // 32-bit counts and at most 16 bytes a pixel: only this product can leave 64 bits.
+    // With 32-bit counts and at most 16 bytes a pixel, only this product can exceed 64 bits.
     unsigned long long needed = 0;
     if (image.m_width == 0 || image.m_height == 0 || __builtin_mul_overflow(row, rows, &needed) ||
         __builtin_add_overflow(needed, first, &needed) || !image.allocate()) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How images lie in memory, told to OpenGL: glPixelStore from image records, sizes of pixel types.
+// Pixel store parameters (glPixelStore) from image records. Sizes of pixel formats and types.
 #pragma once
 
 #include <cstddef>
@@ -9,40 +9,40 @@
 
 namespace libgr {
 
-/// A parameter of glPixelStorei with a value.
+/// A parameter of glPixelStorei and its value.
 struct pixelstore_t {
     GLenum name;
     GLint value;
 };
 
-/// Gives pixel store parameters the values of a list, and puts the former values back at the end of
-/// the block. Needs a current context at both ends.
+/// Sets a list of pixel store parameters. The destructor restores their previous values. Both need
+/// a current context.
 template <std::size_t N>
 class grPixelStoreKeeper {
   public:
     explicit grPixelStoreKeeper(pixelstore_t const (&parameters)[N]) {
         for (std::size_t i = 0; i < N; ++i) {
-            m_former[i] = {parameters[i].name, 0};
-            glGetIntegerv(parameters[i].name, &m_former[i].value);
+            m_saved[i] = {parameters[i].name, 0};
+            glGetIntegerv(parameters[i].name, &m_saved[i].value);
             glPixelStorei(parameters[i].name, parameters[i].value);
         }
     }
     grPixelStoreKeeper(grPixelStoreKeeper const&) = delete;
     grPixelStoreKeeper& operator=(grPixelStoreKeeper const&) = delete;
     ~grPixelStoreKeeper() {
-        for (pixelstore_t const& parameter : m_former) {
+        for (pixelstore_t const& parameter : m_saved) {
             glPixelStorei(parameter.name, parameter.value);
         }
     }
 
   private:
-    pixelstore_t m_former[N];
+    pixelstore_t m_saved[N];
 };
 
-// Each sets the parameters named, in this order, and needs a current context. Nothing restores
-// them.
+// Each function sets the parameters in its comment, in this order. Nothing restores them. All need
+// a current context.
 
-/// GL_UNPACK_SWAP_BYTES, GL_UNPACK_ALIGNMENT; null does nothing.
+/// GL_UNPACK_SWAP_BYTES, GL_UNPACK_ALIGNMENT. Null does nothing.
 void grPixelStoreUnpack(image_store_t const* store);
 /// GL_UNPACK_SKIP_PIXELS.
 void grPixelStoreUnpack(image_window1d_t const& window);
@@ -51,7 +51,7 @@ void grPixelStoreUnpack(image_window2d_t const& window);
 /// GL_UNPACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
 void grPixelStoreUnpack(image_window3d_t const& window);
 
-/// GL_PACK_SWAP_BYTES, GL_PACK_ALIGNMENT; null does nothing.
+/// GL_PACK_SWAP_BYTES, GL_PACK_ALIGNMENT. Null does nothing.
 void grPixelStorePack(image_store_t const* store);
 /// GL_PACK_SKIP_PIXELS.
 void grPixelStorePack(image_window1d_t const& window);
@@ -60,18 +60,20 @@ void grPixelStorePack(image_window2d_t const& window);
 /// GL_PACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
 void grPixelStorePack(image_window3d_t const& window);
 
-/// Allocates an image that OpenGL is to write pixels of `pixelbytes` bytes (at most 16) into under
-/// the image's own store and window: at least `image.allocate()`, and more where the description
-/// counts fewer bytes than OpenGL writes. False for no pixels and when there is no such memory.
-/// Makes no GL call.
+/// Allocates the bytes of an image into which OpenGL will write pixels of `pixelbytes` bytes (at
+/// most 16) with the row layout (`store`) and window of the image. The image gets at least the
+/// bytes of `image.allocate()`, and more if OpenGL writes more bytes for a pixel than the
+/// description has. Returns false if the image has no pixels or there is no memory. Makes no GL
+/// call.
 bool grAllocateForPack(image2d_t& image, unsigned int pixelbytes);
 
-/// Components of a pixel format, 1 to 4; 0 for GL_STENCIL_INDEX and unknown ones.
+/// Returns the components of a pixel format, 1 to 4, or 0 for GL_STENCIL_INDEX and unknown formats.
 unsigned long grFormatToComponents(GLenum format);
-/// Bytes of one component of a pixel type, GL_BITMAP counting as 1; 0 for packed and unknown ones.
+/// Returns the bytes of one component of a pixel type, 1 for GL_BITMAP, or 0 for packed and unknown
+/// types and GL_HALF_FLOAT.
 unsigned long grTypeToSize(GLenum type);
-/// The type for components of 1, 2, 4 or 8 bytes: GL_UNSIGNED_BYTE, GL_UNSIGNED_SHORT, GL_FLOAT,
-/// GL_DOUBLE; 0 for other sizes.
+/// Returns GL_UNSIGNED_BYTE, GL_UNSIGNED_SHORT, GL_FLOAT or GL_DOUBLE for components of 1, 2, 4 or
+/// 8 bytes, or 0 for other sizes.
 GLenum grSizeToType(unsigned long size);
 
 }  // namespace libgr

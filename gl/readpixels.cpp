@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reading the frame buffer into an image.
+// Reads the frame buffer into an image.
 #include "gl/readpixels.h"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ struct source_t {
     unsigned int pixelbytes;
 };
 
-/// The viewport's rectangle of one buffer, row 0 at the bottom.
+/// Reads the rectangle of the viewport from a buffer, row 0 at the bottom.
 class frame_reader_t {
   public:
     explicit frame_reader_t(source_t const& source) : m_source(source) {
@@ -60,7 +60,7 @@ bool is_black(image2d_t const& image) {
 }  // namespace
 
 bool grReadPixelsRGB(image2d_t& image) {
-    const frame_reader_t reader(rgb_source);
+    frame_reader_t const reader(rgb_source);
     if (!reader.prepare(image)) {
         return false;
     }
@@ -72,7 +72,7 @@ bool grReadPixelsRGB(image2d_t& image) {
 }
 
 bool grReadPixelsDepth(image2d_t& image) {
-    const frame_reader_t reader(depth_source);
+    frame_reader_t const reader(depth_source);
     if (!reader.prepare(image)) {
         return false;
     }

@@ -1,22 +1,26 @@
 // SPDX-License-Identifier: MIT
-// What the window shows, read into an image.
+// Reads the frame buffer into an image.
 #pragma once
 
 #include "image/image.h"
 
 namespace libgr {
 
-/// Reads the viewport's rectangle of the front buffer, so that the image has what was shown: RGB of
-/// 8 bits, row 0 at the bottom, rows laid out by the image's own store and window.
+/// Reads the rectangle of the viewport from the front buffer, which has the picture that the window
+/// shows. The image gets the size of the viewport and RGB pixels of 8 bits, row 0 at the bottom,
+/// with its own row layout (`store`) and window. Needs a current context.
 ///
-/// Some drivers keep no front buffer that can be read and give black for it. A wholly black answer
-/// is therefore read again from the back buffer, which has the frame when it was drawn anew, and
-/// not swapped, before the call. False, with no message, when there is no memory or the viewport is
-/// empty. The read buffer stays the one read last. Needs a current context.
+/// Some drivers have no readable front buffer and return black pixels. If all pixels are black, the
+/// back buffer is read instead: to support these drivers, draw the frame again before the call and
+/// don't swap the buffers.
+///
+/// Returns false, without a message, if there is no memory or the viewport is empty. Changes
+/// GL_READ_BUFFER and the pack parameters.
 bool grReadPixelsRGB(image2d_t& image);
 
-/// Reads the depth of the same rectangle. The description says 24 bits, but a pixel takes 4 bytes,
-/// a full-range GL_UNSIGNED_INT, and the rows follow each other at that size. Fails as above.
+/// Reads the depth of the same rectangle from the front buffer. The description of the image has 24
+/// bits, but each pixel has 4 bytes: a GL_UNSIGNED_INT from 0 (near) to 2^32 - 1 (far). Rows are
+/// padded from 4 bytes a pixel. Fails as grReadPixelsRGB does. Needs a current context.
 bool grReadPixelsDepth(image2d_t& image);
 
 }  // namespace libgr

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Texture names: making, binding, filling and reading back; texture parameters.
+// Texture objects: creation, binding, upload and read-back. Texture parameters.
 #include "gl/texture.h"
 
 #include <algorithm>
@@ -86,14 +86,14 @@ void grTextureObject::clear() {
     }
 }
 
-// An entry point that the context is too old for is null; without it there is nothing to do.
+// Entry points that the context does not have are null.
 
 bool grTextureObject::isResident() const {
     grTextureMgr const* const mgr = m_mgr.get();
     if (mgr == nullptr || glAreTexturesResidentEXT == nullptr) {
         return false;
     }
-    // The GL writes its answers only where one of them is false.
+    // OpenGL writes the results only if one of them is false.
     GLboolean resident = GL_TRUE;
     glAreTexturesResidentEXT(1, &mgr->name, &resident);
     return resident == GL_TRUE;
@@ -146,8 +146,8 @@ bool image_bits_of(GLint componentbits, e_image_bits_t& bits) {
     return true;
 }
 
-/// Makes `img` the record of a level whose parameters `query` tells, without its pixels; `redtype`
-/// is the type of the level's red component.
+/// Sets the description and size of `img` to those of a mipmap level and allocates its bytes.
+/// `query` reads a parameter of the level. `redtype` receives the type of the red component.
 template <typename query_t>
 bool describe_level(query_t const& query, image2d_t& img, GLint& redtype) {
     auto const ask = [&query](GLenum pname, char const* label) {
@@ -157,8 +157,8 @@ bool describe_level(query_t const& query, image2d_t& img, GLint& redtype) {
         return value;
     };
     img.clear();
-    const GLint width = ask(GL_TEXTURE_WIDTH, "get texture level parameter (width)");
-    const GLint height = ask(GL_TEXTURE_HEIGHT, "get texture level parameter (height)");
+    GLint const width = ask(GL_TEXTURE_WIDTH, "get texture level parameter (width)");
+    GLint const height = ask(GL_TEXTURE_HEIGHT, "get texture level parameter (height)");
     img.m_width = static_cast<unsigned int>(std::max(width, 0));
     img.m_height = static_cast<unsigned int>(std::max(height, 0));
     img.desc.format = IMAGE_FORMAT_RGBA;
@@ -166,12 +166,12 @@ bool describe_level(query_t const& query, image2d_t& img, GLint& redtype) {
     if (!image_type_of(redtype, img.desc.type)) {
         return false;
     }
-    const GLint redsize = ask(GL_TEXTURE_RED_SIZE, "get texture level parameter (red_size)");
+    GLint const redsize = ask(GL_TEXTURE_RED_SIZE, "get texture level parameter (red_size)");
     if (!image_bits_of(redsize, img.desc.bits)) {
         return libutils::refuse("red size is not recognized.");
     }
     img.compressed = false;
-    // Every type that can be asked for has components of 4 bytes, however narrow the texture's are.
+    // All component types that image_type_of accepts take 4 bytes, whatever the component size.
     if (!grAllocateForPack(img, 16)) {
         return libutils::refuse("grTextureObject::GetTextureImage() img allocate fail.");
     }
@@ -182,14 +182,15 @@ bool describe_level(query_t const& query, image2d_t& img, GLint& redtype) {
 
 }  // namespace
 
-/// Whether a level of the target is one picture; of others the GL would write every slice.
-static bool is_flat(unsigned int target) {
+/// Returns true if a mipmap level of the target is one picture. For other targets OpenGL would
+/// write several pictures, past the end of the image.
+static bool is_single_picture(unsigned int target) {
     return target == GL_TEXTURE_1D || target == GL_TEXTURE_2D || target == GL_TEXTURE_RECTANGLE ||
            (target >= GL_TEXTURE_CUBE_MAP_POSITIVE_X && target <= GL_TEXTURE_CUBE_MAP_NEGATIVE_Z);
 }
 
 bool grTextureObject::GetTexImage(unsigned int target, int level, image2d_t& img) const {
-    if (!is_flat(target)) {
+    if (!is_single_picture(target)) {
         img.clear();
         return false;
     }
@@ -210,7 +211,7 @@ bool grTextureObject::GetTextureImage(int level, image2d_t& img) const {
         img.clear();
         return false;
     }
-    const GLuint name = mgr->name;
+    GLuint const name = mgr->name;
     auto const query = [name, level](GLenum pname, GLint* value) {
         glGetTextureLevelParameteriv(name, level, pname, value);
     };
@@ -257,7 +258,6 @@ void grTexParameter(texparameter2d_t const* parameter) {
                             {GL_TEXTURE_MAG_FILTER, parameter->magfilter},
                             {GL_TEXTURE_WRAP_S, parameter->wrap_s},
                             {GL_TEXTURE_WRAP_T, parameter->wrap_t}});
-        // Unlike the forms below, this one sets it whether or not the extension is there.
         set_anisotropy(GL_TEXTURE_2D, parameter->anisotropy);
     }
 }

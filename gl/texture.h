@@ -1,6 +1,28 @@
 // SPDX-License-Identifier: MIT
-// Textures: the images' side and the name's side of the class family, and the texture parameters.
+// Texture classes, texture objects with their GL names, and texture parameters.
 #pragma once
+
+/// Makes a texture of a picture and draws with it. The order of calls is: set the images, call
+/// `Preload` once, and call `Load` before and `Unload` after each use.
+///
+/// ```cpp
+/// #include "gl/texture2d.h"
+///
+/// void draw_picture(libgr::image2d_t const& picture) {
+///     libgr::grTexture2D images;
+///     images.setImage(picture, 0, 0);
+///     images.setBuildMipmap(true);
+///     libgr::grTextureObject texture;
+///     texture.Preload(&images);  // uploads the pixels
+///     texture.Load();            // binds the texture
+///     // ... draw ...
+///     texture.Unload();
+/// }
+/// ```
+///
+/// Call everything in this library from the thread of the GL context. Each function says if it
+/// needs a current context. `gl_extloader_init` (glext/glextloader.h) must have been called.
+/// gl/glformat.h lists the image descriptions that can become textures.
 
 #include "geometry/color.h"
 #include "image/image.h"
@@ -8,85 +30,104 @@
 
 namespace libgr {
 
-/// Anything that can become the texture in force.
+/// The base of image sets and texture objects.
 class grTexturable {
   public:
-    /// 1, 2 or 3, and 6 for a cube map.
+    /// Returns 1, 2 or 3, and 6 for a cube map. Makes no GL call.
     virtual unsigned long Dimension() const = 0;
+    /// Uploads the images, or binds the texture object. Needs a current context.
     virtual void Load() const = 0;
+    /// Uploads the pixels again. Needs a current context. The default calls `Load`.
     virtual void Reload() const;
     virtual ~grTexturable() = default;
 };
 
-/// Images of a texture, without a GL name.
+/// The images of a texture, without a GL name.
 class grTexturableImage : public grTexturable {};
 
-/// Images that upload themselves into whatever texture is bound to their target.
+/// Images that are uploaded into the texture that is bound to their target.
 class grTexturableImageGL : public grTexturableImage {
   public:
-    /// The GL internal format of the first image, GL_INVALID_VALUE if it has none.
+    /// Returns the GL internal format of the first image, or GL_INVALID_VALUE if there is none.
+    /// Makes no GL call.
     virtual unsigned int GetInternalFormat() const = 0;
 };
 
-/// A GL name that images can be put into.
+/// A texture with a GL name.
 class grTexturableObject : public grTexturable {
   public:
+    /// Returns true if the texture has been created. Makes no GL call.
     virtual bool isPreload() const = 0;
+    /// Unbinds the texture. Needs a current context.
     virtual void Unload() const = 0;
 };
 
-/// The owner of one GL texture name.
+/// Owns one GL texture name.
 struct grTextureMgr {
     grTextureMgr() = default;
     grTextureMgr(grTextureMgr const&) = delete;
     grTextureMgr& operator=(grTextureMgr const&) = delete;
-    /// Deletes the texture if there is one, for which it needs a current context.
+    /// Deletes the texture. Needs a current context if `created` is true.
     ~grTextureMgr();
 
     unsigned int name = 0;
     bool created = false;
 };
 
-/// A texture with its GL name. Copies share the name; the last of them deletes the texture, for
-/// which it needs a current context. An object that was never preloaded needs none.
+/// A texture object. Copies share one GL name. The destructor of the last copy deletes the texture
+/// and needs a current context if `isPreload()` is true.
 ///
-/// Nothing of the pixels is cached and nothing tracks their change: an upload happens exactly when
-/// `Preload` or `Reload` is called. The members that make GL calls need a current context.
+/// The object doesn't copy pixels and doesn't notice their change. Pixels are uploaded by `Preload`
+/// and `Reload` only. Uploads return no result: failures are printed on the error stream, and
+/// grMemoryWatch (gl/grerror.h) detects GL_OUT_OF_MEMORY.
 class grTextureObject : public grTexturableObject {
   public:
+    /// Makes no GL call.
     grTextureObject();
     grTextureObject(grTextureObject const&) = default;
     grTextureObject& operator=(grTextureObject const&) = default;
     ~grTextureObject() override = default;
 
-    /// Makes the texture, if it isn't there, binds it and uploads `image`, which isn't owned and
-    /// must outlive this object. A second call keeps the name and uploads again.
+    /// Creates the texture unless this object has one, binds it, and uploads `image`. Needs a
+    /// current context. `image` isn't owned and must outlive this object. The texture stays bound.
     void Preload(grTexturableImageGL const* image);
 
-    /// The dimension of the target; 0 before `Preload`.
+    /// Returns the dimension of the target, or 0 before `Preload`. Makes no GL call.
     unsigned long Dimension() const override;
-    /// Binds the texture for drawing, and enables its target before OpenGL 3.0. Uploads nothing.
+    /// Binds the texture. Before OpenGL 3.0 it also enables the target. Uploads nothing. Does
+    /// nothing before `Preload`. Needs a current context.
     void Load() const override;
-    /// Replaces the pixels of the texture, whose size must have stayed.
+    /// Binds the texture and uploads the pixels of the image again. The images must have the sizes
+    /// that they had in `Preload`. Does nothing before `Preload`. Needs a current context.
     void Reload() const override;
     bool isPreload() const override { return m_preloaded; }
-    /// Binds nothing to the target, and disables it before OpenGL 3.0.
+    /// Binds texture 0 to the target. Before OpenGL 3.0 it also disables the target. Does nothing
+    /// before `Preload`. Needs a current context.
     void Unload() const override;
-    /// Gives up this share of the texture; the object is empty afterwards.
+    /// Releases this object's share of the texture and empties the object. Needs a current context
+    /// if this is the last copy.
     void clear();
 
-    /// Whether the GL holds the texture resident (EXT_texture_object).
+    /// Returns true if the texture is resident (EXT_texture_object), false without the extension.
+    /// Needs a current context.
     bool isResident() const;
-    /// Binds a level to an image unit (OpenGL 4.2); `access` as for glBindImageTexture.
+    /// Binds a mipmap level to an image unit with the `access` of glBindImageTexture. Does nothing
+    /// before OpenGL 4.2. Needs a current context.
     void BindImage(unsigned int unit, int level, unsigned int access) const;
+    /// Unbinds an image unit. Does nothing before OpenGL 4.2. Needs a current context.
     void UnbindImage(unsigned int unit) const;
 
-    /// Reads a level of the texture that is bound to `target` into `img`, as RGBA. False when the
-    /// type of the red component is unknown, in silence, and when its size is unknown or there is
-    /// no memory, with a line on the error stream. `img` has at least the bytes that its
-    /// description asks for, and more where the GL delivers wider components.
+    /// Reads mipmap level `level` of the texture bound to `target` into `img`, row 0 at the bottom,
+    /// as RGBA with the component type of the texture's red component. The target is GL_TEXTURE_1D,
+    /// GL_TEXTURE_2D, GL_TEXTURE_RECTANGLE or a cube map face. Needs a current context.
+    ///
+    /// OpenGL writes 4 bytes for each component, even if `img.desc` has fewer bits: `img` has at
+    /// least 16 bytes for each pixel. Returns false if the target or the component type is not
+    /// supported. Prints a line and returns false if the component size is not supported or there
+    /// is no memory.
     bool GetTexImage(unsigned int target, int level, image2d_t& img) const;
-    /// The same of this object's own texture, whatever is bound (OpenGL 4.5).
+    /// Does the same for this object's texture, without binding it. Returns false before OpenGL
+    /// 4.5. Needs a current context.
     bool GetTextureImage(int level, image2d_t& img) const;
 
   private:
@@ -96,8 +137,8 @@ class grTextureObject : public grTexturableObject {
     grTexturableImageGL const* m_image = nullptr;
 };
 
-// Texture parameters, with the values of glTexParameter. Who holds one keeps a pointer to it, so
-// they are usually constants.
+// Texture parameters, with the values of glTexParameter. The texture classes keep a pointer to the
+// record that they are given, so make it a constant or let it outlive the texture class.
 
 struct texparameter1d_t {
     unsigned int minfilter;
@@ -144,18 +185,23 @@ constexpr texparameter3d_t texparameter3d(unsigned int minfilter, unsigned int m
     return {minfilter, magfilter, wrap_s, wrap_t, wrap_r, anisotropy};
 }
 
-/// Apply a record to the texture bound now to the record's target; null does nothing. The 2-D form
-/// sets the anisotropy without asking for the extension, the cube map's and the 3-D form ask.
+/// Sets the parameters of the texture that is bound to the record's target. Null does nothing.
+/// Needs a current context.
+///
+/// The 2-D function sets the anisotropy without a test for EXT_texture_filter_anisotropic; without
+/// the extension OpenGL reports GL_INVALID_ENUM. The cube map and 3-D functions test for it.
 void grTexParameter(texparameter1d_t const* parameter);
 void grTexParameter(texparameter2d_t const* parameter);
 void grTexParameter(texparametercubemap_t const* parameter);
 void grTexParameter(texparameter3d_t const* parameter);
-/// Sets the border colour of the texture bound to `target`; null does nothing.
+/// Sets the border colour of the texture that is bound to `target`. Null does nothing. Needs a
+/// current context.
 void grTexParameter(unsigned int target, color3a_t const* color);
 
-/// The target of textures of 1, 2 or 3 dimensions and, for 6, of cube maps; else GL_INVALID_VALUE.
+/// Returns the target of textures of 1, 2 or 3 dimensions, or of cube maps for 6. Returns
+/// GL_INVALID_VALUE for other numbers.
 unsigned int grTextureDimToEnum(unsigned long dim);
-/// The inverse; 0 for any other target.
+/// Returns the dimensions of a target, 6 for a cube map, or 0 for any other target.
 unsigned long grTextureEnumToDim(unsigned int target);
 
 }  // namespace libgr

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The images of a cube map and the ways of getting them into it.
+// The images of a cube map and their upload.
 #include "gl/texturecubemap.h"
 
 #include <algorithm>
@@ -21,39 +21,39 @@ GLenum face_target(unsigned long face) {
     return s_gl_cube_map_targets[face];
 }
 
-/// Storage of the level's side and pixels that go to level 0, whatever the level.
-void upload_given_face(GLenum target, gl_loading_format_t const& terms, image2d_t const& image,
-                       unsigned long i, unsigned int size, bool border) {
+/// Allocates a face of level `i`, and uploads the pixels to level 0 for every level.
+void upload_single_face(GLenum target, gl_loading_format_t const& glformat, image2d_t const& image,
+                        unsigned long i, unsigned int size, bool border) {
     auto const level = static_cast<GLint>(i);
     bool const bordered = i == 0 && border;
     if (image.compressed) {
-        upload_compressed(target, level, terms, image, 0);
+        upload_compressed(target, level, glformat, image, 0);
         return;
     }
-    tex_image(target, level, terms, square_extent(image, bordered_side(size, bordered)),
+    tex_image(target, level, glformat, square_extent(image, bordered_side(size, bordered)),
               bordered ? 1 : 0, nullptr);
-    tex_sub_image(target, 0, terms, extent_of(image), image.begin());
+    tex_sub_image(target, 0, glformat, extent_of(image), image.begin());
 }
 
-/// A face of level 0 for the routes that have the driver generate the rest.
-void upload_face(GLenum target, gl_loading_format_t const& terms, image2d_t const& image,
+/// Uploads a face of level 0 if OpenGL generates the other levels.
+void upload_face(GLenum target, gl_loading_format_t const& glformat, image2d_t const& image,
                  unsigned int size) {
     if (image.compressed) {
-        upload_compressed(target, 0, terms, image, 0);
+        upload_compressed(target, 0, glformat, image, 0);
     } else if (size == 0) {
-        tex_image(target, 0, terms, extent_of(image), 0, image.begin());
+        tex_image(target, 0, glformat, extent_of(image), 0, image.begin());
     } else {
-        upload_into(square_extent(image, power_of_two_side(size)), target, 0, terms, image, 0);
+        upload_into(square_extent(image, power_of_two_side(size)), target, 0, glformat, image, 0);
     }
 }
 
-void build_face(GLenum target, gl_loading_format_t const& terms, image2d_t const& image) {
+void build_face(GLenum target, gl_loading_format_t const& glformat, image2d_t const& image) {
     grPrintError("after-unpack_window_subset");
     if (image.compressed) {
         report_no_compressed_mipmaps();
-        upload_compressed(target, 0, terms, image, 0);
+        upload_compressed(target, 0, glformat, image, 0);
     } else {
-        upload_by_glu(target, terms, image);
+        upload_by_glu(target, glformat, image);
         grPrintError("after-gluBuild2DMipmaps");
     }
 }
@@ -82,39 +82,39 @@ void grTextureCubeMap::Load() const {
     grPalette palette;
     load_palette(palette, m_images[0]);
     if (!m_buildmipmap) {
-        load_given_levels();
+        load_single_levels();
     } else if (!load_base_level()) {
         return;
     }
     grTexParameter(m_texparameter);
 }
 
-void grTextureCubeMap::load_given_levels() const {
+void grTextureCubeMap::load_single_levels() const {
     for (unsigned long i = 0; i < m_images.size() / face_count * face_count; ++i) {
-        if (auto const terms = resolve(m_images[i], m_internalcompression)) {
-            unpack(m_images[i]);
-            upload_given_face(face_target(i % face_count), *terms, m_images[i], i / face_count,
-                              m_size, m_border);
+        if (auto const glformat = upload_format(m_images[i], m_internalcompression)) {
+            set_unpack_state(m_images[i]);
+            upload_single_face(face_target(i % face_count), *glformat, m_images[i], i / face_count,
+                               m_size, m_border);
         }
     }
 }
 
 bool grTextureCubeMap::load_base_level() const {
-    auto const first = resolve(m_images[0], m_internalcompression);
+    auto const first = upload_format(m_images[0], m_internalcompression);
     if (!first) {
         return false;
     }
     auto const each_face = [this](auto const& upload) {
         for (unsigned long face = 0; face < std::min(face_count, m_images.size()); ++face) {
-            if (auto const terms = resolve(m_images[face], m_internalcompression)) {
-                unpack(m_images[face]);
-                upload(face_target(face), *terms, m_images[face]);
+            if (auto const glformat = upload_format(m_images[face], m_internalcompression)) {
+                set_unpack_state(m_images[face]);
+                upload(face_target(face), *glformat, m_images[face]);
             }
         }
     };
-    auto const upload = [this](GLenum target, gl_loading_format_t const& terms,
+    auto const upload = [this](GLenum target, gl_loading_format_t const& glformat,
                                image2d_t const& image) {
-        upload_face(target, terms, image, m_size);
+        upload_face(target, glformat, image, m_size);
     };
     switch (mipmap_route(first->internalformat, is_GL_VERSION_3_0_supported != 0)) {
         case mipmap_route_t::gl3:

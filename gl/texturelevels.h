@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the texture images with mipmap levels have in common: the records and how they are to go up.
+// The base of the texture classes that have mipmap levels.
 #pragma once
 
 #include <span>
@@ -15,7 +15,7 @@
 
 namespace libgr {
 
-/// The longest side of a record in pixels.
+/// Returns the longest side, in pixels, of an image.
 inline unsigned int longest_side(image1d_t const& image) {
     return image.m_width;
 }
@@ -26,27 +26,34 @@ inline unsigned int longest_side(image3d_t const& image) {
     return libutils::max2(libutils::max2(image.m_width, image.m_height), image.m_depth);
 }
 
-/// Image records and upload settings of a texture whose levels are of type `image_t`.
+/// The images and upload settings of a texture with mipmap levels of type `image_t`.
 ///
-/// The records share their bytes with the caller's. Parameter record and border colour are not
-/// owned and must outlive the object; null leaves OpenGL's values alone.
+/// The images share their bytes with the images of the caller. They can have at most
+/// `libutils::limits::texture_images` levels (faces, for a cube map): more are reported on the
+/// error stream and ignored. No member makes a GL call, except `Load` and `Reload` of the derived
+/// classes.
 template <typename image_t, typename parameter_t>
 class grTexturableLevels : public grTexturableImageGL {
   public:
-    /// Passes the alpha-only compression wish on to the format conversion.
+    /// Compresses textures of GL_ALPHA in texture memory. Other formats are never compressed.
     void setInternalCompression(bool compress) { m_internalcompression = compress; }
-    /// Has the levels below level 0 generated.
+    /// Generates the mipmap levels 1 and up from level 0.
     void setBuildMipmap(bool build) { m_buildmipmap = build; }
-    /// Gives the texture a border of one pixel.
+    /// Gives the texture a border of one texel.
     void setBorder(bool border) { m_border = border; }
+    /// Sets the parameters that `Load` applies. They aren't owned and must outlive this object.
+    /// Null applies none.
     void setTextureParameter(parameter_t const* parameter) { m_texparameter = parameter; }
+    /// Sets the border colour that `Load` applies. It isn't owned and must outlive this object.
+    /// Null applies none.
     void setBorderColor(color3a_t const* color) { m_bordercolor = color; }
 
-    /// Drops the image records; the other settings stay, and so does what is in the OpenGL texture.
+    /// Removes the images. The settings and the contents of the GL texture stay.
     void clear() { m_images.clear(); }
 
-    /// The internal format of the first image, its own `compressed` field asking for compression;
-    /// GL_INVALID_VALUE when it has none or there is no image.
+    /// Returns the internal format of the first image, or GL_INVALID_VALUE if there is no image or
+    /// its description is not supported. The `compressed` field of the image decides about
+    /// compression here, not `setInternalCompression`: callers depend on it.
     unsigned int GetInternalFormat() const override {
         return m_images.empty() ? GL_INVALID_VALUE
                                 : internal_format_of(m_images[0].desc, m_images[0].compressed);
@@ -55,7 +62,7 @@ class grTexturableLevels : public grTexturableImageGL {
   protected:
     static constexpr unsigned long max_image_count = libutils::limits::texture_images.value;
 
-    /// Makes the vector exactly `first + images.size()` long and puts the images at its end.
+    /// Sets the images from index `first` on and removes all later ones.
     void replace_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
         if (first >= max_image_count) {
             libutils::report_limit(libutils::limits::texture_images);
@@ -64,7 +71,7 @@ class grTexturableLevels : public grTexturableImageGL {
         m_images.resize(first + images.size());
         assign_at(first, images, size);
     }
-    /// Makes the vector at least `first + images.size()` long and puts the images at `first`.
+    /// Sets the images from index `first` on and keeps all later ones.
     void overwrite_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
         if (first >= max_image_count) {
             libutils::report_limit(libutils::limits::texture_images);
@@ -77,7 +84,7 @@ class grTexturableLevels : public grTexturableImageGL {
     }
 
     std::vector<image_t> m_images;
-    unsigned int m_size = 0;  ///< 0: textures of the image's size; else what the side comes from
+    unsigned int m_size = 0;  ///< 0, or the side in texels that the texture must have at least
     bool m_internalcompression = false;
     bool m_buildmipmap = false;
     bool m_border = false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one image of a rectangle texture.
+// The image of a rectangle texture and its upload.
 #include "gl/texturerectangle.h"
 
 #include "gl/glformat.h"
@@ -37,14 +37,14 @@ void grTextureRectangle::send(bool reload) const {
     grPixelStoreKeeper const state(initial_unpack_state);
     grPalette palette;
     load_palette(palette, m_image);
-    auto const terms = resolve_in_initial_state(m_image, m_image.compressed);
-    if (!terms) {
+    auto const glformat = upload_format_in_initial_state(m_image, m_image.compressed);
+    if (!glformat) {
         return;
     }
     if (reload) {
-        tex_sub_image(GL_TEXTURE_RECTANGLE, 0, *terms, extent_of(m_image), m_image.begin());
+        tex_sub_image(GL_TEXTURE_RECTANGLE, 0, *glformat, extent_of(m_image), m_image.begin());
     } else {
-        tex_image(GL_TEXTURE_RECTANGLE, 0, *terms, extent_of(m_image), 0, m_image.begin());
+        tex_image(GL_TEXTURE_RECTANGLE, 0, *glformat, extent_of(m_image), 0, m_image.begin());
     }
     grTexParameter(m_texparameter);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one image of a rectangle texture.
+// The image of a rectangle texture and its upload.
 #pragma once
 
 #include "gl/texture.h"
@@ -10,26 +10,31 @@ namespace libgr {
 /// The image of a GL_TEXTURE_RECTANGLE, row 0 at the bottom, without mipmaps, border or
 /// compression.
 ///
-/// OpenGL reads the pixels with its initial unpack state, which takes rows as padded to 4 bytes.
-/// The record's window and store have no effect. The former state is put back. A record whose bytes
-/// end before what OpenGL would read is reported and left out.
+/// OpenGL reads the pixels with its initial unpack parameters: from the first byte on, each row
+/// padded to a multiple of 4 bytes. The window and the row layout (`store`) of the image have no
+/// effect. The unpack parameters are restored after the upload. An image with an unsupported
+/// description, or with fewer bytes than OpenGL would read, is reported on the error stream and not
+/// uploaded.
 class grTextureRectangle : public grTexturableImageGL {
   public:
     void setImage(image2d_t const& image) { m_image = image; }
-    /// Not owned; null leaves OpenGL's values alone. It is applied to GL_TEXTURE_2D.
+    /// Sets the parameters that `Load` and `Reload` apply to the texture bound to GL_TEXTURE_2D.
+    /// They aren't owned and must outlive this object. Null applies none.
     void setTextureParameter(texparameter2d_t const* parameter) { m_texparameter = parameter; }
-    /// Clears the image; what is in the OpenGL texture stays.
+    /// Removes the image. The contents of the GL texture stay.
     void clear() { m_image.clear(); }
 
-    /// GL_INVALID_VALUE without an image and for one that OpenGL has no terms for.
+    /// Returns GL_INVALID_VALUE if there is no image or its description is not supported.
     unsigned int GetInternalFormat() const override;
-    /// 2, so that a grTextureObject binds GL_TEXTURE_2D although the upload addresses the
-    /// rectangle.
+    /// Returns 2, so a grTextureObject binds GL_TEXTURE_2D, while `Load` uploads to the texture
+    /// that is bound to GL_TEXTURE_RECTANGLE. The mismatch is kept because callers depend on it:
+    /// bind your own name to GL_TEXTURE_RECTANGLE and call `Load` directly.
     unsigned long Dimension() const override { return 2; }
-    /// Creates storage and pixels in the texture bound to GL_TEXTURE_RECTANGLE. An image without
-    /// bytes does nothing. Needs a current context.
+    /// Allocates the texture that is bound to GL_TEXTURE_RECTANGLE and uploads the pixels. Does
+    /// nothing for an image without bytes. Needs a current context.
     void Load() const override;
-    /// Sends the pixels into storage of the same size. Needs a current context.
+    /// Uploads the pixels again into the allocated texture, which must have the size of the image.
+    /// Needs a current context.
     void Reload() const override;
 
   private:

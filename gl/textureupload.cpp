@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The steps of a texture upload that all texture targets share.
+// Steps of a texture upload that the texture classes share.
 #include "gl/textureupload.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 
 #include "gl/grerror.h"
 #include "gl/pixelstore.h"
-#include "gl/unpackreach.h"
+#include "gl/unpackbounds.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
 
@@ -20,28 +20,28 @@ constexpr auto max_gl_int = static_cast<unsigned int>(std::numeric_limits<GLint>
 constexpr GLenum sgis_internalformats[] = {GL_RGB5, GL_RGB8, GL_RGBA8, GL_BGR,
                                            GL_BGRA, GL_RGB,  GL_RGBA};
 
-/// `read` is the record as OpenGL reads it.
+/// `read` returns the image as OpenGL reads it.
 template <typename image_t, typename read_t>
-std::optional<gl_loading_format_t> resolve_if_read_within(image_t const& image, bool compress,
-                                                          read_t const& read) {
-    gl_loading_format_t terms{};
-    if (image.size() == 0 || !grConvertImageFormatToGlFormatFULL(&terms, image.desc, compress)) {
+std::optional<gl_loading_format_t> upload_format_if_within(image_t const& image, bool compress,
+                                                           read_t const& read) {
+    gl_loading_format_t glformat{};
+    if (image.size() == 0 || !grConvertImageFormatToGlFormatFULL(&glformat, image.desc, compress)) {
         return std::nullopt;
     }
-    if (!reads_within(read(image), terms)) {
+    if (!is_read_within_bytes(read(image), glformat)) {
         grReportUnsupportedImage(image.desc);
         return std::nullopt;
     }
-    return terms;
+    return glformat;
 }
 
 template <typename image_t>
-std::optional<gl_loading_format_t> resolve_image(image_t const& image, bool compress) {
-    return resolve_if_read_within(image, compress,
-                                  [](image_t const& record) { return as_read(record); });
+std::optional<gl_loading_format_t> upload_format_of(image_t const& image, bool compress) {
+    return upload_format_if_within(image, compress,
+                                   [](image_t const& record) { return as_unpacked(record); });
 }
 
-void log_line(char const* name, unsigned int value) {
+void print_value(char const* name, unsigned int value) {
     std::cerr << name << value << std::endl;
 }
 
@@ -67,65 +67,66 @@ mipmap_route_t mipmap_route(GLenum internalformat, bool has_gl3) {
                                                                : mipmap_route_t::glu;
 }
 
-std::optional<gl_loading_format_t> resolve(image1d_t const& image, bool compress) {
-    return resolve_image(image, compress);
+std::optional<gl_loading_format_t> upload_format(image1d_t const& image, bool compress) {
+    return upload_format_of(image, compress);
 }
-std::optional<gl_loading_format_t> resolve(image2d_t const& image, bool compress) {
-    return resolve_image(image, compress);
+std::optional<gl_loading_format_t> upload_format(image2d_t const& image, bool compress) {
+    return upload_format_of(image, compress);
 }
-std::optional<gl_loading_format_t> resolve(image3d_t const& image, bool compress) {
-    return resolve_image(image, compress);
-}
-
-std::optional<gl_loading_format_t> resolve_in_initial_state(image2d_t const& image, bool compress) {
-    return resolve_if_read_within(image, compress, as_read_in_initial_state);
+std::optional<gl_loading_format_t> upload_format(image3d_t const& image, bool compress) {
+    return upload_format_of(image, compress);
 }
 
-void unpack(image1d_t const& image) {
+std::optional<gl_loading_format_t> upload_format_in_initial_state(image2d_t const& image,
+                                                                  bool compress) {
+    return upload_format_if_within(image, compress, as_unpacked_in_initial_state);
+}
+
+void set_unpack_state(image1d_t const& image) {
     grPixelStoreUnpack(image.store);
     grPixelStoreUnpack(image.window);
 }
-void unpack(image2d_t const& image) {
+void set_unpack_state(image2d_t const& image) {
     grPixelStoreUnpack(image.store);
     grPixelStoreUnpack(image.window);
 }
-void unpack(image3d_t const& image) {
+void set_unpack_state(image3d_t const& image) {
     grPixelStoreUnpack(image.store);
     grPixelStoreUnpack(image.window);
 }
 
-void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                extent_t<1> const& extent, GLint border, void const* pixels) {
-    glTexImage1D(target, level, static_cast<GLint>(terms.internalformat), extent[0], border,
-                 terms.format, terms.type, pixels);
+    glTexImage1D(target, level, static_cast<GLint>(glformat.internalformat), extent[0], border,
+                 glformat.format, glformat.type, pixels);
 }
-void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                extent_t<2> const& extent, GLint border, void const* pixels) {
-    glTexImage2D(target, level, static_cast<GLint>(terms.internalformat), extent[0], extent[1],
-                 border, terms.format, terms.type, pixels);
+    glTexImage2D(target, level, static_cast<GLint>(glformat.internalformat), extent[0], extent[1],
+                 border, glformat.format, glformat.type, pixels);
 }
-void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                extent_t<3> const& extent, GLint border, void const* pixels) {
-    // Null in a context without EXT_texture3D, like the next one.
     if (glTexImage3DEXT != nullptr) {
-        glTexImage3DEXT(target, level, terms.internalformat, extent[0], extent[1], extent[2],
-                        border, terms.format, terms.type, pixels);
+        glTexImage3DEXT(target, level, glformat.internalformat, extent[0], extent[1], extent[2],
+                        border, glformat.format, glformat.type, pixels);
     }
 }
 
-void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                    extent_t<1> const& extent, void const* pixels) {
-    glTexSubImage1D(target, level, 0, extent[0], terms.format, terms.type, pixels);
+    glTexSubImage1D(target, level, 0, extent[0], glformat.format, glformat.type, pixels);
 }
-void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                    extent_t<2> const& extent, void const* pixels) {
-    glTexSubImage2D(target, level, 0, 0, extent[0], extent[1], terms.format, terms.type, pixels);
+    glTexSubImage2D(target, level, 0, 0, extent[0], extent[1], glformat.format, glformat.type,
+                    pixels);
 }
-void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                    extent_t<3> const& extent, void const* pixels) {
     if (glTexSubImage3DEXT != nullptr) {
-        glTexSubImage3DEXT(target, level, 0, 0, 0, extent[0], extent[1], extent[2], terms.format,
-                           terms.type, pixels);
+        glTexSubImage3DEXT(target, level, 0, 0, 0, extent[0], extent[1], extent[2], glformat.format,
+                           glformat.type, pixels);
     }
 }
 
@@ -160,23 +161,23 @@ void report_no_compressed_mipmaps() {
               << std::endl;
 }
 
-void check_square_storage(gl_loading_format_t const& terms, bool border) {
+void check_square_storage(gl_loading_format_t const& glformat, bool border) {
     if (grPrintError("before-tex-sub-image2d")) {
-        log_line("internalformat: ", terms.internalformat);
-        log_line("m_border: ", border ? 1 : 0);
-        log_line("format: ", terms.format);
-        log_line("type: ", terms.type);
+        print_value("internalformat: ", glformat.internalformat);
+        print_value("m_border: ", border ? 1 : 0);
+        print_value("format: ", glformat.format);
+        print_value("type: ", glformat.type);
     }
 }
 
-void check_square_pixels(gl_loading_format_t const& terms, unsigned int side, GLsizei width,
+void check_square_pixels(gl_loading_format_t const& glformat, unsigned int side, GLsizei width,
                          GLsizei height) {
     if (grPrintError("after-tex-sub-image2d")) {
-        log_line("real_max: ", side);
-        log_line("m_width: ", static_cast<unsigned int>(width));
-        log_line("m_height: ", static_cast<unsigned int>(height));
-        log_line("format: ", terms.format);
-        log_line("type: ", terms.type);
+        print_value("real_max: ", side);
+        print_value("m_width: ", static_cast<unsigned int>(width));
+        print_value("m_height: ", static_cast<unsigned int>(height));
+        print_value("format: ", glformat.format);
+        print_value("type: ", glformat.type);
     }
 }
 

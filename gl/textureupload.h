@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The steps of a texture upload that all texture targets share. For the texture classes alone.
+// Steps of a texture upload that the texture classes share. Not for users of the library.
 #pragma once
 
 #include <array>
@@ -15,7 +15,7 @@
 
 namespace libgr {
 
-/// The sides of a level in texels: width, then height, then depth.
+/// The sides of a level in texels, in the order width, height, depth.
 template <std::size_t N>
 using extent_t = std::array<GLsizei, N>;
 
@@ -30,44 +30,47 @@ inline extent_t<3> extent_of(image3d_t const& image) {
             static_cast<GLsizei>(image.m_depth)};
 }
 
-/// The smallest power of two that is at least `side`, and 0 for 0. Bits 0 to 30 of `side` count.
+/// Returns the smallest power of two that is at least `side`, or 0 for 0. Bit 31 is ignored.
 unsigned int power_of_two_side(unsigned int side);
 
-/// The side of the texture that pictures of up to `size` texels a side, borders included, go into:
-/// a power of two, plus 2 with a border.
+/// Returns the side, in texels, of a square texture for images of up to `size` texels a side,
+/// border included. It is a power of two, plus 2 if there is a border.
 unsigned int bordered_side(unsigned int size, bool border);
 
-/// Square storage for a level, in place of storage of the image's own size.
-struct square_t {
-    bool used;
-    unsigned int side;
+/// The texture memory of a level, if it is a square instead of the size of the image.
+struct square_storage_t {
+    bool is_used;
+    unsigned int side;  ///< texels
     GLint border;
 };
 
-/// Where the levels below level 0 come from.
+/// The generator of the levels 1 and up: glGenerateMipmap, SGIS_generate_mipmap or GLU.
 enum class mipmap_route_t { gl3, sgis, glu };
 
-/// The first route that the context and the internal format allow; `has_gl3` tells whether the
-/// target goes by glGenerateMipmap at all.
+/// Returns the first route that the context and the internal format support. `has_gl3` is true if
+/// the context and the texture class support glGenerateMipmap. Makes no GL call.
 mipmap_route_t mipmap_route(GLenum internalformat, bool has_gl3);
 
-/// The terms in which an image goes up, or nothing when the image has to be left out: one without
-/// bytes silently, one that OpenGL has no terms for or whose bytes end before what OpenGL would
-/// read with a report. The unpack state that decides is that of the image and, where `unpack` sets
-/// nothing, that of the context.
-std::optional<gl_loading_format_t> resolve(image1d_t const& image, bool compress);
-std::optional<gl_loading_format_t> resolve(image2d_t const& image, bool compress);
-std::optional<gl_loading_format_t> resolve(image3d_t const& image, bool compress);
-/// The same for an upload in OpenGL's initial unpack state that treats compressed bytes as pixels.
-std::optional<gl_loading_format_t> resolve_in_initial_state(image2d_t const& image, bool compress);
+/// Returns the formats to upload an image with, or nothing if the image must be skipped. An image
+/// without bytes is skipped without a report. An image with an unsupported description, or with
+/// fewer bytes than OpenGL would read after set_unpack_state, is reported on the error stream.
+/// Needs a current context.
+std::optional<gl_loading_format_t> upload_format(image1d_t const& image, bool compress);
+std::optional<gl_loading_format_t> upload_format(image2d_t const& image, bool compress);
+std::optional<gl_loading_format_t> upload_format(image3d_t const& image, bool compress);
+/// Does the same for an upload with OpenGL's initial unpack parameters that ignores `compressed`.
+/// Makes no GL call.
+std::optional<gl_loading_format_t> upload_format_in_initial_state(image2d_t const& image,
+                                                                  bool compress);
 
-/// Sets the unpack parameters from store and window. Nothing is ever restored, and without a store
-/// the alignment of the image before holds.
-void unpack(image1d_t const& image);
-void unpack(image2d_t const& image);
-void unpack(image3d_t const& image);
+/// Sets the unpack parameters to the row layout (`store`) and window of an image. They are never
+/// restored. An image without a row layout uses the byte order and alignment of the image before
+/// it. Needs a current context.
+void set_unpack_state(image1d_t const& image);
+void set_unpack_state(image2d_t const& image);
+void set_unpack_state(image3d_t const& image);
 
-/// Loads the palette of an index image.
+/// Loads the palette of an image if its format is IMAGE_FORMAT_INDEX. Needs a current context.
 template <typename image_t>
 void load_palette(grPalette& palette, image_t const& image) {
     if (image.desc.format == IMAGE_FORMAT_INDEX) {
@@ -75,18 +78,19 @@ void load_palette(grPalette& palette, image_t const& image) {
     }
 }
 
-// One OpenGL call each, by the number of sides.
-void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+// Each makes one OpenGL call and needs a current context. The 3-D functions do nothing if the
+// context has no EXT_texture3D.
+void tex_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                extent_t<1> const& extent, GLint border, void const* pixels);
-void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                extent_t<2> const& extent, GLint border, void const* pixels);
-void tex_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                extent_t<3> const& extent, GLint border, void const* pixels);
-void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                    extent_t<1> const& extent, void const* pixels);
-void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                    extent_t<2> const& extent, void const* pixels);
-void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& terms,
+void tex_sub_image(GLenum target, GLint level, gl_loading_format_t const& glformat,
                    extent_t<3> const& extent, void const* pixels);
 void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
                           extent_t<1> const& extent, GLint border,
@@ -97,42 +101,43 @@ void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
 void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
                           extent_t<3> const& extent, GLint border,
                           std::span<unsigned char const> bytes);
-/// Reports a compressed image that the context has no entry points for.
+/// Reports a compressed image on the error stream, in a context without ARB_texture_compression.
 void report_no_compression();
-/// Reports a compressed image whose lower levels can't be built.
+/// Reports a compressed image for which no mipmaps can be generated on the error stream.
 void report_no_compressed_mipmaps();
 
-/// The two checkpoints of an upload into a larger square, before and after the pixels: the values
-/// of the calls follow a reported error.
-void check_square_storage(gl_loading_format_t const& terms, bool border);
-void check_square_pixels(gl_loading_format_t const& terms, unsigned int side, GLsizei width,
+/// Report a GL error before and after the pixels are uploaded into a square, followed by the
+/// arguments of the calls. Need a current context.
+void check_square_storage(gl_loading_format_t const& glformat, bool border);
+void check_square_pixels(gl_loading_format_t const& glformat, unsigned int side, GLsizei width,
                          GLsizei height);
 
 template <typename image_t>
-void upload_compressed(GLenum target, GLint level, gl_loading_format_t const& terms,
+void upload_compressed(GLenum target, GLint level, gl_loading_format_t const& glformat,
                        image_t const& image, GLint border) {
     if (is_GL_ARB_texture_compression_supported != 0) {
-        compressed_tex_image(target, level, terms.internalformat, extent_of(image), border,
+        compressed_tex_image(target, level, glformat.internalformat, extent_of(image), border,
                              {image.begin(), image.size()});
     } else {
         report_no_compression();
     }
 }
 
-/// All levels from pixels by way of GLU.
+/// Uploads all levels of an image that is not compressed with GLU. Needs a current context.
 template <typename image_t>
-void upload_by_glu(GLenum target, gl_loading_format_t const& terms, image_t const& image) {
-    if (!build_mipmaps(target, terms, image)) {
+void upload_by_glu(GLenum target, gl_loading_format_t const& glformat, image_t const& image) {
+    if (!build_mipmaps(target, glformat, image)) {
         grReportUnsupportedImage(image.desc);
     }
 }
 
-/// Storage of `storage` texels, the image in its lower left corner.
+/// Allocates a level of `storage` texels and uploads the image into its lower left corner. Needs a
+/// current context.
 template <std::size_t N, typename image_t>
 void upload_into(extent_t<N> const& storage, GLenum target, GLint level,
-                 gl_loading_format_t const& terms, image_t const& image, GLint border) {
-    tex_image(target, level, terms, storage, border, nullptr);
-    tex_sub_image(target, level, terms, extent_of(image), image.begin());
+                 gl_loading_format_t const& glformat, image_t const& image, GLint border) {
+    tex_image(target, level, glformat, storage, border, nullptr);
+    tex_sub_image(target, level, glformat, extent_of(image), image.begin());
 }
 
 template <typename image_t>
@@ -142,53 +147,55 @@ auto square_extent(image_t const& image, unsigned int side) {
     return extent;
 }
 
-/// Level 0 with its storage: compressed bytes as they are, pixels at their own size (`size` 0) or
-/// in the corner of a square. Uploads of two and more sides look for OpenGL errors around the
-/// latter.
+/// Allocates and uploads level 0. The level has the size of the image if `size` is 0 or the image
+/// is compressed. Otherwise it is a square with the image in its lower left corner, and for 2-D and
+/// 3-D textures GL errors are reported before and after its pixels. Needs a current context.
 template <typename image_t>
-void full_upload(GLenum target, gl_loading_format_t const& terms, image_t const& image,
-                 unsigned int size, bool border) {
+void upload_base_level(GLenum target, gl_loading_format_t const& glformat, image_t const& image,
+                       unsigned int size, bool border) {
     auto const extent = extent_of(image);
     if (image.compressed) {
-        upload_compressed(target, 0, terms, image, border);
+        upload_compressed(target, 0, glformat, image, border);
     } else if (size == 0) {
-        tex_image(target, 0, terms, extent, border, image.begin());
+        tex_image(target, 0, glformat, extent, border, image.begin());
     } else {
         unsigned int const side = bordered_side(size, border);
         if constexpr (extent.size() == 1) {
-            upload_into(square_extent(image, side), target, 0, terms, image, border);
+            upload_into(square_extent(image, side), target, 0, glformat, image, border);
         } else {
-            tex_image(target, 0, terms, square_extent(image, side), border, nullptr);
-            check_square_storage(terms, border);
-            tex_sub_image(target, 0, terms, extent, image.begin());
-            check_square_pixels(terms, side, extent[0], extent[1]);
+            tex_image(target, 0, glformat, square_extent(image, side), border, nullptr);
+            check_square_storage(glformat, border);
+            tex_sub_image(target, 0, glformat, extent, image.begin());
+            check_square_pixels(glformat, side, extent[0], extent[1]);
         }
     }
 }
 
-/// Levels 1 and up, which override what was generated for them.
+/// Allocates and uploads the levels 1 and up. They replace the generated levels. Needs a current
+/// context.
 template <typename image_t>
-void upload_upper_levels(GLenum target, std::span<image_t const> images, bool compress, bool border,
-                         square_t const& square) {
+void upload_higher_levels(GLenum target, std::span<image_t const> images, bool compress,
+                          bool border, square_storage_t const& square) {
     for (std::size_t i = 1; i < images.size(); ++i) {
-        auto const terms = resolve(images[i], compress);
-        if (!terms) {
+        auto const glformat = upload_format(images[i], compress);
+        if (!glformat) {
             continue;
         }
         auto const level = static_cast<GLint>(i);
-        unpack(images[i]);
+        set_unpack_state(images[i]);
         if (images[i].compressed) {
-            upload_compressed(target, level, *terms, images[i], border);
-        } else if (square.used) {
-            upload_into(square_extent(images[i], square.side), target, level, *terms, images[i],
+            upload_compressed(target, level, *glformat, images[i], border);
+        } else if (square.is_used) {
+            upload_into(square_extent(images[i], square.side), target, level, *glformat, images[i],
                         square.border);
         } else {
-            tex_image(target, level, *terms, extent_of(images[i]), 0, images[i].begin());
+            tex_image(target, level, *glformat, extent_of(images[i]), 0, images[i].begin());
         }
     }
 }
 
-/// Has the driver generate the lower levels from whatever `upload` puts into level 0.
+/// Makes OpenGL generate the levels 1 and up from level 0, which `upload` uploads. Needs a current
+/// context.
 template <typename upload_t>
 void generate_by_sgis(GLenum target, upload_t const& upload) {
     glTexParameteri(target, GL_GENERATE_MIPMAP_SGIS, 1);

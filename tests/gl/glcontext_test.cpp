@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tests against a real context: what was drawn, pushed and stored comes back.
+// Tests of read-back, matrices, textures and errors on a real context.
 #include "tests/support/gl/glcontext.h"
 
 #include <deque>
@@ -16,7 +16,7 @@ using namespace libgr;
 
 namespace {
 
-using Context = gl_context_test;
+using GlContext = gl_context_test;
 
 struct red_lower_half_t : grObject3D {
     using grObject3D::Draw;
@@ -26,8 +26,8 @@ struct red_lower_half_t : grObject3D {
     }
 };
 
-TEST_F(Context, ReadsWhatTheWindowShows) {
-    const red_lower_half_t half;
+TEST_F(GlContext, ReadsTheShownAndTheDrawnFrame) {
+    red_lower_half_t const half;
     grDspList list;
     list.Preload(&half);
     grTransformer upside_down;
@@ -35,7 +35,7 @@ TEST_F(Context, ReadsWhatTheWindowShows) {
     upside_down.setObject(&list);
     grContainer root;
     root.addObject(&upside_down);
-    for (bool const swapped : {true, false}) {  // shown, or drawn anew and not shown yet
+    for (bool const swapped : {true, false}) {  // shown, or drawn but not swapped
         grClearColor(color3a(0, 0, swapped ? 1.0F : 0.2F, 1));
         glClear(GL_COLOR_BUFFER_BIT);
         root.Draw();
@@ -44,16 +44,17 @@ TEST_F(Context, ReadsWhatTheWindowShows) {
         }
         image2d_t image;
         ASSERT_TRUE(grReadPixelsRGB(image));
-        ASSERT_TRUE(image.m_width == window_size && image.m_height == window_size);
+        ASSERT_EQ(image.m_width, unsigned{window_size});
+        ASSERT_EQ(image.m_height, unsigned{window_size});
         EXPECT_EQ(pixel_row(image, 0)[2], swapped ? 255 : 51);
         EXPECT_EQ(pixel_row(image, window_size - 1)[0], 255);
         ASSERT_TRUE(grReadPixelsDepth(image));
     }
 }
 
-TEST_F(Context, MatricesNestBeyondTheStacks) {
+TEST_F(GlContext, MatricesNestBeyondTheStacks) {
     grMatrixPusher::setEnhanceMode(true);
-    glGetError();  // without the imaging subset there is no colour matrix to ask about
+    glGetError();  // without ARB_imaging, the query of the colour matrix causes an error
     std::deque<grMatrixPusher> nest;
     for (int depth = 0; depth < 40; ++depth) {
         nest.emplace_back(GL_MODELVIEW);
@@ -77,8 +78,8 @@ struct floats_t : grTexturableImageGL {
     }
 };
 
-TEST_F(Context, TexturesComeBack) {
-    const floats_t source;
+TEST_F(GlContext, TexturesAreReadBack) {
+    floats_t const source;
     grTextureObject texture;
     texture.Preload(&source);
     image2d_t bound, own;
@@ -92,7 +93,7 @@ TEST_F(Context, TexturesComeBack) {
     EXPECT_FALSE(texture.GetTextureImage(9, own));
 }
 
-TEST_F(Context, ErrorsAndLightsComeBack) {
+TEST_F(GlContext, ErrorsAreReportedAndLightsAreReadBack) {
     capture_t console;
     glEnable(0x9999);
     EXPECT_TRUE(grPrintError("glEnable"));

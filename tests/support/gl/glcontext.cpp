@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Window and context of the tests that need real OpenGL.
+// The window and context of tests that need real OpenGL.
 #include "tests/support/gl/glcontext.h"
 
 #define GLFW_INCLUDE_NONE
@@ -13,8 +13,8 @@
 
 namespace {
 
-/// Keeps the libraries that are loaded now, the GL driver's among them, to the end of the process:
-/// what a driver holds in its globals would look like a leak of ours once it is unloaded.
+/// Keeps the loaded libraries, such as the GL driver, until the end of the process. The leak
+/// checker would report the memory of the globals of an unloaded driver.
 void keep_libraries() {
     dl_iterate_phdr(
         [](dl_phdr_info* library, std::size_t, void*) {

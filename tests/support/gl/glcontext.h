@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// A real OpenGL context for tests: a hidden window with all entry points resolved.
+// A real OpenGL context for tests, with all entry points loaded.
 #pragma once
 
 #include <gtest/gtest.h>
 
 struct GLFWwindow;
 
-/// Tests that derive from it run with the context of a hidden window of 64 by 64 pixels, a fresh
-/// one for each test suite. Without DISPLAY they are skipped; with one, a missing context is a
-/// failure.
+/// The base of tests that need the context of a hidden window of 64 by 64 pixels. Each test suite
+/// has its own window. Without DISPLAY the tests are skipped. With DISPLAY, a missing context fails
+/// them.
 class gl_context_test : public ::testing::Test {
   public:
     static constexpr int window_size = 64;
@@ -18,7 +18,7 @@ class gl_context_test : public ::testing::Test {
 
   protected:
     void SetUp() override;
-    /// No GL error may be left over.
+    /// Fails if a GL error is pending.
     void TearDown() override;
 
     static void swap_buffers();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table of stand-ins: each entry point with the kinds of its arguments and its answer.
+// The table of replacements: each entry point with the kinds of its arguments and its answer.
 #include "tests/support/gl/glrecorder.h"
 
 #include <algorithm>
@@ -15,8 +15,8 @@ namespace {
 
 gl_recorder_t* g_recorder = nullptr;
 
-/// The names by value, the first that the header of the enumerants gives, but for these. Some stand
-/// as numbers in the transcripts on file.
+/// Returns the names by value: the first name of each value in the header, except for these. Some
+/// values are numbers in the expectation files.
 std::map<GLenum, std::string> read_names() {
 #define NAMED(value) {value, #value}
     std::map<GLenum, std::string> names = {
@@ -40,10 +40,10 @@ std::map<GLenum, std::string> const& names() {
     return table;
 }
 
-/// The line of one call in the making.
+/// The line of a call, while it is built.
 struct line_t {
     std::ostringstream text;
-    GLint count = 0;  // the last signed integer: how many names follow
+    GLint count = 0;  // the last signed integer: the number of names that follow
 
     void put(char kind, GLuint value) {
         if (kind == 'b' && value < 2) {
@@ -81,12 +81,12 @@ struct line_t {
         text << (pointer == nullptr ? "null" : "ptr");
     }
     template <typename T>
-    requires(!std::is_const_v<T>) void put(char kind, T* out) {  // the call writes there
+    requires(!std::is_const_v<T>) void put(char kind, T* out) {  // the function writes there
         put(kind, static_cast<void const*>(out));
     }
 };
 
-/// The stand-in of the entry point `Slot`; `other` is what isn't in the slot now.
+/// The replacement of the entry point `Slot`. `other` is the function that isn't in use.
 template <auto& Slot, typename Answer, typename F = std::remove_cvref_t<decltype(Slot)>>
 struct stand_in_t;
 template <auto& Slot, typename Answer, typename R, typename... A>
@@ -134,7 +134,7 @@ void give(auto const& answers, GLenum name, auto* out) {
     }
 }
 
-/// Gives the values of the name before the last argument.
+/// Returns the values of the name that is the argument before the last.
 struct give_values_t {
     void operator()(GLenum name, GLint* out) const { give(g_recorder->integers, name, out); }
     void operator()(GLenum name, GLfloat* out) const { give(g_recorder->floats, name, out); }
@@ -144,14 +144,14 @@ constexpr auto give_pixels = [](GLint, GLint, GLsizei, GLsizei, GLenum, GLenum, 
     give(g_recorder->pixels, g_recorder->read_buffer, static_cast<unsigned char*>(out));
 };
 constexpr auto give_string = [](GLenum name) {
-    const auto found = g_recorder->strings.find(name);
+    auto const found = g_recorder->strings.find(name);
     return found == g_recorder->strings.end()
                ? nullptr
-               : reinterpret_cast<const GLubyte*>(found->second.c_str());
+               : reinterpret_cast<GLubyte const*>(found->second.c_str());
 };
 constexpr auto give_error = [] {
     g_recorder->errors.push_back(GL_NO_ERROR);
-    const GLenum error = g_recorder->errors.front();
+    GLenum const error = g_recorder->errors.front();
     g_recorder->errors.pop_front();
     return error;
 };
@@ -174,16 +174,19 @@ constexpr auto fill_texture = [](auto...) {
 constexpr auto keep_mode = [](GLenum mode) {
     g_recorder->integers[GL_MATRIX_MODE] = {static_cast<GLint>(mode)};
 };
+constexpr auto keep_parameter = [](GLenum name, GLint value) {
+    g_recorder->integers[name] = {value};
+};
 constexpr auto keep_buffer = [](GLenum buffer) { g_recorder->read_buffer = buffer; };
 constexpr auto keep_viewport = [](GLint x, GLint y, GLsizei w, GLsizei h) {
     g_recorder->integers[GL_VIEWPORT] = {x, y, w, h};
 };
 
-// The kinds of arguments in order: e an integer that is an enumerant, m a primitive, b a blend
-// factor, M 16 floats; all else goes by its type.
+// The kinds of arguments in order: e is an integer that is an enumerant, m a primitive, b a blend
+// factor, M 16 floats. Other arguments are printed by their type.
 #define GROUP(kinds, answer, ...) group<__VA_ARGS__>(kinds, answer, #__VA_ARGS__)
 void swap_all() {
-    static const std::vector<swap_t> groups[] = {
+    static std::vector<swap_t> const groups[] = {
         GROUP("", nullptr, glActiveTexture, glActiveTextureARB, glAreTexturesResidentEXT,
               glBindImageTexture, glBindProgramARB, glBindTexture, glBlendEquationEXT, glCallList,
               glClear, glClearColor, glClearDepth, glClientActiveTextureARB, glColor4fv,
@@ -192,7 +195,7 @@ void swap_all() {
               glDisable, glDisableClientState, glEnable, glEnableClientState, glEnd, glEndList,
               glFrontFace, glGenerateMipmap, glGetTexImage, glGetTextureImage, glHint, glLightfv,
               glLoadIdentity, glMaterialf, glMaterialfv, glMultiTexCoord3f, glNewList, glNormal3f,
-              glOrtho, glPixelMapusv, glPixelStorei, glPixelTransferi, glPolygonMode, glPopMatrix,
+              glOrtho, glPixelMapusv, glPixelTransferi, glPolygonMode, glPopMatrix,
               glProgramLocalParameter4fARB, glProgramLocalParameter4fvARB, glProgramStringARB,
               glPushMatrix, glRotatef, glScalef, glShadeModel, glTexCoord2f, glTexCoordPointer,
               glTexEnvf, glTexEnvfv, glTexImage3DEXT, glTexParameterf, glTexParameterfv,
@@ -215,11 +218,12 @@ void swap_all() {
         GROUP("", give_string, glGetString, libgr::gluErrorString),
         GROUP("", give_pixels, glReadPixels),
         GROUP("", keep_mode, glMatrixMode),
+        GROUP("", keep_parameter, glPixelStorei),
         GROUP("", keep_buffer, glReadBuffer),
         GROUP("", keep_viewport, glViewport),
     };
     for (auto const& group : groups) {
-        for (const swap_t swap : group) {
+        for (swap_t const swap : group) {
             swap();
         }
     }
@@ -237,7 +241,7 @@ gl_recorder_t::gl_recorder_t() {
                 {GL_VIEWPORT, {0, 0, 640, 480}},
                 {GL_MAX_TEXTURE_SIZE, {16384}},
                 {GL_MAX_VIEWPORT_DIMS, {16384, 16384}}};
-    const std::vector<GLfloat> identity = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    std::vector<GLfloat> const identity = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
     floats = {{GL_MODELVIEW_MATRIX, identity}, {GL_PROJECTION_MATRIX, identity}};
     strings = {{GL_OUT_OF_MEMORY, "out of memory"},
                {GL_INVALID_ENUM, "invalid enumerant"},

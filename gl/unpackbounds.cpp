@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Which of a record's bytes OpenGL reads when the record goes up.
-#include "gl/unpackreach.h"
+// The bytes of an image that OpenGL reads in an upload.
+#include "gl/unpackbounds.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr auto max_gl_int = static_cast<unsigned int>(std::numeric_limits<GLint>::max());
 
-/// OpenGL's alignments, by the logarithm.
+/// The valid alignments, indexed by their logarithm.
 constexpr image_store_t stores[] = {{false, 1}, {false, 2}, {false, 4}, {false, 8}};
 constexpr image_store_t const& initial_store = stores[2];
 
@@ -23,7 +23,8 @@ bool is_alignment(unsigned int bytes) {
     return bytes <= 8 && libutils::Is_2nSize(bytes);
 }
 
-/// OpenGL keeps its alignment where a store is missing or names none of OpenGL's.
+/// Returns the alignment that OpenGL uses. OpenGL keeps its alignment if the image has none or if
+/// it is invalid.
 image_store_t const* effective_store(image_store_t const* store) {
     if (store != nullptr && is_alignment(store->alignment)) {
         return store;
@@ -47,7 +48,7 @@ image3d_t make_read(image_bytes_t const& bytes, image_store_t const* store,
     return read;
 }
 
-/// OpenGL turns larger values down, and then reads by older ones.
+/// OpenGL rejects larger values and keeps the values of an earlier upload.
 bool fits_parameters(image3d_t const& read) {
     auto const& window = read.window;
     return std::ranges::all_of(
@@ -59,14 +60,14 @@ bool fits_parameters(image3d_t const& read) {
 
 }  // namespace
 
-image3d_t as_read(image1d_t const& image) {
+image3d_t as_unpacked(image1d_t const& image) {
     image3d_t read =
         make_read(image, image.store, {0, 0, image.window.skippixels, 0, 0}, image.m_width, 1, 1);
     read.compressed = image.compressed;
     return read;
 }
 
-image3d_t as_read(image2d_t const& image) {
+image3d_t as_unpacked(image2d_t const& image) {
     auto const& window = image.window;
     image3d_t read =
         make_read(image, image.store, {window.rowlength, 0, window.skippixels, window.skiprows, 0},
@@ -75,21 +76,21 @@ image3d_t as_read(image2d_t const& image) {
     return read;
 }
 
-image3d_t as_read(image3d_t const& image) {
+image3d_t as_unpacked(image3d_t const& image) {
     image3d_t read = image;
     read.store = effective_store(image.store);
     return read;
 }
 
-image3d_t as_read_in_initial_state(image2d_t const& image) {
+image3d_t as_unpacked_in_initial_state(image2d_t const& image) {
     return make_read(image, &initial_store, {}, image.m_width, image.m_height, 1);
 }
 
-unsigned long long read_bits(gl_loading_format_t const& terms) {
-    // GL_INTENSITY is no pixel format of OpenGL's, but some driver may read it as one component.
+unsigned long long unpacked_pixel_bits(gl_loading_format_t const& glformat) {
+    // GL_INTENSITY is no valid pixel format, but a driver may read it as one component.
     unsigned long long const components =
-        terms.format == GL_INTENSITY ? 1 : grFormatToComponents(terms.format);
-    switch (terms.type) {
+        glformat.format == GL_INTENSITY ? 1 : grFormatToComponents(glformat.format);
+    switch (glformat.type) {
         case GL_UNSIGNED_BYTE_2_3_3_REV:
             return 8;
         case GL_UNSIGNED_SHORT_5_6_5_REV:
@@ -104,19 +105,19 @@ unsigned long long read_bits(gl_loading_format_t const& terms) {
         case GL_HALF_FLOAT:
             return components * 16;
         default:
-            return components * grTypeToSize(terms.type) * 8;
+            return components * grTypeToSize(glformat.type) * 8;
     }
 }
 
-bool reads_within(image3d_t const& read, gl_loading_format_t const& terms) {
+bool is_read_within_bytes(image3d_t const& read, gl_loading_format_t const& glformat) {
     if (read.compressed) {
         return read.size() <= max_gl_int;
     }
-    unsigned long long const bits = read_bits(terms);
+    unsigned long long const bits = unpacked_pixel_bits(glformat);
     return bits == 0 || (fits_parameters(read) && pixels_within(read, bits));
 }
 
-read_span_t span_of(image3d_t const& read, unsigned long long bits) {
+byte_range_t byte_range_of(image3d_t const& read, unsigned long long bits) {
     auto const& window = read.window;
     auto const length = [](unsigned int own, unsigned int wider) {
         return wider != 0 ? wider : own;
