@@ -2,23 +2,26 @@
 // The parser for the Exif block in the APP1 segment of a JPEG file.
 #pragma once
 
-/// Reads the orientation from the payload of an APP1 segment:
+/// Reads the orientation of a JPEG file, with the parser of its markers in codecs/jpeginfo.h:
 ///
 /// ```cpp
+/// #include "codecs/jpeginfo.h"
 /// #include "metadata/exif.h"
 ///
-/// unsigned int orientation_of(libgr::jpeg_bytes_t const& payload) {
-///     libgr::app1_marker_t app1;
-///     app1.set_app1_buffer(payload);
-///     auto const& orientation = app1.tiff_header.tag_0th_ifd.Orientation;
-///     return app1.parse() && !orientation.empty() ? orientation[0] : 1;
+/// libgr::jpegdata_t file;
+/// libgr::jpeginfo_t info;
+/// libgr::app1_marker_t app1;
+/// if (file.load("a.jpg", nullptr) && info.analyze_markers(file)) {
+///     app1.set_app1_buffer(info.get_marker(libgr::MARKER_APP1));
 /// }
+/// auto const& values = app1.tiff_header.tag_0th_ifd.Orientation;
+/// unsigned int const orientation = app1.parse() && !values.empty() ? values[0] : 1;
 /// ```
 ///
-/// `jpeginfo_t::get_marker(MARKER_APP1)` in codecs/jpeginfo.h returns the payload. The order of
-/// calls is `set_app1_buffer`, `parse`, and `clear` before the next payload. `parse` reads the tags
-/// that metadata/exiftype.h has members for, and the notes of these makers (all others are
-/// ignored):
+/// The orientation is 1 for an upright picture, and 3, 6 or 8 for a rotated one
+/// (codecs/orientation.h). The order of calls is `set_app1_buffer`, `parse`, and `clear` before the
+/// next payload. `parse` reads the tags that have members in metadata/exiftype.h, and the notes of
+/// these makers. The notes of other makers are ignored.
 ///
 ///   Make, in any case       Note begins with     Function              Offsets are relative to
 ///   OLYMPUS...              OLYMP, or any text   parse_olympus_ifd     the TIFF block

@@ -17,7 +17,6 @@ namespace libutils {
 /// libutils::file_descriptor_t const file(open("/etc/hostname", O_RDONLY | O_CLOEXEC));
 /// char text[64];
 /// bool const is_read = file.is_open() && read(file.get(), text, sizeof text) > 0;
-/// static_cast<void>(is_read);
 /// ```
 class file_descriptor_t {
   public:

@@ -11,10 +11,9 @@
 /// bytes_t file;
 /// bool const is_loaded = file.load(0, "a.jpg", libutils::PROTECTION_READ, 0, false, nullptr);
 /// if (is_loaded && file.size() >= 2) {
-///     bytes_t tail = file;           // shares the mapping
+///     bytes_t tail = file;  // shares the mapping
 ///     tail.offset = file.size() - 2;
 ///     bool const is_complete = tail[0] == 0xFF && tail[1] == 0xD9;
-///     static_cast<void>(is_complete);
 /// }
 /// ```
 ///
