@@ -25,12 +25,9 @@ constexpr std::pair<char const*, char const*> path_rows[] = {
     {"/a/b/", "/a/b/|||/a/b/||"},
     {"/a.d/c", "/a.d/|c||/a.d/|c|"},
     {".hidden", "|||||.hidden"},
-    {"", "|||||"},
     {"c:\\x/y.z", "c:\\x/|y|c:|\\x/|y|.z"},
-    {"x/y\\z.w", "x/y\\|z||x/y\\|z|.w"},
     {"a:b:c.d", "|a:b:c|a:||b:c|.d"},
     {"/\xFF\xC3/\x80.jpg", "/\xFF\xC3/|\x80||/\xFF\xC3/|\x80|.jpg"},
-    {"a/b.\xE5\xAF", "a/|b||a/|b|.\xE5\xAF"},
     {"\xC3\xA4.\xE5\xAF\xBA/\xC3\xB6.png",
      "\xC3\xA4.\xE5\xAF\xBA/|\xC3\xB6||\xC3\xA4.\xE5\xAF\xBA/|\xC3\xB6|.png"}};
 
@@ -57,28 +54,24 @@ TEST(Path, SplitsInEveryLocale) {
 TEST(Path, CutsPartsToTheSizeOfTheBuffer) {
     ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
     std::string const run(2000, 'n');
-    using row_t = std::tuple<std::string, std::size_t, std::string, std::string>;
+    using row_t = std::tuple<char const*, std::size_t, std::string, std::string>;
     for (auto const& [path, size, directory, stem] :
-         {row_t{"/ab/cd.e", 9, "/ab/", "cd"}, row_t{"/ab/cd.e", 6, "/ab/", "cd"},
-          row_t{"/ab/cd.e", 3, "/", "ab"}, row_t{"/ab/cd.e", 0, "", ""},
-          row_t{"\xC3\xA4\xC3\xB6x", 3, "", "\xC3\xA4"},  // whole characters
-          row_t{"d/" + run + ".e", 1023, "d/", std::string(1021, 'n')},
-          row_t{run + "\xFF", 1023, "", std::string(1023, 'n')}}) {
-        for (bool const base : {true, false}) {
-            std::string buffer(size + 8, '~'), expected = base ? stem : directory;
-            std::size_t const length = base ? basename(buffer.data(), path.c_str(), size)
-                                            : dirname(buffer.data(), path.c_str(), size);
-            expected.resize(std::min(length + 1, size), '\0');
-            expected.resize(size + 8, '~');
-            EXPECT_EQ(buffer, expected) << path << ' ' << size;
-        }
+         {row_t{"/ab/cd.e", 9, {"/ab/\0", 5}, {"cd\0", 3}},
+          row_t{"/ab/cd.e", 3, {"/\0", 2}, {"ab\0", 3}}, row_t{"/ab/cd.e", 0, "", ""},
+          row_t{"/abc", 4, {"/\0", 2}, {"abc\0", 4}}, row_t{"abc", 3, {"\0", 1}, "abc"},
+          row_t{"\xC3\xA4\xC3\xB6x", 3, {"\0", 1}, {"\xC3\xA4\0", 3}}}) {
+        std::string buffer(12, '~');
+        EXPECT_EQ(basename(buffer.data(), path, size), std::strlen(stem.c_str())) << path << size;
+        EXPECT_EQ(buffer, stem + std::string(12 - stem.size(), '~')) << path << size;
+        buffer.assign(12, '~');
+        EXPECT_EQ(dirname(buffer.data(), path, size), std::strlen(directory.c_str()));
+        EXPECT_EQ(buffer, directory + std::string(12 - directory.size(), '~')) << path << size;
     }
     splitpath_t parts;
-    for (std::string const& path : {run, run + ":" + run + "/" + run + "." + run}) {
-        split(parts, path.c_str());
-        EXPECT_EQ(std::string(parts.name), run.substr(0, 1023));
+    split(parts, (run + ":" + run + "/" + run + "." + run).c_str());
+    for (char const* part : {parts.drive, parts.dir, parts.name, parts.ext}) {
+        EXPECT_EQ(std::strlen(part), 1023U);
     }
-    EXPECT_EQ(strlen(parts.drive) + strlen(parts.dir) + strlen(parts.ext), 3 * 1023U);
 }
 
 TEST(Path, ReplacesTheExtensionAndCutsOnlyTheStem) {
