@@ -108,8 +108,9 @@ class refvector2 {
     /// loads all bytes from `offset` to the end; an empty file gives an empty array. If `path` is
     /// null, allocates `number` new elements.
     ///
-    /// `offset` must be a multiple of the page size. `prot` says if the elements, and with them the
-    /// file, may be written to. `app` may be null.
+    /// `offset` must be a multiple of the page size. With PROTECTION_READWRITE, writing to the
+    /// elements changes the file. With PROTECTION_READ, writing to them raises SIGSEGV. `app` may
+    /// be null.
     ///
     /// If `keep` is false, the handle is emptied first. If `keep` is true and `number` isn't 0, the
     /// old elements overwrite the start of the new block, and so of the mapped file. This fails for
@@ -121,8 +122,8 @@ class refvector2 {
                       unsigned long long offset, bool keep, android_app* app);
 
     /// Changes the number of elements for all handles on the block. Without a block, allocates one.
-    /// `offset` is the byte in the file at which a writable file mapping starts
-    /// afterwards.
+    /// For a writable file mapping, `offset` is the byte of the file at which the new mapping
+    /// starts.
     ///
     /// Returns false if there isn't enough memory, and then nothing changes. Returns false for 0
     /// elements, too, but the block is then empty.

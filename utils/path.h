@@ -30,8 +30,8 @@ std::string basename(std::string const& path);
 /// Writes the result of `basename` to `dst`, which has `size` bytes. Returns the number of bytes
 /// without the NUL. If it is `size`, there is no NUL at the end.
 ///
-/// Only the first `size` characters of `src` are used, so the result for a longer path is that for
-/// its start. Whole characters are written.
+/// A path of more than `size` characters is first cut to `size` characters, and then split. The
+/// result contains only whole characters.
 std::size_t basename(char* dst, char const* src, std::size_t size);
 
 /// Returns the directory with its separator: "/a/b/" for "/a/b/c.jpg", and "" for "c.jpg".
