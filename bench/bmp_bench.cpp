@@ -12,6 +12,7 @@
 
 #include "codecs/bmpimage2.h"
 #include "image/image.h"
+#include "utils/filedescriptor.h"
 
 namespace {
 
@@ -67,11 +68,10 @@ void load_bmp(benchmark::State& state) {
 void bare_map(benchmark::State& state) {
     char const* const path = big_bmp().path();
     for (auto _ : state) {
-        int const fd = open(path, O_RDONLY);
-        void* const map = mmap(nullptr, file_size, PROT_READ, MAP_SHARED, fd, 0);
+        libutils::file_descriptor_t const file(open(path, O_RDONLY));
+        void* const map = mmap(nullptr, file_size, PROT_READ, MAP_SHARED, file.get(), 0);
         benchmark::DoNotOptimize(map);
         munmap(map, file_size);
-        close(fd);
     }
 }
 
@@ -79,9 +79,8 @@ void read_all(benchmark::State& state) {
     char const* const path = big_bmp().path();
     std::vector<char> bytes(file_size);
     for (auto _ : state) {
-        int const fd = open(path, O_RDONLY);
-        benchmark::DoNotOptimize(read(fd, bytes.data(), bytes.size()));
-        close(fd);
+        libutils::file_descriptor_t const file(open(path, O_RDONLY));
+        benchmark::DoNotOptimize(read(file.get(), bytes.data(), bytes.size()));
     }
 }
 

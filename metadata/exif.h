@@ -2,23 +2,26 @@
 // The parser for the Exif block in the APP1 segment of a JPEG file.
 #pragma once
 
-/// Reads the orientation from the payload of an APP1 segment:
+/// Reads the orientation of a JPEG file, with the parser of its markers in codecs/jpeginfo.h:
 ///
 /// ```cpp
+/// #include "codecs/jpeginfo.h"
 /// #include "metadata/exif.h"
 ///
-/// unsigned int orientation_of(libgr::jpeg_bytes_t const& payload) {
-///     libgr::app1_marker_t app1;
-///     app1.set_app1_buffer(payload);
-///     auto const& orientation = app1.tiff_header.tag_0th_ifd.Orientation;
-///     return app1.parse() && !orientation.empty() ? orientation[0] : 1;
+/// libgr::jpegdata_t file;
+/// libgr::jpeginfo_t info;
+/// libgr::app1_marker_t app1;
+/// if (file.load("a.jpg", nullptr) && info.analyze_markers(file)) {
+///     app1.set_app1_buffer(info.get_marker(libgr::MARKER_APP1));
 /// }
+/// auto const& values = app1.tiff_header.tag_0th_ifd.Orientation;
+/// unsigned int const orientation = app1.parse() && !values.empty() ? values[0] : 1;
 /// ```
 ///
-/// `jpeginfo_t::get_marker(MARKER_APP1)` in codecs/jpeginfo.h returns the payload. The order of
-/// calls is `set_app1_buffer`, `parse`, and `clear` before the next payload. `parse` reads the tags
-/// that metadata/exiftype.h has members for, and the notes of these makers (all others are
-/// ignored):
+/// The orientation is 1 for an upright picture, and 3, 6 or 8 for a rotated one
+/// (codecs/orientation.h). The order of calls is `set_app1_buffer`, `parse`, and `clear` before the
+/// next payload. `parse` reads the tags that have members in metadata/exiftype.h, and the notes of
+/// these makers. The notes of other makers are ignored.
 ///
 ///   Make, in any case       Note begins with     Function              Offsets are relative to
 ///   OLYMPUS...              OLYMP, or any text   parse_olympus_ifd     the TIFF block
@@ -41,7 +44,8 @@ inline constexpr unsigned int exiftypesize[14] = {0, 1, 1, 2, 4, 8, 0, 1, 2, 4, 
 /// DC-008). Damaged payloads can't make the parser read outside the payload.
 ///
 /// A function that fails returns false and prints at most one line on the error stream. The records
-/// keep the values that were read before the failure, until `clear`.
+/// keep the values that were read before the failure, until `clear`. The numbers and strings in the
+/// records are copies. All objects that share a payload must be used by one thread.
 class app1_marker_t : public jpeg_bytes_t {
   public:
     /// The TIFF block of the payload. Offsets in the file are relative to its start. The views
@@ -86,10 +90,13 @@ class app1_marker_t : public jpeg_bytes_t {
         void byteorderclear() { byteorder.reset(); }
         void clear() override;
 
-        // `parse` calls these functions. Each one reads the IFD in a view, which starts with the
-        // count of entries. Offsets are relative to `note`, or without that parameter to the TIFF
-        // block. If `byteorder` is null, they read nothing and return false. `parse_gps_ifd` does
-        // nothing. It and `parse_1st_ifd` always return true.
+        // The steps of `parse`, one for each kind of IFD. Applications call `parse`.
+        //
+        // `ifd` is a view of the IFD; its first two bytes are the number of entries. The offsets in
+        // the entries are relative to `note`. Without that parameter, they are relative to
+        // the TIFF block. The functions store the values in the record of that kind. They return
+        // false if the IFD is invalid, or if `byteorder` is null. `parse_1st_ifd` always returns
+        // true. `parse_gps_ifd` does nothing and returns true.
 
         bool parse_0th_ifd(jpeg_bytes_t const& ifd);
         bool parse_exif_ifd(jpeg_bytes_t const& ifd);
@@ -112,7 +119,7 @@ class app1_marker_t : public jpeg_bytes_t {
     bool is_exif() const;
 
     /// Reads the payload into the records of `tiff_header`. Use the records only if it returns
-    /// true. If the payload isn't Exif, returns false and prints nothing.
+    /// true. Returns false and prints nothing if the payload isn't Exif.
     bool parse();
 
     /// Releases the payload's memory and empties all views and records.

@@ -39,18 +39,22 @@ constexpr std::size_t ifd_size(std::size_t n) {
     return 2 + 12 * n;
 }
 
-/// The bounds that make a walk fail, with one line on the error stream. Reads outside the file are
-/// impossible with any of them.
+/// The checks of an IFD. If a check fails, the walk prints a line on the error stream and fails.
+/// Bytes outside the file are never read, whatever the checks. The base is the block of memory that
+/// offsets in the IFD are relative to.
 enum class ifd_checks_t {
-    zeroth,  ///< each entry's first 8 bytes must be in the IFD, each value's start in the base
+    zeroth,  ///< the first 8 bytes of an entry must be in the IFD, the start of a value in the base
     exif,    ///< each entry must be in the IFD, each value in the base
-    none,    ///< no checks; the walk fails without a line at the end of the IFD
-    note,    ///< the IFD must be complete, each value must be in the base
+    none,    ///< no checks; an IFD that ends early fails without a line
+    note,    ///< the whole IFD must be in its view, each value in the base
 };
 
-/// The effect of a type number that Exif doesn't define: skip the entry, end the walk with success,
-/// or fail without a line.
-enum class unknown_type_t { skip, stop, fail };
+/// The effect of a type number that Exif doesn't define.
+enum class unknown_type_t {
+    skip,  ///< the entry is ignored
+    stop,  ///< the walk ends and succeeds
+    fail,  ///< the walk ends and fails without a line
+};
 
 /// The rules for one kind of IFD. The kinds differ because existing files depend on it.
 struct ifd_rules_t {

@@ -35,8 +35,9 @@ namespace libgr {
 //   dump()                   Prints the fields on standard output.
 //   clear()                  Releases the payload and resets the fields.
 //
-// Files that other decoders accept may be rejected: only 8-bit samples, 8-bit quantization tables,
-// two DC and two AC tables, and scans with all 64 coefficients are supported.
+// The parsers are for tools that examine files. They accept only baseline JPEG as most cameras
+// write it: 8-bit samples, 8-bit quantization tables, two DC and two AC tables, and scans with all
+// 64 coefficients. The decoder of the viewer doesn't use them and accepts more files.
 
 /// The masks of the bits of a byte, highest bit first.
 inline constexpr unsigned char bit_shift_table[8] = {0x80, 0x40, 0x20, 0x10,

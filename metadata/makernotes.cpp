@@ -104,10 +104,11 @@ bool read_copied_note(tiff_header_t& header, maker_row_t const& row, jpeg_bytes_
     }
     jpeg_bytes_t& ifd = header.ifd_maker_note;
     ifd = subview(note, row.start, ifd_size(n));
-    // The signature isn't included in this check, because existing files depend on it. Bytes after
-    // the end of the note read as 0. A shorter note fails in the parser.
-    bool const is_complete = note.size() >= ifd_size(n);
-    return ifd.resize(is_complete ? ifd_size(n) : ifd.size(), 0) && header.parse_olympus_ifd(ifd);
+    // Compares the size of the note, including its signature, with the size of the IFD alone. So
+    // the last bytes of the IFD, as many as the signature has, may be missing and read as 0.
+    // Existing files depend on this. With more missing bytes, the parser fails.
+    bool const is_accepted = note.size() >= ifd_size(n);
+    return ifd.resize(is_accepted ? ifd_size(n) : ifd.size(), 0) && header.parse_olympus_ifd(ifd);
 }
 
 bool read_note_in_place(tiff_header_t& header, maker_row_t const& row, jpeg_bytes_t const& note) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The two ways to get the storage of a shared array: the free store and memory mappings.
+// The allocators of the shared arrays: heap memory and memory mappings.
 #include "utils/allocator.h"
 
 #include <fcntl.h>
@@ -14,8 +14,10 @@
 #include <cstring>
 #include <fstream>
 #include <new>
+#include <utility>
 
 #include "utils/bits.h"
+#include "utils/filedescriptor.h"
 #include "utils/mappingguard.h"
 
 namespace libutils {
@@ -30,18 +32,20 @@ char const* const memory_error = "can't alloc memory.\n";
 
 namespace {
 
+/// Returns `bytes` rounded up to whole pages.
 unsigned long whole_pages(unsigned long bytes) {
     static unsigned long const page = static_cast<unsigned long>(::sysconf(_SC_PAGESIZE));
     return (bytes + page - 1) / page * page;
 }
 
-/// A large anonymous mapping that was given back, kept because the next picture of a list needs one
-/// like it: fresh pages take longer to come by than to be filled again. Until then the system may
-/// take its pages whenever it is short of memory.
+/// Keeps one large anonymous mapping for reuse after it was deallocated. The next picture needs a
+/// mapping of similar size, and it takes longer to get new pages from the system than to fill them.
+/// The system may take the pages of the kept mapping back if it needs memory.
 class spare_block_t {
   public:
-    /// The spare made `size` bytes long, 0 throughout; null where there is none. A small request
-    /// tells that no large one is under way and gives the spare up.
+    /// Returns the kept mapping, resized to `size` bytes and filled with 0, or null if there is
+    /// none. The caller becomes the owner. A small size unmaps the kept mapping instead: it shows
+    /// that no large picture is being loaded.
     void* take(unsigned long size) {
         if (size < smallest) {
             drop();
@@ -52,12 +56,13 @@ class spare_block_t {
         if (block == MAP_FAILED) {
             return nullptr;
         }
-        std::memset(block, 0, min2(m_size, pages));  // to the pages' end: it may grow once more
+        // Fills whole pages, because a later call may make the mapping longer.
+        std::memset(block, 0, min2(m_size, pages));
         m_begin = nullptr;
         return block;
     }
 
-    /// Whether the mapping is the spare now.
+    /// Takes over a mapping. Returns false if the caller must unmap it.
     bool keep(void* block, unsigned long size) {
         if (m_begin != nullptr || size < smallest || size > largest) {
             return false;
@@ -68,14 +73,14 @@ class spare_block_t {
         return true;
     }
 
-    /// Whether there was one.
+    /// Unmaps the kept mapping. Returns true if there was one.
     bool drop() {
-        bool const is_held = m_begin != nullptr;
-        if (is_held) {
+        bool const has_mapping = m_begin != nullptr;
+        if (has_mapping) {
             ::munmap(m_begin, m_size);
             m_begin = nullptr;
         }
-        return is_held;
+        return has_mapping;
     }
 
   private:
@@ -88,8 +93,8 @@ class spare_block_t {
 
 spare_block_t s_spare;
 
-/// Maps a guarded file or anonymous pages. When there is no room, gives up the spare and tries
-/// again.
+/// Maps and guards a part of a file, or maps anonymous pages if `fd` is -1. If there isn't enough
+/// memory, unmaps the spare mapping and tries again. Returns MAP_FAILED on failure.
 void* map(void* hint, unsigned long size, int prot, int flags, int fd, unsigned long long offset) {
     void* storage = MAP_FAILED;
     do {
@@ -112,8 +117,9 @@ void copy_bytes(void* to, void const* from, unsigned long bytes) {
     }
 }
 
-/// Whether the file holds `bytes` bytes from `offset` on; 0 becomes all that it has there.
-bool file_holds(int fd, unsigned long& bytes, unsigned long long offset) {
+/// Returns true if the file has `bytes` bytes after `offset`. If `bytes` is 0, sets it to the
+/// number of bytes after `offset`.
+bool has_range(int fd, unsigned long& bytes, unsigned long long offset) {
     struct stat info {};
     if (::fstat(fd, &info) != 0) {
         return false;
@@ -144,7 +150,7 @@ void* alloc_new::allocate(unsigned long& bytes, char const* path, e_prot_t /*pro
         return nullptr;
     }
     if (path != nullptr && bytes != 0) {
-        // A file that can't be opened leaves the storage as it is and isn't reported.
+        // A file that can't be opened isn't an error. The storage is then undefined.
         std::ifstream in(path, std::ios::binary);
         in.read(static_cast<char*>(static_cast<void*>(storage)),
                 static_cast<std::streamsize>(bytes));
@@ -179,16 +185,12 @@ void* alloc_mmap_unix::allocate(unsigned long& bytes, char const* path, e_prot_t
     fd = -1;
     if (path != nullptr) {
         flags = MAP_SHARED;
-        // Without O_NONBLOCK a named pipe would hold the program until someone writes to it.
-        fd = ::open(path, openmode | O_CLOEXEC | O_NONBLOCK);
-        if (fd == -1) {
+        // Without O_NONBLOCK, opening a named pipe waits for its writer.
+        file_descriptor_t file(::open(path, openmode | O_CLOEXEC | O_NONBLOCK));
+        if (!file.is_open() || !has_range(file.get(), bytes, offset)) {
             return nullptr;
         }
-        if (!file_holds(fd, bytes, offset)) {
-            ::close(fd);
-            fd = -1;
-            return nullptr;
-        }
+        fd = file.release();
     } else {
         prot = PROT_READ | PROT_WRITE;
         flags = MAP_ANON | MAP_PRIVATE;
@@ -208,7 +210,7 @@ void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long 
         next.flags = MAP_ANON | MAP_PRIVATE;
     }
     unsigned long wanted = newsize;
-    if (next.fd != -1 && !file_holds(next.fd, wanted, offset)) {
+    if (next.fd != -1 && !has_range(next.fd, wanted, offset)) {
         return MAP_FAILED;
     }
     void* const storage = map(p, newsize, next.prot, next.flags, next.fd, offset);
@@ -219,7 +221,7 @@ void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long 
         copy_bytes(storage, p, min2(size, newsize));
     }
     if (next.fd != -1) {
-        fd = -1;  // the file stays open for the new mapping
+        fd = -1;  // `next` owns the file
     }
     deallocate(p);
     *this = next;
@@ -228,16 +230,14 @@ void* alloc_mmap_unix::reallocate(void* p, unsigned long newsize, unsigned long 
 }
 
 void alloc_mmap_unix::deallocate(void* p) {
+    // Closes the file after the mapping is unguarded.
+    file_descriptor_t const file(std::exchange(fd, -1));
     bool const is_kept = (flags & MAP_ANON) != 0 && !failed(p) && s_spare.keep(p, size);
     if (!is_kept && !failed(p)) {
         if ((flags & MAP_ANON) == 0) {
             unguard_mapping(p);
         }
         ::munmap(p, size);
-    }
-    if (fd != -1) {
-        ::close(fd);
-        fd = -1;
     }
 }
 

@@ -1,43 +1,46 @@
 // SPDX-License-Identifier: MIT
-// The two ways to get the storage of a shared array: the free store and memory mappings.
+// The allocators of the shared arrays: heap memory and memory mappings.
 #pragma once
 
 namespace libutils {
 
-/// A platform context that callers hand down with a load; nothing here looks into it.
+/// A platform context that callers may pass to a load. The library doesn't use it.
 struct android_app;
 
-/// Protection of a mapping. A value that is neither of the two makes a mapping fail.
+/// The protection of a file mapping. With any other value, `alloc_mmap_unix::allocate` fails.
 enum e_prot_t : unsigned int {
     PROTECTION_READ = 0,
-    PROTECTION_READWRITE = 1,
+    PROTECTION_READWRITE = 1,  ///< writing to the mapping changes the file
 };
 
-/// Gives the unused pages of the free store back to the system. A free store does so by itself only
-/// above its last block in use, so that without this call one small block can hold the memory of
-/// all textures that a driver kept below it. Takes up to some 0.4 ms for each MB that is given
-/// back.
+/// Returns the unused pages of the heap to the system.
+///
+/// By itself, the C library returns only the pages after the last block in use. So one small block
+/// can keep the memory of all freed blocks before it, for example of the textures of a software
+/// driver. Call this function after freeing many blocks. It takes up to about 0.4 ms for each MB
+/// that is returned. It does nothing if the C library isn't glibc.
 void release_unused_memory();
 
-/// The text for a failed allocation. Failure is told by results, so nothing prints it.
+/// The text for a failed allocation. The library reports failures by results and never prints it.
 extern char const* const memory_error;
 
-// Every allocator has the same operations; one object of it belongs to one storage:
+// All allocators have the same functions. An allocator object manages one block of memory. Use the
+// arrays in utils/ofsvector.h and utils/refvector.h instead of calling an allocator.
 //
-// allocate(size, path, prot, offset, app)
-//     Storage of `size` bytes, or null. With a path it holds the file's bytes, and a `size` of 0
-//     means the whole file, whose size is written back.
-// reallocate(p, size, offset)
-//     New storage of `size` bytes with the smaller of the two sizes copied; the old one is given
-//     back. On failure the old one stays.
-// deallocate(p)
-//     Gives the storage back.
-// failed(p)
-//     Whether a result of the first two stands for no storage.
-// writable()
-//     Whether the storage may be written to.
+//   allocate(bytes, path, protection, offset, app)
+//       Returns a block of `bytes` bytes, or null. With a path, the block contains the bytes of the
+//       file after `offset`. If `bytes` is 0, it is set to the number of these bytes.
+//   reallocate(p, newsize, offset)
+//       Returns a new block with the bytes of `p` that fit, and frees `p`. On failure, `p` stays
+//       valid.
+//   deallocate(p)
+//       Frees the block.
+//   failed(p)
+//       Returns true if `p`, a result of the first two functions, isn't a block.
+//   writable()
+//       Returns true if the block may be written to.
 
-/// Storage on the free store. `prot` and `offset` aren't looked at.
+/// Heap memory. `protection` and `offset` are ignored: a file is read from its start.
 struct alloc_new {
     unsigned long size = 0;  ///< bytes
 
@@ -49,24 +52,27 @@ struct alloc_new {
     static bool writable() { return true; }
 };
 
-/// Storage by mmap: a file's own pages, or anonymous pages, which read as 0 and cost nothing until
-/// they are touched. The part of a mapped file that another program truncates reads as 0, see
-/// utils/mappingguard.h. A large anonymous mapping that was given back is kept for the next one to
-/// come, which then has its pages at once; the next small one gives it up. A failed mmap is handed
-/// on as the system's failed-map pointer, not as null; a mapping of 0 bytes always is one.
+/// Memory mappings: the pages of a file, or anonymous pages, which are 0.
+///
+/// Bytes that another program removes from a mapped file read as 0; see utils/mappingguard.h. One
+/// anonymous mapping of 4 to 256 MiB is kept after its deallocation and used for the next one.
+///
+/// A failed mmap returns MAP_FAILED, not null. A mapping of 0 bytes always fails in this way, and
+/// the arrays use it for empty files: test results with `failed`.
 struct alloc_mmap_unix {
-    int fd = -1;             ///< the open file, -1 for an anonymous mapping
+    int fd = -1;             ///< the open file, or -1 for an anonymous mapping; owned
     unsigned long size = 0;  ///< bytes mapped
     int openmode = 0;        ///< O_RDONLY or O_RDWR
-    int prot = 0;            ///< PROT_READ, with PROT_WRITE where it may be written
-    int flags = 0;           ///< MAP_SHARED for a file, MAP_ANON with MAP_PRIVATE without one
+    int prot = 0;            ///< PROT_READ, or PROT_READ | PROT_WRITE
+    int flags = 0;           ///< MAP_SHARED for a file, otherwise MAP_ANON | MAP_PRIVATE
 
-    /// A range that a file doesn't hold is refused with null, since reading it would end the
-    /// program.
+    /// Returns null if the file doesn't have the range: reading after its end would raise SIGBUS.
+    /// `offset` must be a multiple of the page size.
     void* allocate(unsigned long& bytes, char const* path, e_prot_t protection,
                    unsigned long long offset, android_app* app);
 
-    /// A read-only file mapping becomes an anonymous, writable copy.
+    /// Replaces a read-only file mapping by an anonymous, writable copy. For a writable file
+    /// mapping, fails if the file doesn't have the range.
     void* reallocate(void* p, unsigned long newsize, unsigned long long offset);
     void deallocate(void* p);
     static bool failed(void const* p);

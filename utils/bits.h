@@ -8,32 +8,33 @@
 
 namespace libutils {
 
-/// The larger of two values of one type.
+/// Returns the larger value.
 template <typename T>
 constexpr T max2(T a, T b) {
     return b > a ? b : a;
 }
 
-/// The smaller of two values of one type.
+/// Returns the smaller value.
 template <typename T>
 constexpr T min2(T a, T b) {
     return b < a ? b : a;
 }
 
-/// Whether exactly one bit is set, that is, whether `value` is a power of two. False for 0.
+/// Returns true if `value` is a power of two. 0 isn't one.
 template <typename T>
 constexpr bool Is_2nSize(T value) {
     return std::has_single_bit(static_cast<std::make_unsigned_t<T>>(value));
 }
 
-/// The position of the highest set bit counted from 1, and 0 for the value 0: 1 for 1, 9 for 256.
+/// Returns the position of the highest set bit, counted from 1: 1 for 1, 9 for 256. Returns 0 for
+/// 0.
 template <typename T>
 constexpr unsigned int Get_TopBitPos(T value) {
     return static_cast<unsigned int>(std::bit_width(static_cast<std::make_unsigned_t<T>>(value)));
 }
 
-/// `value` brought up to a multiple of two to the power `bits`. It wraps to 0 where that multiple
-/// has no room in the type.
+/// Returns `value` rounded up to a multiple of two to the power `bits`, or 0 if that multiple
+/// doesn't fit into the type.
 template <typename T>
 constexpr T UpAlignBits(T value, unsigned int bits) {
     using unsigned_t = std::make_unsigned_t<T>;
@@ -44,7 +45,7 @@ constexpr T UpAlignBits(T value, unsigned int bits) {
                           static_cast<unsigned_t>(~low));
 }
 
-/// A colour channel of 0 to 255 as a float of 0 to 1.
+/// Converts a colour channel from 0 to 255 to a float from 0 to 1.
 constexpr float uc2f(unsigned char value) {
     return static_cast<float>(value) * 0.003921569F;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Conversions from a file's byte order to the host's, which is little-endian.
+// Conversions from the byte order of a file to that of the host, which is little-endian.
 #pragma once
 
 #include <bit>
@@ -7,9 +7,10 @@
 namespace libutils {
 
 static_assert(std::endian::native == std::endian::little,
-              "on a big-endian host the roles of the two byte orders must be swapped");
+              "on a big-endian host, swap the two byte orders");
 
-/// The byte order of one file, for a reader that learns it from the file's own mark.
+/// The byte order of a file, for a reader that selects it at run time. Each function converts a
+/// number of 16, 32 or 64 bits to the byte order of the host.
 class byteorder {
   public:
     virtual unsigned short tohs(unsigned short value) const = 0;
@@ -36,6 +37,7 @@ class motorola_byteorder final : public byteorder {
     }
 };
 
+// The same conversions, for a byte order that is known: i for little-endian, m for big-endian.
 constexpr unsigned short itohs(unsigned short value) {
     return value;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The hook that failure paths call and the small stream helpers that lines are written with.
+// The hook of the error paths, and helpers for lines of text on streams.
 #include "utils/diagnostics.h"
 
 #include <langinfo.h>
@@ -13,7 +13,7 @@ namespace libutils {
 
 namespace {
 
-/// The mark of a stream that is a terminal.
+/// The kind of a stream, stored in the stream.
 enum terminal_t : long { NO_TERMINAL, UTF8_TERMINAL, BYTE_TERMINAL };
 
 long& terminal_mark(std::ostream& out) {

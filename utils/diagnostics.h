@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The hook that failure paths call and the small stream helpers that lines are written with.
+// The hook of the error paths, and helpers for lines of text on streams.
 #pragma once
 
 #include <iomanip>
@@ -10,11 +10,11 @@
 
 namespace libutils {
 
-/// An empty hook: error paths call it just before they write to the error stream, so that a
-/// debugger can stop at all of them.
+/// Does nothing. Error paths call this function before they write to the error stream, so a
+/// breakpoint in it stops at all of them.
 void error();
 
-/// Writes a stream's format flags back at the end of a block.
+/// Restores the format flags of a stream at the end of the block.
 struct keepflag {
     explicit keepflag(std::ostream& out) : stream(out), flags(out.flags()) {}
     keepflag(keepflag const&) = delete;
@@ -25,8 +25,8 @@ struct keepflag {
     std::ios_base::fmtflags flags;
 };
 
-/// Writes the parts as one line on the error stream, numbers in decimal. Always false, so that who
-/// refuses something can return it.
+/// Prints the parts as one line on the error stream, with numbers in decimal. Always returns false,
+/// so a function that fails can return the result.
 template <typename... Parts>
 bool refuse(Parts const&... parts) {
     error();
@@ -44,36 +44,36 @@ struct _putcn {
     unsigned long n;
 };
 
-/// `n` bytes of `text`, NUL or not. The bytes aren't owned.
+/// `n` bytes of `text`, including NULs. The bytes aren't owned.
 struct _putn {
     char const* text;
     unsigned long n;
 };
 
-/// A path or another text from outside the program. The bytes are not owned.
+/// A path or another text from outside the program. The bytes aren't owned.
 struct _putname {
     std::string_view text;
 };
 
-/// One value in the colour text form: see the operator.
+/// A value for the operator below.
 template <typename T>
 struct _puthex {
     T value;
 };
 
-/// `n` blanks, to be inserted into a stream.
+/// Returns an object that writes `n` blanks when it is inserted into a stream.
 inline _putspace putspace(unsigned long n) {
     return {n};
 }
 
-/// `c` repeated `n` times, to be inserted into a stream.
+/// Returns an object that writes `c` `n` times when it is inserted into a stream.
 inline _putcn putcn(char c, unsigned long n) {
     return {c, n};
 }
 
-/// `text`, to be inserted into a stream; a null pointer counts as an empty text. Use this for every
-/// path: on a stream that `escape_names_on_terminals` has marked, its control characters are
-/// escaped.
+/// Returns an object that writes `text` when it is inserted into a stream. A null pointer writes
+/// nothing. Use it for every path: on a terminal, control characters are escaped, see
+/// `escape_names_on_terminals`.
 inline _putname putname(std::string_view text) {
     return {text};
 }
@@ -81,7 +81,8 @@ inline _putname putname(char const* text) {
     return {text != nullptr ? std::string_view(text) : std::string_view()};
 }
 
-/// Marks std::cout and std::cerr where they are terminals. Call it once, after the locale is set.
+/// Makes `putname` escape control characters on std::cout and std::cerr if they are terminals. Call
+/// it once, after setlocale.
 void escape_names_on_terminals();
 
 /// Returns `text` with each byte of a control character replaced by "\x" and two hexadecimal
@@ -94,9 +95,9 @@ std::ostream& operator<<(std::ostream& out, _putcn const& run);
 std::ostream& operator<<(std::ostream& out, _putn const& bytes);
 std::ostream& operator<<(std::ostream& out, _putname const& name);
 
-/// Inserts the value in hexadecimal, in a field of width 2 filled with "0", behind "0x" when the
-/// stream has showbase set. An unsigned char goes to the stream as a character, so the output is
-/// that byte itself behind one "0": text forms depend on these bytes. Flags and fill come back.
+/// Writes the value in hexadecimal with at least 2 digits. Writes "0x" first if the stream has the
+/// flag showbase. An unsigned char is written as a character after a "0", not as a number: existing
+/// text depends on these bytes. The flags and the fill character of the stream don't change.
 template <typename T>
 std::ostream& operator<<(std::ostream& out, _puthex<T> const& hex) {
     keepflag const keep(out);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The error line of an exceeded limit.
+// Prints the error line of an exceeded limit.
 #include "utils/limits.h"
 
 #include "utils/diagnostics.h"

@@ -21,18 +21,18 @@ namespace {
 struct mapping_t {
     std::uintptr_t begin;
     unsigned long size;         // bytes
-    unsigned long long offset;  // of the mapping's first byte in the file
+    unsigned long long offset;  // bytes from the start of the file
     int prot;
     int fd;
     std::atomic<mapping_t*> next;
 };
 
-// The handler walks this list: each change of it is one store of a pointer.
+// The signal handler reads this list, so each change of the list stores one pointer.
 std::atomic<mapping_t*> s_first = nullptr;
 std::uintptr_t s_page_size = 0;
 struct sigaction s_previous {};
 
-/// `bytes` rounded up to whole pages.
+/// Returns `bytes` rounded up to whole pages.
 std::uintptr_t whole_pages(std::uintptr_t bytes) {
     return (bytes + s_page_size - 1) / s_page_size * s_page_size;
 }
@@ -45,8 +45,9 @@ mapping_t const* find_mapping(std::uintptr_t address) {
     return mapping;
 }
 
-/// Puts zeros in place of the pages that the file no longer has, or of the one page at `address`
-/// that it has and can't deliver. Calls only functions that are safe in a signal handler.
+/// Replaces the pages that the file doesn't have any more by zeros. If the file has the page at
+/// `address`, the device has failed, and only that page is replaced. Returns false if no mapping
+/// contains the address. Calls only functions that are safe in a signal handler.
 bool replace_missing_pages(std::uintptr_t address) {
     mapping_t const* const mapping = find_mapping(address);
     if (mapping == nullptr) {
@@ -65,7 +66,7 @@ bool replace_missing_pages(std::uintptr_t address) {
             end = whole_pages(mapping->begin + mapping->size);
         }
     }
-    // mmap is a plain system call on Linux, which is all that a signal handler needs.
+    // POSIX doesn't list mmap as safe in signal handlers. On Linux it is a plain system call.
     void* const pages = reinterpret_cast<void*>(begin);
     return ::mmap(pages, end - begin, mapping->prot, MAP_FIXED | MAP_PRIVATE | MAP_ANONYMOUS, -1,
                   0) == pages;
@@ -78,8 +79,8 @@ void pass_on(int number, siginfo_t* info, void* context) {
     } else if (s_previous.sa_handler != SIG_DFL && s_previous.sa_handler != SIG_IGN) {
         s_previous.sa_handler(number);
     } else if (!is_sent || s_previous.sa_handler == SIG_DFL) {
-        // After the return, the same instruction faults again. A signal that was sent doesn't come
-        // again by itself.
+        // After the return, the same instruction faults again, with the previous action. A signal
+        // that was sent must be raised again.
         ::sigaction(number, &s_previous, nullptr);
         if (is_sent) {
             ::raise(number);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one copy of the byte arrays that all images and parsed files use.
+// The instances of the arrays of bytes, which all images and parsed files use.
 #include "utils/ofsvector.h"
 
 namespace libutils {

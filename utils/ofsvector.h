@@ -1,6 +1,27 @@
 // SPDX-License-Identifier: MIT
-// Reference-counted arrays over an allocator's storage, and windows of any element type into it.
+// Reference-counted arrays that can map files, and windows of any element type into them.
 #pragma once
+
+/// Maps a file without copying it, and reads its last two bytes:
+///
+/// ```cpp
+/// #include "utils/ofsvector.h"
+///
+/// using bytes_t = libutils::ofsvector<unsigned char, libutils::alloc_mmap_unix>;
+/// bytes_t file;
+/// bool const is_loaded = file.load(0, "a.jpg", libutils::PROTECTION_READ, 0, false, nullptr);
+/// if (is_loaded && file.size() >= 2) {
+///     bytes_t tail = file;  // shares the mapping
+///     tail.offset = file.size() - 2;
+///     bool const is_complete = tail[0] == 0xFF && tail[1] == 0xD9;
+/// }
+/// ```
+///
+/// The mapping is removed, and the file closed, with the last handle that shares it. For a new
+/// array instead of a file, call `resize(number, 0)`.
+///
+/// Functions don't throw and print nothing: they return false on failure. The counts of references
+/// aren't atomic: all handles on one block must be used by one thread.
 
 #include <cstring>
 #include <limits>
@@ -14,26 +35,25 @@
 
 namespace libutils {
 
-/// `position` bytes behind the start of a storage, and null without one.
+/// Returns the address `position` bytes after the start of `storage`, or null if `storage` is null.
 void* byte_address(void* storage, unsigned long position);
 
-/// One storage and the count of the handles on it. It doesn't know the element type, so that
-/// handles of different types can look into one mapped file.
+/// A block of memory and the number of handles that share it. It doesn't depend on the element
+/// type, so handles of different types can share one mapped file.
 template <typename A>
 struct shared_block_t {
     unsigned long refcount = 1;
     unsigned long size = 0;  ///< bytes
     A allocator;
-    void* data = nullptr;  ///< null where `size` is 0
+    void* data = nullptr;  ///< null if `size` is 0
 
     shared_block_t() = default;
     shared_block_t(shared_block_t const&) = delete;
     shared_block_t& operator=(shared_block_t const&) = delete;
     ~shared_block_t() { allocator.deallocate(data); }
 
-    /// A block of `bytes` bytes from the allocator, or null. With a path and 0 bytes it takes the
-    /// file's size. A failed mapping is refused unless it is one of 0 bytes, which needs no
-    /// storage.
+    /// Returns a block of `bytes` bytes from the allocator, or null on failure. With a path, 0
+    /// bytes mean the whole file. A failed mapping of 0 bytes is a success: it needs no memory.
     static std::unique_ptr<shared_block_t> make(unsigned long bytes, char const* path,
                                                 e_prot_t prot, unsigned long long offset,
                                                 android_app* app) {
@@ -51,79 +71,94 @@ struct shared_block_t {
     }
 };
 
-/// A handle on a shared array of T. Copies share the block, and nothing is copied until a resize.
-/// Counts are in elements. Nothing throws and nothing is reported but by results. One thread only.
+/// A handle on a shared array of T. Copies of a handle share the block; no elements are copied.
+/// Numbers and sizes are in elements, unless their comments say otherwise. New elements are 0 with
+/// `alloc_mmap_unix`, and undefined with `alloc_new`.
 template <typename T, typename A>
 class refvector2 {
     static_assert(std::is_trivially_copyable_v<T>, "elements are copied as bytes");
 
   public:
     refvector2() = default;
-    refvector2(refvector2 const& other) { hold(other.m_block); }
+    refvector2(refvector2 const& other) { set_block(other.m_block); }
     refvector2& operator=(refvector2 const& other) {
-        hold(other.m_block);
+        set_block(other.m_block);
         return *this;
     }
 
-    /// No block, or one of 0 bytes.
+    /// Returns true if there is no block or if the block has 0 bytes.
     virtual bool empty() const { return m_block == nullptr || m_block->size == 0; }
 
-    /// Whole elements that the storage holds.
+    /// Returns the number of whole elements in the block.
     virtual unsigned long size() const { return storage_bytes() / sizeof(T); }
 
-    /// The first element, or null where there is no storage.
+    /// Return the range of the elements. Both are null if there is no block or if it has 0 bytes.
     virtual T* begin() { return at_byte(0); }
     virtual T* end() { return at_byte(storage_bytes() / sizeof(T) * sizeof(T)); }
     virtual T const* begin() const { return at_byte(0); }
     virtual T const* end() const { return at_byte(storage_bytes() / sizeof(T) * sizeof(T)); }
 
-    /// Element `i`, with no bounds check.
+    /// Returns element `i`. The index isn't checked.
     virtual T& operator[](unsigned long i) { return at_byte(0)[i]; }
     virtual T const& operator[](unsigned long i) const { return at_byte(0)[i]; }
     virtual T* operator->() { return at_byte(0); }
     virtual T const* operator->() const { return at_byte(0); }
 
-    /// Fills the handle with `number` elements of a file from byte `offset` on, or of new storage
-    /// where `path` is null. A `number` of 0 with a path means the whole file; an empty file loads
-    /// as an empty array. With `keep` and a `number`, the old contents overwrite the start of the
-    /// new block, and of the file that it maps; a read-only mapping fails. With `keep`, a failure
-    /// leaves the handle as it was. Without `keep`, the handle is emptied first. Returns false on
-    /// failure.
+    /// Loads `number` elements of the file at `path`, starting at byte `offset`. If `number` is 0,
+    /// loads all bytes from `offset` to the end; an empty file gives an empty array. If `path` is
+    /// null, allocates `number` new elements.
+    ///
+    /// `offset` must be a multiple of the page size. With PROTECTION_READWRITE, writing to the
+    /// elements changes the file. With PROTECTION_READ, writing to them raises SIGSEGV. `app` may
+    /// be null.
+    ///
+    /// If `keep` is false, the handle is emptied first. If `keep` is true and `number` isn't 0, the
+    /// old elements overwrite the start of the new block, and so of the mapped file. This fails for
+    /// a read-only mapping. With `keep`, nothing changes on failure.
+    ///
+    /// Returns false on failure: the file can't be opened, it has fewer elements, or there isn't
+    /// enough memory.
     virtual bool load(unsigned long number, char const* path, e_prot_t prot,
                       unsigned long long offset, bool keep, android_app* app);
 
-    /// Gives the block's storage another size, for all handles on it; without a block, takes new
-    /// storage. False when it can't be had, and then nothing changes, or for a block of 0 elements.
+    /// Changes the number of elements for all handles on the block. Without a block, allocates one.
+    /// For a writable file mapping, `offset` is the byte of the file at which the new mapping
+    /// starts.
+    ///
+    /// Returns false if there isn't enough memory, and then nothing changes. Returns false for 0
+    /// elements, too, but the block is then empty.
     virtual bool resize(unsigned long number, unsigned long long offset);
     virtual void clear() { deallocate(); }
     virtual ~refvector2() { deallocate(); }
 
     bool is_allocated() const { return m_block != nullptr; }
 
-    /// Whether the elements may be written to: false for a read-only mapping and without a block.
+    /// Returns true if the elements may be written to. Returns false for a read-only mapping, and
+    /// if there is no block.
     bool is_writable() const { return m_block != nullptr && m_block->allocator.writable(); }
 
-    /// How many handles share the block; 0 without one.
+    /// Returns the number of handles that share the block, or 0 if there is none.
     unsigned long refcount() const { return m_block != nullptr ? m_block->refcount : 0; }
 
-    /// Takes a new block of `number` elements in place of the present one.
+    /// Replaces the block by a new one. See `load`.
     bool allocate(unsigned long number, char const* path, e_prot_t prot,
                   unsigned long long offset) {
         return refvector2::load(number, path, prot, offset, false, nullptr);
     }
 
-    /// Gives up this handle's share. The handle is empty afterwards.
-    void deallocate() { hold(nullptr); }
+    /// Empties the handle. The block is freed if no other handle shares it.
+    void deallocate() { set_block(nullptr); }
 
-    /// Shares the block of a handle of another element type.
+    /// Shares the block of a handle with another element type.
     template <typename U>
     void share(refvector2<U, A> const& other) {
-        hold(other.m_block);
+        set_block(other.m_block);
     }
 
   protected:
     using block_t = shared_block_t<A>;
 
+    /// Sets `bytes` to the size of `number` elements. Returns false if it overflows.
     static bool bytes_of(unsigned long number, unsigned long& bytes) {
         bytes = number * sizeof(T);
         return number <= std::numeric_limits<unsigned long>::max() / sizeof(T);
@@ -135,8 +170,8 @@ class refvector2 {
             byte_address(m_block != nullptr ? m_block->data : nullptr, position));
     }
 
-    /// Lets go of the present block, unless it is `block`, and shares `block`.
-    void hold(block_t* block) {
+    /// Shares `block` instead of the current block, which is freed if no other handle shares it.
+    void set_block(block_t* block) {
         if (block == m_block) {
             return;
         }
@@ -149,7 +184,7 @@ class refvector2 {
         }
     }
 
-    /// Takes over a block that has no other handle.
+    /// Takes over a new block, which has no other handle.
     void install(std::unique_ptr<block_t> block) {
         deallocate();
         m_block = block.release();
@@ -161,19 +196,21 @@ class refvector2 {
     friend class refvector2;
 };
 
-/// A window of `count` elements into a shared block, from byte `offset` on. Several windows, also
-/// of different element types, can look into one block: assign or `share` it, then set the two
-/// fields. A window that reaches beyond the block shows what is there of it.
+/// A window into a shared block: `count` elements, starting at byte `offset`.
+///
+/// Several windows, also with different element types, can share one block: assign the handle, or
+/// call `share`, then set `offset` and `count`. A window is clamped to the end of the block, so the
+/// range from `begin` to `end` is always valid.
 template <typename T, typename A>
 class ofsvector : public refvector2<T, A> {
     using base = refvector2<T, A>;
     using typename base::block_t;
 
   public:
-    /// The value of `count` that means up to the end of the storage.
+    /// The value of `count` for all elements up to the end of the block.
     static constexpr unsigned long to_end = ~0UL;
 
-    unsigned long offset = 0;      ///< bytes from the start of the storage to element 0
+    unsigned long offset = 0;      ///< bytes from the start of the block to element 0
     unsigned long count = to_end;  ///< elements
 
     bool empty() const override { return base::empty() || count == 0; }
@@ -191,13 +228,18 @@ class ofsvector : public refvector2<T, A> {
     T* operator->() override { return begin(); }
     T const* operator->() const override { return begin(); }
 
-    /// As the base's, and the window then is the whole storage, on failure the old one.
+    /// Loads like the function of the base class. The window is the whole block afterwards, also on
+    /// failure.
     bool load(unsigned long number, char const* path, e_prot_t prot, unsigned long long position,
               bool keep, android_app* app) override;
 
-    /// Moves to a private, writable block of `number` elements, with the window's bytes in front as
-    /// far as they fit; other handles keep theirs. The window then is the whole storage. False when
-    /// the storage can't be had, and then nothing changes.
+    /// Copies the window to a new, writable block of `number` elements. Other handles keep the old
+    /// block. The window is the whole new block afterwards.
+    ///
+    /// `count` limits the copy as a number of bytes, even if an element has several bytes. Callers
+    /// depend on this. Without a block, the function does the same as that of the base class.
+    ///
+    /// Returns false if there isn't enough memory, and then nothing changes.
     bool resize(unsigned long number, unsigned long long position) override;
     void clear() override {
         base::clear();
@@ -223,7 +265,7 @@ bool refvector2<T, A>::load(unsigned long number, char const* path, e_prot_t pro
     if (block == nullptr) {
         return false;
     }
-    // A whole file is loaded for its own bytes, so the old contents must not go over them.
+    // The old elements must not overwrite a file that is loaded as a whole.
     unsigned long const kept = number != 0 ? min2(storage_bytes(), block->size) : 0;
     if (kept != 0) {
         if (!block->allocator.writable()) {
@@ -273,7 +315,7 @@ bool ofsvector<T, A>::resize(unsigned long number, unsigned long long position) 
     if (block == nullptr) {
         return false;
     }
-    // The window's length limits the copy as a number of bytes, whatever the element's size.
+    // `count` is a number of bytes here; see the comment on the declaration.
     unsigned long const start = min2(offset, this->storage_bytes());
     unsigned long const kept = min2(bytes, min2(count, this->storage_bytes() - start));
     if (kept != 0) {

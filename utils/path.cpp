@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Functions that pick paths apart; both "/" and "\" separate everywhere.
+// Functions that split and search paths.
 #include "utils/path.h"
 
 #include <strings.h>
@@ -20,9 +20,9 @@ namespace libutils {
 namespace {
 
 constexpr std::size_t no_limit = std::numeric_limits<std::size_t>::max();
-constexpr std::size_t part_room = sizeof(splitpath_t::name);
+constexpr std::size_t part_size = sizeof(splitpath_t::name);
 
-/// Steps over the characters of a text one by one.
+/// Iterates over the characters of a text in the current locale.
 class character_walk_t {
   public:
     explicit character_walk_t(char const* text) : m_text(text), m_length(std::strlen(text)) {}
@@ -30,11 +30,11 @@ class character_walk_t {
     bool at_end() const { return m_position == m_length; }
     std::size_t position() const { return m_position; }
 
-    /// Steps over a character and returns it where it is a single byte, else 0.
+    /// Moves to the next character. Returns the current one if it has one byte, otherwise 0.
     char next() {
         char const* const here = m_text + m_position;
         std::size_t bytes = std::mbrlen(here, m_length - m_position, &m_state);
-        if (bytes == 0 || bytes > m_length - m_position) {  // no character, or cut off
+        if (bytes == 0 || bytes > m_length - m_position) {  // invalid, or cut
             m_state = {};
             bytes = 1;
         }
@@ -49,15 +49,15 @@ class character_walk_t {
     std::mbstate_t m_state{};
 };
 
-/// Byte offsets into a path: of the file name, of the "." that ends the stem (or the end), of the
-/// end.
+/// Byte offsets into a path: the start of the file name, the last "." of the file name or its end,
+/// and the end.
 struct marks_t {
     std::size_t name = 0;
     std::size_t dot = 0;
     std::size_t end = 0;
 };
 
-/// The marks of the first `limit` characters of a path.
+/// Returns the marks of the first `limit` characters of a path.
 marks_t marks(char const* path, std::size_t limit) {
     marks_t found;
     bool dotted = false;
@@ -80,8 +80,8 @@ marks_t marks(char const* path, std::size_t limit) {
     return found;
 }
 
-/// Writes whole characters of `text` as far as they fit into `size` bytes, and a NUL if there is
-/// room.
+/// Writes the characters of `text` that fit into `size` bytes, and a NUL if it fits. Returns the
+/// number of bytes without the NUL.
 std::size_t put_characters(char* dst, std::string const& text, std::size_t size) {
     std::size_t length = 0;
     for (character_walk_t walk(text.c_str()); !walk.at_end();) {
@@ -98,9 +98,9 @@ std::size_t put_characters(char* dst, std::string const& text, std::size_t size)
     return length;
 }
 
-/// Writes a text of `length` bytes, cut to the room of a path's part.
+/// Writes a text of `length` bytes to a field of `splitpath_t`. A longer text is cut.
 void put_part(char* dst, char const* text, std::size_t length) {
-    std::size_t const kept = min2(length, part_room - 1);
+    std::size_t const kept = min2(length, part_size - 1);
     std::memcpy(dst, text, kept);
     dst[kept] = '\0';
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Functions that pick paths apart; both "/" and "\" separate everywhere.
+// Functions that split and search paths.
 #pragma once
 
 #include <cstddef>
@@ -7,10 +7,12 @@
 
 namespace libutils {
 
-// A path is walked by the characters of the locale that is set, so that a byte within a multibyte
-// character can't pass for a separator. Bytes that are no character in the locale count one by one.
+// Both "/" and "\" are separators, on all systems. Paths are text in the current locale
+// (setlocale): a byte inside a multibyte character is never a separator. A byte that isn't valid in
+// the locale counts as one character. No function changes a file. Only `searchpath` looks at the
+// file system.
 
-/// The four parts of a path, each NUL-terminated and cut at 1023 bytes.
+/// The four parts of a path, each with a NUL at the end. See `splitpath`.
 struct splitpath_t {
     char drive[1024];
     char dir[1024];
@@ -18,51 +20,57 @@ struct splitpath_t {
     char ext[1024];
 };
 
-/// Behind the last separator of `path`, or `path` itself when there is none.
+/// Returns the address of the file name: the text after the last separator, or all of `path` if
+/// there is none.
 char const* baseptr(char const* path);
 
-/// The file's stem: the text behind the last separator, up to its last ".". "/a/b/c.tar.gz" gives
-/// "c.tar", ".hidden" gives "".
+/// Returns the file name up to its last ".": "c.tar" for "/a/b/c.tar.gz", and "" for ".hidden".
 std::string basename(std::string const& path);
 
-/// Writes the stem of at most the first `size` characters of `src`, at most `size` bytes of it, and
-/// returns its length in bytes. A result of `size` has no closing NUL.
+/// Writes the result of `basename` to `dst`, which has `size` bytes. Returns the number of bytes
+/// without the NUL. If it is `size`, there is no NUL at the end.
+///
+/// A path of more than `size` characters is first cut to `size` characters, and then split. The
+/// result contains only whole characters.
 std::size_t basename(char* dst, char const* src, std::size_t size);
 
-/// The text through the last separator, or "" when there is none: "/a/b/c.jpg" gives "/a/b/".
+/// Returns the directory with its separator: "/a/b/" for "/a/b/c.jpg", and "" for "c.jpg".
 std::string dirname(std::string const& path);
 
-/// Writes the directory part, within the same limits as `basename`.
+/// Writes the result of `dirname` to `dst`. The limits are the same as for `basename`.
 std::size_t dirname(char* dst, char const* src, std::size_t size);
 
-/// Returns the path of a file that accompanies the one at `path`: its directory, its stem and
-/// `suffix`. The stem is taken from the first 256 characters of the file's name and has at most 255
-/// bytes.
+/// Returns the directory and the stem of `path`, followed by `suffix`: "d/a.zvw" for "d/a.jpg" and
+/// ".zvw". The stem is cut to 255 bytes.
 std::string path_beside(char const* path, char const* suffix);
 
-/// 0 when `s` ends in `ext` (with its dot) without regard to case, -1 when `s` is shorter than
-/// `ext`, else the sign of the comparison.
+/// Returns 0 if `s` ends with `ext`, which includes the dot. Upper and lower case are equal.
+/// Returns -1 if `s` is shorter than `ext`, otherwise the result of strncasecmp.
 int extcasecmp(std::string const& s, char const* ext);
 int extcasecmp(char const* s, std::size_t len, char const* ext);
 
-/// Splits a path into four texts that need room for 1024 bytes each: through the first ":", through
-/// the last separator, up to the last ".", and from there on. What is longer is cut.
+/// Splits a path into four texts: "c:", "/d/", "name" and ".ext" for "c:/d/name.ext". The drive
+/// ends with the first ":". A missing part is an empty text. Each buffer must have 1024 bytes.
+/// Longer parts are cut to 1023 bytes and a NUL.
 void splitpath(char const* path, char* drive, char* dir, char* name, char* ext);
 
-/// Writes the four texts in a row, with no test of the room, and returns `dst`.
+/// Writes the four texts and a NUL to `dst`, one after the other. Returns `dst`, which must be
+/// large enough.
 char* concatpath(char* dst, char const* a, char const* b, char const* c, char const* d);
 
+/// Splits a path into the fields of `parts`.
 void split(splitpath_t& parts, char const* path);
 
-/// Writes the four fields in a row; `dst` needs room for 4093 bytes. Returns `dst`.
+/// Writes the four fields and a NUL to `dst`, which must have 4093 bytes. Returns `dst`.
 char* concat(char* dst, splitpath_t const& parts);
 
-/// Where a file of that name is found: as it stands, in "./", along the PATH variable, or beside
-/// the file `extra`, which may be null. Without a hit, `name` as it stands.
+/// Returns the path of the first file that exists: `name`, and `name` in "./", in each directory of
+/// the environment variable PATH, and in the directory of `extra`, which may be null. Returns
+/// `name` if there is none, so open the result to find out if the file exists.
 std::string searchpath(std::string const& name, char const* extra);
 
-/// The text with native separators for "/" and the other way round. Nothing changes where "/" is
-/// the native one.
+/// Convert "/" to the separator of the system, and back. Both return the text unchanged, because
+/// the separator is "/" on the supported systems. They exist because callers use their names.
 std::string delimconvert(std::string const& path);
 std::string deliminvert(std::string const& path);
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// An owning pointer to a polymorphic object that is replaced by assignment.
+// An owning pointer to an object of a polymorphic class.
 #pragma once
 
 #include <utility>
 
 namespace libutils {
 
-/// Owns at most one object, whose class needs a virtual destructor. It isn't copied or counted.
+/// Owns an object, or is null. The class needs a virtual destructor. The pointer can't be copied.
 template <typename T>
 class ptr_t {
   public:
@@ -15,7 +15,7 @@ class ptr_t {
     ptr_t& operator=(ptr_t const&) = delete;
     ~ptr_t() { free(); }
 
-    /// Destroys what is held and takes over `object`, which may be null.
+    /// Destroys the object and becomes the owner of `object`, which may be null.
     ptr_t& operator=(T* object) {
         if (object != m_object) {
             free();
@@ -24,7 +24,7 @@ class ptr_t {
         return *this;
     }
 
-    /// Destroys what is held. The pointer is null afterwards.
+    /// Destroys the object. The pointer is null afterwards.
     void free() { delete std::exchange(m_object, nullptr); }
 
     bool operator!() const { return m_object == nullptr; }

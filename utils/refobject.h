@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
-// A reference-counted holder of one object, whose count and object stand in one record.
+// A reference-counted pointer to one object.
 #pragma once
 
 #include <utility>
 
 namespace libutils {
 
-/// Shares one heap record {count, T} among its copies. Null until `create`. The last holder
-/// destroys the object. The count is a plain integer: one thread only.
+/// A pointer whose copies share one object. The last copy destroys the object. The pointer is null
+/// before `create`.
+///
+/// The object and its count are in one allocation. The count isn't atomic: all copies must be used
+/// by one thread.
 template <typename T>
 class refobject {
   public:
@@ -25,7 +28,7 @@ class refobject {
         return *this;
     }
 
-    /// Lets go of the present object and holds a new one, made from `arguments`, with a count of 1.
+    /// Replaces the object by a new one, which isn't shared. Passes `arguments` to its constructor.
     template <typename... Arguments>
     T& create(Arguments&&... arguments) {
         record_t* const record = new record_t{1, T(std::forward<Arguments>(arguments)...)};
@@ -34,7 +37,7 @@ class refobject {
         return record->object;
     }
 
-    /// Gives up this share. The holder is null afterwards.
+    /// Sets the pointer to null. The object is destroyed if this was its last pointer.
     void clear() {
         record_t* const record = std::exchange(m_record, nullptr);
         if (record != nullptr && --record->refcount == 0) {
@@ -44,13 +47,13 @@ class refobject {
 
     void swap(refobject& other) noexcept { std::swap(m_record, other.m_record); }
 
-    /// The object, or null. Constness doesn't pass through, as with a pointer.
+    /// Returns the object, or null. A const pointer doesn't make the object const.
     T* get() const { return m_record != nullptr ? &m_record->object : nullptr; }
     T* operator->() const { return get(); }
     T& operator*() const { return *get(); }
     explicit operator bool() const { return m_record != nullptr; }
 
-    /// How many holders share the object; 0 for a null holder.
+    /// Returns the number of pointers that share the object, or 0 for a null pointer.
     unsigned long refcount() const { return m_record != nullptr ? m_record->refcount : 0; }
 
   private:

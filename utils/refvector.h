@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The shared array for small tables: header and elements stand in one allocation.
+// A reference-counted array for small tables, in one allocation.
 #pragma once
 
 #include <cstddef>
@@ -13,8 +13,13 @@
 
 namespace libutils {
 
-/// A handle on a reference-counted array of T. Handles come to share by assignment alone; a resize
-/// always gives the handle a block of its own. One thread only.
+/// A handle on a shared array of T. The header of the array and its elements are in one allocation.
+///
+/// Handles share an array only by assignment. `resize` gives the handle its own copy. All handles
+/// on an array must be used by one thread.
+///
+/// `size` and `end` are of no use for loops. The users, colour palettes, have their own number of
+/// elements and depend on the layout of the functions. Use `count`.
 template <typename T, typename A>
 class refvector {
     static_assert(std::is_trivially_copyable_v<T>, "elements are copied as bytes");
@@ -25,35 +30,36 @@ class refvector {
 
     virtual bool empty() const { return m_block == nullptr || m_block->size == 0; }
 
-    /// The block's total in bytes, header included, and 0 without a block: users keep their own
-    /// count of elements. See `count`.
+    /// Returns the size of the block in bytes, including its header, or 0 without a block. It isn't
+    /// the number of elements.
     virtual unsigned long size() const { return m_block != nullptr ? m_block->size : 0; }
 
-    /// The first element, or null without a block.
+    /// Returns the first element, or null without a block.
     virtual T* begin() { return elements(); }
 
-    /// The first element plus `size()` elements, which lies behind the storage: not a bound to walk
-    /// to.
+    /// Returns the first element plus `size()` elements, an address after the end of the block. It
+    /// isn't the end of the elements: their end is `begin() + count()`.
     virtual T* end() { return elements() + size(); }
     virtual T const* begin() const { return elements(); }
     virtual T const* end() const { return elements() + size(); }
 
-    /// Element `i`, with no bounds check.
+    /// Returns element `i`. The index isn't checked.
     virtual T& operator[](unsigned long i) { return elements()[i]; }
     virtual T const& operator[](unsigned long i) const { return elements()[i]; }
     virtual T* operator->() { return elements(); }
     virtual T const* operator->() const { return elements(); }
 
-    /// Shares the other's block.
+    /// Shares the block of `other`.
     virtual refvector& operator=(refvector const& other);
 
-    /// Takes a block of `n` elements of its own: as many old ones as fit, then zeros. False when
-    /// there is no memory, and then nothing changes. With `n` 0 the handle becomes empty.
+    /// Moves to a new block of `n` elements. Copies the old elements that fit; the others are 0. If
+    /// `n` is 0, empties the handle. Returns false if there isn't enough memory, and then nothing
+    /// changes.
     virtual bool resize(unsigned long n);
     virtual void clear() { release(); }
     virtual ~refvector() { release(); }
 
-    /// How many elements the storage holds.
+    /// Returns the number of elements.
     unsigned long count() const {
         return m_block != nullptr ? (m_block->size - sizeof(block_t)) / sizeof(T) : 0;
     }

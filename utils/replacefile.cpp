@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Writing a file as a whole or not at all.
+// Replaces a file by a complete new one.
 #include "utils/replacefile.h"
 
 #include <fcntl.h>
@@ -13,36 +13,39 @@
 #include <csignal>
 #include <cstdio>
 
+#include "utils/filedescriptor.h"
+
 namespace libutils {
 
 namespace {
 
-/// The directory of a path for the system, which has no other separator than "/".
+/// Returns the directory part of a path, up to and including its last "/". The system's functions
+/// have no other separator.
 std::string directory_of(std::string const& path) {
     return path.substr(0, path.rfind('/') + 1);
 }
 
-/// Holds back the signals that ask the program to end, for the lifetime of the object.
-class signal_hold_t {
+/// Blocks the signals that ask the program to end, until the end of the block.
+class signal_block_t {
   public:
-    signal_hold_t() {
-        sigset_t held;
-        sigemptyset(&held);
+    signal_block_t() {
+        sigset_t blocked;
+        sigemptyset(&blocked);
         for (int const signal : {SIGHUP, SIGINT, SIGTERM}) {
-            sigaddset(&held, signal);
+            sigaddset(&blocked, signal);
         }
-        pthread_sigmask(SIG_BLOCK, &held, &m_before);
+        pthread_sigmask(SIG_BLOCK, &blocked, &m_before);
     }
-    signal_hold_t(signal_hold_t const&) = delete;
-    signal_hold_t& operator=(signal_hold_t const&) = delete;
-    ~signal_hold_t() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+    signal_block_t(signal_block_t const&) = delete;
+    signal_block_t& operator=(signal_block_t const&) = delete;
+    ~signal_block_t() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
 
   private:
     sigset_t m_before{};
 };
 
-/// A new file under a temporary name. The destructor removes it unless `rename_to` succeeded, and
-/// leaves errno as it is.
+/// A new file under a temporary name. The destructor removes the file unless `rename_to` has
+/// succeeded. It doesn't change errno.
 class new_file_t {
   public:
     new_file_t() = default;
@@ -50,26 +53,25 @@ class new_file_t {
     new_file_t& operator=(new_file_t const&) = delete;
     ~new_file_t() {
         int const error = errno;
-        if (m_fd != -1) {
-            close(m_fd);
-        }
         if (!m_path.empty()) {
             unlink(m_path.c_str());
         }
         errno = error;
     }
 
-    /// The name has no extension of a picture, and its length does not depend on any other name.
+    /// Creates the file. Its name has no extension of a picture, and its length doesn't depend on
+    /// any other name.
     bool create(std::string const& directory, mode_t mode) {
-        constexpr int most_attempts = 100;
+        constexpr int max_attempt_count = 100;
         static unsigned s_number = 0;
-        for (int i = 0; i < most_attempts; ++i) {
+        for (int i = 0; i < max_attempt_count; ++i) {
             std::array<char, 64> name{};
             std::snprintf(name.data(), name.size(), ".zvw-%ld-%u.new", static_cast<long>(getpid()),
                           s_number++);
             std::string path = directory + name.data();
-            m_fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-            if (m_fd != -1) {
+            m_file = file_descriptor_t(
+                open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+            if (m_file.is_open()) {
                 m_path.swap(path);
                 return true;
             }
@@ -82,7 +84,7 @@ class new_file_t {
 
     bool write(std::string_view bytes) const {
         while (!bytes.empty()) {
-            ssize_t const written = ::write(m_fd, bytes.data(), bytes.size());
+            ssize_t const written = ::write(m_file.get(), bytes.data(), bytes.size());
             if (written > 0) {
                 bytes.remove_prefix(static_cast<std::size_t>(written));
             } else if (written == 0 || errno != EINTR) {
@@ -93,19 +95,16 @@ class new_file_t {
         return true;
     }
 
-    /// Returns true for a file system that does not implement fsync, too.
-    bool sync() const { return fsync(m_fd) == 0 || errno == EINVAL; }
+    /// Writes the content to the device. Succeeds on a file system that doesn't implement fsync.
+    bool sync() const { return fsync(m_file.get()) == 0 || errno == EINVAL; }
 
     void set_permissions(mode_t mode) const {
-        // Where the file system has no permissions, those of `create` are as good.
-        [[maybe_unused]] int const ignored = fchmod(m_fd, mode);
+        // The result is ignored because some file systems have no permissions.
+        [[maybe_unused]] int const ignored = fchmod(m_file.get(), mode);
     }
 
-    /// The errors of some network file systems come with the close.
     bool rename_to(std::string const& path) {
-        int const fd = m_fd;
-        m_fd = -1;
-        if (close(fd) != 0 || rename(m_path.c_str(), path.c_str()) != 0) {
+        if (!m_file.close() || rename(m_path.c_str(), path.c_str()) != 0) {
             return false;
         }
         m_path.clear();
@@ -113,7 +112,7 @@ class new_file_t {
     }
 
   private:
-    int m_fd = -1;
+    file_descriptor_t m_file;
     std::string m_path;
 };
 
@@ -131,15 +130,15 @@ bool replace_file(std::string const& path, std::string_view bytes) {
         return false;
     }
     mode_t const mode = is_file ? old.st_mode & 0777 : 0666;
-    signal_hold_t const hold;
+    signal_block_t const signals;
     new_file_t file;
     if (!file.create(directory_of(path), mode) || !file.write(bytes)) {
         return false;
     }
     if (is_file) {
         file.set_permissions(mode);
-        // A loss of power soon after the rename could otherwise leave an empty file in place of
-        // the good one. Where there was no file, nothing can be lost, and the wait is not needed.
+        // Otherwise a power failure soon after the rename could replace the old file by an empty
+        // one. A new file replaces nothing and doesn't need to wait.
         if (!file.sync()) {
             return false;
         }
@@ -148,9 +147,9 @@ bool replace_file(std::string const& path, std::string_view bytes) {
 }
 
 std::string follow_links(std::string path) {
-    constexpr int most_links = 40;
+    constexpr int max_link_count = 40;
     std::array<char, PATH_MAX> target{};
-    for (int i = 0; i < most_links; ++i) {
+    for (int i = 0; i < max_link_count; ++i) {
         ssize_t const length = readlink(path.c_str(), target.data(), target.size());
         if (length <= 0) {
             break;

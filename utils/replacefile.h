@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Writing a file as a whole or not at all.
+// Replaces a file by a complete new one.
 #pragma once
 
 #include <string>
@@ -7,20 +7,20 @@
 
 namespace libutils {
 
-/// Writes `bytes` to a new file in the directory of `path` and renames that file to `path` when it
-/// is complete.
+/// Writes `bytes` to a new file in the directory of `path`, and renames the new file to `path` when
+/// it is complete. Other programs see the old content or the new content, never a part of it.
 ///
-/// A regular file or a symbolic link at `path` is replaced. The target of the link and other hard
-/// links to the old file keep their content. The new file has the permissions of the regular file
-/// that it replaces, otherwise those that the umask leaves. Anything else at `path`, such as a
-/// directory or a device, is an error.
+/// Replaces a regular file or a symbolic link at `path`. The target of the link and other hard
+/// links to the old file keep their content; see `follow_links`. The new file gets the permissions
+/// of the regular file that it replaces, otherwise 0666 without the bits of the umask. Fails with
+/// EISDIR if `path` is a directory, and with EEXIST if it is anything else, for example a device.
 ///
-/// Returns false and sets errno on failure. `path` is then unchanged and the new file is removed.
-/// SIGHUP, SIGINT and SIGTERM are delivered after the function has finished or cleaned up.
+/// Returns false and sets errno on failure. `path` is then unchanged, and the new file is removed.
+/// SIGHUP, SIGINT and SIGTERM are blocked during the call.
 bool replace_file(std::string const& path, std::string_view bytes);
 
-/// Returns the path that is reached by following the symbolic links at `path`. The target need not
-/// exist. Following ends after 40 links.
+/// Returns the target of the symbolic link at `path`, or `path` if it isn't a link. Follows a chain
+/// of up to 40 links. The target doesn't have to exist.
 std::string follow_links(std::string path);
 
 }  // namespace libutils

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reading small files.
+// Reads a whole file that must not be larger than a limit.
 #include "utils/smallfile.h"
 
 #include <fcntl.h>
@@ -9,13 +9,14 @@
 #include <cerrno>
 #include <cstdint>
 
+#include "utils/filedescriptor.h"
 #include "utils/limits.h"
 
 namespace libutils {
 
 namespace {
 
-bool read_all(int fd, std::vector<char>& buffer) {
+bool fill(std::vector<char>& buffer, int fd) {
     for (std::size_t done = 0; done < buffer.size();) {
         ssize_t const got = read(fd, buffer.data() + done, buffer.size() - done);
         if (got < 0 && errno == EINTR) {
@@ -32,24 +33,18 @@ bool read_all(int fd, std::vector<char>& buffer) {
 }  // namespace
 
 small_file_t read_small_file(std::vector<char>& buffer, char const* path) {
-    // Without O_NONBLOCK a pipe would wait for its writer.
-    int const fd = open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0) {
+    // Without O_NONBLOCK, opening a named pipe waits for its writer.
+    file_descriptor_t const file(open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat status {};
+    if (!file.is_open() || fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) {
         return small_file_t::UNREADABLE;
     }
-    struct stat status {};
-    small_file_t outcome = small_file_t::UNREADABLE;
-    if (fstat(fd, &status) == 0 && S_ISREG(status.st_mode)) {
-        if (static_cast<std::uint64_t>(status.st_size) > limits::small_file.value) {
-            report_limit(limits::small_file, path);
-            outcome = small_file_t::TOO_LONG;
-        } else {
-            buffer.resize(static_cast<std::size_t>(status.st_size));
-            outcome = read_all(fd, buffer) ? small_file_t::READ : small_file_t::UNREADABLE;
-        }
+    if (static_cast<std::uint64_t>(status.st_size) > limits::small_file.value) {
+        report_limit(limits::small_file, path);
+        return small_file_t::TOO_LONG;
     }
-    close(fd);
-    return outcome;
+    buffer.resize(static_cast<std::size_t>(status.st_size));
+    return fill(buffer, file.get()) ? small_file_t::READ : small_file_t::UNREADABLE;
 }
 
 }  // namespace libutils

@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: MIT
-// Reading small text files of the user whole and within a limit.
+// Reads a whole file that must not be larger than a limit.
 #pragma once
 
 #include <vector>
 
 namespace libutils {
 
+/// The result of `read_small_file`.
 enum class small_file_t {
-    READ,
-    UNREADABLE,  ///< missing, not to be opened, or no plain file
-    TOO_LONG     ///< exceeds the limit small-file (utils/limits.h), which was reported
+    READ,        ///< the buffer contains the file
+    UNREADABLE,  ///< the file can't be opened or read, or isn't a regular file
+    TOO_LONG     ///< the file exceeds `limits::small_file` (1 MiB, utils/limits.h)
 };
 
-/// Reads a plain file into `buffer`. Otherwise the buffer's content is of no use.
+/// Reads all bytes of the regular file at `path` into `buffer`, without a NUL at the end.
+///
+/// Prints the line of `report_limit` for `TOO_LONG`, and nothing for `UNREADABLE`. In both cases
+/// the content of `buffer` is undefined.
 small_file_t read_small_file(std::vector<char>& buffer, char const* path);
 
 }  // namespace libutils

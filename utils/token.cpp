@@ -17,7 +17,7 @@ void trim_end(std::string& text, std::string_view characters) {
 }  // namespace
 
 void separate_token(std::list<std::string>& out, std::string const& text, char const* delimiters) {
-    std::string_view const set(delimiters, std::strlen(delimiters) + 1);  // the NUL delimits, too
+    std::string_view const set(delimiters, std::strlen(delimiters) + 1);  // includes the NUL
     std::size_t start = 0;
     for (std::size_t end = text.find_first_of(set); end != std::string::npos;
          end = text.find_first_of(set, start)) {

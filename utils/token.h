@@ -9,42 +9,43 @@
 
 namespace libutils {
 
-/// Appends the pieces of `text` between delimiters, empty ones too, to `out`; an empty last piece
-/// is left out. Any character of `delimiters` delimits, and so does a NUL byte.
+/// Splits `text` at each character that is in `delimiters`, and at each NUL. Appends the pieces to
+/// `out`, also empty pieces, but not an empty last piece.
 void separate_token(std::list<std::string>& out, std::string const& text, char const* delimiters);
 
-/// Splits at the first `delimiter`. False, with `out` as it was, when there is none.
+/// Splits `text` at the first `delimiter`. Returns false, and doesn't change `out`, if there is
+/// none.
 bool separate_first_token(std::pair<std::string, std::string>& out, std::string const& text,
                           char delimiter);
 
-/// `out` becomes the tokens with `separator` between them.
+/// Sets `out` to the tokens, with `separator` between them.
 void concatenate_token(std::string& out, std::list<std::string>& tokens, char const* separator);
 
-/// `out` becomes the list's strings.
+/// Sets `out` to the strings of `in`.
 void copy(std::vector<std::string>& out, std::list<std::string>& in);
 
-/// Appends the list's strings to `out`.
+/// Appends the strings of `in` to `out`.
 void cat(std::vector<std::string>& out, std::list<std::string> const& in);
 
-/// `out` becomes the C pointers of the list's strings, which stay the list's; there is no null at
-/// the end.
+/// Sets `out` to the addresses of the strings of `in`, without a null pointer at the end. They are
+/// valid until a string changes.
 void makecharptrarray(std::vector<char const*>& out, std::list<std::string> const& in);
 
-/// Removes CR and LF from the end.
+/// Removes all CR and LF at the end.
 void chop(std::string& text);
 
-/// Removes blank, tab, LF, CR and NUL from the end.
+/// Removes all blanks, tabs, LF, CR and NUL at the end.
 void chop2(std::string& text);
 
-/// 0 when `a` begins with `b`, else as strncmp over the length of `b`.
+/// Returns 0 if `a` begins with `b`, otherwise the result of strncmp for the length of `b`.
 int stringcmp(char const* a, char const* b);
 
-/// The text as wide characters of the locale that is set, or an empty one when it has bytes that
-/// are no character.
+/// Converts a text from the current locale (setlocale) to wide characters. Returns an empty text if
+/// it isn't valid in the locale.
 std::wstring str2wstr(std::string const& text);
 
-/// The text in the bytes of the locale that is set, or an empty one when it has characters that the
-/// locale lacks.
+/// Converts wide characters to the current locale. Returns an empty text if the locale doesn't have
+/// one of the characters.
 std::string wstr2str(std::wstring const& text);
 
 }  // namespace libutils

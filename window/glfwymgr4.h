@@ -58,18 +58,19 @@ class glfwyMGR4 : public singleton<glfwyMGR4> {
     void Exit() { exit_requested = true; }
 
     /// Requests that the loop draws all windows after the current events. Several requests result
-    /// in one drawing. A request from `display` is lost if the loop called `display`.
+    /// in one drawing. The loop forgets all requests after it has drawn, also one from `display`.
     void PostRedisplay();
 
     /// Swaps the buffers of the window of `api`. Only code that calls `display` itself needs it.
     void SwapBuffers(glutyAPI4* api) const;
 
-    /// Sets if a key that is held down repeats its call of `keyboard` or `specialkey`. Initially
-    /// off.
+    /// Enables or disables key repeat: repeated calls of `keyboard` or `specialkey` for a key that
+    /// is held down. Initially disabled.
     void KeyRepeat(bool on) { key_repeat = on; }
     bool isKeyRepeat() const { return key_repeat; }
 
-    /// Set if the loop calls `idle` of each window once after each wake-up. Initially on.
+    /// Enable and disable the call of `idle` of each window after each wake-up of the loop.
+    /// Initially enabled.
     void IdleOn() { idle_enabled = true; }
     void IdleOff() { idle_enabled = false; }
 

@@ -44,7 +44,7 @@ class glutyAPI {
     virtual void mouse(int button, int state, int x, int y);
     /// The cursor was moved, with or without a pressed button.
     virtual void motion(int x, int y);
-    /// Isn't called. `motion` reports all movements.
+    /// Never called: `motion` reports all movements.
     virtual void passivemotion(int x, int y);
     /// The event loop was woken up. See `glfwyMGR4::IdleOn`.
     virtual void idle();

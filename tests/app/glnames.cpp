@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "glext/glextloader.h"
+#include "utils/filedescriptor.h"
 
 namespace {
 
@@ -81,12 +82,12 @@ void remove_lists(GLuint first, GLsizei n) {
 void open_counts() {
     constexpr std::size_t size = (lists + 1) * sizeof *counts;
     char const* const path = std::getenv("ZANOVIEW3_GL_NAMES");
-    int const file = path != nullptr ? open(path, O_RDWR | O_CREAT | O_CLOEXEC, 0600) : -1;
-    if (file < 0 || ftruncate(file, size) != 0) {
+    libutils::file_descriptor_t const file(
+        path != nullptr ? open(path, O_RDWR | O_CREAT | O_CLOEXEC, 0600) : -1);
+    if (ftruncate(file.get(), size) != 0) {
         std::abort();
     }
-    void* const mapping = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
-    close(file);
+    void* const mapping = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, file.get(), 0);
     counts = mapping != MAP_FAILED ? static_cast<std::int64_t*>(mapping) : nullptr;
 }
 

@@ -13,16 +13,13 @@ namespace libgr {
 namespace {
 
 TEST(Color, ConvertsToLumaAndChromaAndBack) {
-    std::tuple<color3ub_t, int, int, int> const rows[] = {
-        {white3ub, 255, 128, 128},       {black3ub, 0, 128, 128},    {gray3ub, 127, 128, 128},
-        {{255, 0, 0}, 76, 107, 192},     {{0, 255, 0}, 150, 86, 75}, {{0, 0, 255}, 29, 192, 118},
-        {{200, 100, 50}, 124, 107, 155},
-    };
-    for (auto const& [rgb, y, cb, cr] : rows) {
+    using row_t = std::tuple<color3ub_t, int, int, int>;
+    for (auto const& [rgb, y, cb, cr] :
+         {row_t{white3ub, 255, 128, 128}, row_t{black3ub, 0, 128, 128},
+          row_t{{255, 0, 0}, 76, 107, 192}, row_t{{0, 255, 0}, 150, 86, 75},
+          row_t{{0, 0, 255}, 29, 192, 118}, row_t{{200, 100, 50}, 124, 107, 155}}) {
         ycbcrub_t const got = ycbcrub(rgb);
-        EXPECT_EQ(got.y, y) << "luma " << y;
-        EXPECT_EQ(got.cb, cb) << "luma " << y;
-        EXPECT_EQ(got.cr, cr) << "luma " << y;
+        EXPECT_EQ(std::tuple(got.y, got.cb, got.cr), std::tuple(y, cb, cr));
         color3ub_t const back = color3ub(got);
         for (auto const channel : {&color3ub_t::r, &color3ub_t::g, &color3ub_t::b}) {
             EXPECT_NEAR(back.*channel, rgb.*channel, 3) << "luma " << y;

@@ -45,10 +45,10 @@ values_t values_of(app1_marker_t::tiff_header_t const& t) {
     add("Make", t.tag_0th_ifd.Make);
     add("Orientation", t.tag_0th_ifd.Orientation);
     add("XResolution", t.tag_0th_ifd.XResolution);
-    add("ExposureTime", t.tag_exif_ifd.ExposureTime);
-    add("ExposureProgram", t.tag_exif_ifd.ExposureProgram);
-    add("DateTimeOriginal", t.tag_exif_ifd.DateTimeOriginal);
-    add("ExposureBias", t.tag_exif_ifd.ExposureBiasValue);
+    add("Exposure", t.tag_exif_ifd.ExposureTime);
+    add("Program", t.tag_exif_ifd.ExposureProgram);
+    add("Date", t.tag_exif_ifd.DateTimeOriginal);
+    add("Bias", t.tag_exif_ifd.ExposureBiasValue);
     add("thumbnail", t.thumbnail);
     add("100C", t.tag_olympus_ifd.tag_0x100C);
     add("1015", t.tag_olympus_ifd.tag_0x1015);
@@ -80,8 +80,11 @@ std::pair<std::string, values_t> result_of(std::string const& payload) {
 
 /// The names of the lost values, and the new values.
 std::string difference(values_t const& before, values_t const& after) {
-    std::string text = after.empty() ? " nothing" : "";
-    for (std::string const& value : after.empty() ? values_t() : before) {
+    if (after.empty()) {
+        return " nothing";
+    }
+    std::string text;
+    for (std::string const& value : before) {
         text += after.contains(value) ? "" : " -" + value.substr(0, value.find('='));
     }
     for (std::string const& value : after) {
@@ -102,7 +105,9 @@ TEST(Exif, ReadsBlocksWithChangedFields) {
             in >> std::quoted(maker) >> note;
             block_t intel(true, maker, note);
             block_t motorola(false, maker, note);
-            values_t const before = in.eof() ? values_t() : result_of(intel.app1()).second;
+            block_t const usual = in.eof() ? block_t(true, maker, "none") : intel;
+            values_t const before =
+                note == "none" && in.eof() ? values_t() : result_of(usual.app1()).second;
             while (in >> field) {
                 intel.change(field);
                 motorola.change(field);

@@ -2,11 +2,11 @@
 """The installed libraries, as a program outside the source tree uses them."""
 import os
 import pathlib
-import re
 import subprocess
 import sys
 import unittest
 
+from codeblocks import code_blocks
 from installed import BUILD, SOURCE, PackagingTest, main, run
 
 LIBRARIES = "utils geometry image metadata codecs glext gl options window scene".split()
@@ -20,9 +20,8 @@ TARGET = "add_executable({name} {source})\ntarget_link_libraries({name} PRIVATE 
 
 def snippets():
     """The programs of docs/libraries.md by their headings."""
-    text = (SOURCE / "docs/libraries.md").read_text()
     return {heading.split()[0].lower(): code
-            for heading, code in re.findall(r"^## (.*?)\n.*?^```cpp\n(.*?)^```", text, re.M | re.S)}
+            for heading, code in code_blocks((SOURCE / "docs/libraries.md").read_text())}
 
 
 class Libraries(PackagingTest):

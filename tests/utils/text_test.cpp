@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tests of paths, tokens and stream helpers, with names that aren't text in the locale among them.
+// Tests of paths, tokens and stream helpers, also with names that aren't valid in the locale.
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
@@ -19,22 +19,19 @@ namespace {
 using namespace libutils;
 using list_t = std::list<std::string>;
 
-/// A path and its parts: dirname|basename|drive|dir|name|ext. Two aren't UTF-8.
+/// A path and its parts: dirname|basename|drive|dir|name|ext.
 constexpr std::pair<char const*, char const*> path_rows[] = {
     {"/a/b/c.tar.gz", "/a/b/|c.tar||/a/b/|c.tar|.gz"},
     {"/a/b/", "/a/b/|||/a/b/||"},
     {"/a.d/c", "/a.d/|c||/a.d/|c|"},
     {".hidden", "|||||.hidden"},
-    {"", "|||||"},
     {"c:\\x/y.z", "c:\\x/|y|c:|\\x/|y|.z"},
-    {"x/y\\z.w", "x/y\\|z||x/y\\|z|.w"},
     {"a:b:c.d", "|a:b:c|a:||b:c|.d"},
     {"/\xFF\xC3/\x80.jpg", "/\xFF\xC3/|\x80||/\xFF\xC3/|\x80|.jpg"},
-    {"a/b.\xE5\xAF", "a/|b||a/|b|.\xE5\xAF"},
     {"\xC3\xA4.\xE5\xAF\xBA/\xC3\xB6.png",
      "\xC3\xA4.\xE5\xAF\xBA/|\xC3\xB6||\xC3\xA4.\xE5\xAF\xBA/|\xC3\xB6|.png"}};
 
-TEST(path, parts_in_every_locale) {
+TEST(Path, SplitsInEveryLocale) {
     for (char const* const locale : {"C", "C.UTF-8"}) {
         ASSERT_NE(std::setlocale(LC_ALL, locale), nullptr);
         for (auto const& [given, expected] : path_rows) {
@@ -54,46 +51,40 @@ TEST(path, parts_in_every_locale) {
     EXPECT_EQ(wstr2str(str2wstr("a\xFF") + static_cast<wchar_t>(0xD800)), "");
 }
 
-TEST(path, fixed_rooms_are_not_left) {
+TEST(Path, CutsPartsToTheSizeOfTheBuffer) {
     ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
     std::string const run(2000, 'n');
-    using row_t = std::tuple<std::string, std::size_t, std::string, std::string>;
+    using row_t = std::tuple<char const*, std::size_t, std::string, std::string>;
     for (auto const& [path, size, directory, stem] :
-         {row_t{"/ab/cd.e", 9, "/ab/", "cd"}, row_t{"/ab/cd.e", 6, "/ab/", "cd"},
-          row_t{"/ab/cd.e", 3, "/", "ab"}, row_t{"/ab/cd.e", 0, "", ""},
-          row_t{"\xC3\xA4\xC3\xB6x", 3, "", "\xC3\xA4"},  // whole characters
-          row_t{"d/" + run + ".e", 1023, "d/", std::string(1021, 'n')},
-          row_t{run + "\xFF", 1023, "", std::string(1023, 'n')}}) {
-        for (bool const base : {true, false}) {
-            std::string room(size + 8, '~'), expected = base ? stem : directory;
-            std::size_t const length = base ? basename(room.data(), path.c_str(), size)
-                                            : dirname(room.data(), path.c_str(), size);
-            expected.resize(std::min(length + 1, size), '\0');
-            expected.resize(size + 8, '~');
-            EXPECT_EQ(room, expected) << path << ' ' << size;
-        }
+         {row_t{"/ab/cd.e", 9, {"/ab/\0", 5}, {"cd\0", 3}},
+          row_t{"/ab/cd.e", 3, {"/\0", 2}, {"ab\0", 3}}, row_t{"/ab/cd.e", 0, "", ""},
+          row_t{"/abc", 4, {"/\0", 2}, {"abc\0", 4}}, row_t{"abc", 3, {"\0", 1}, "abc"},
+          row_t{"\xC3\xA4\xC3\xB6x", 3, {"\0", 1}, {"\xC3\xA4\0", 3}}}) {
+        std::string buffer(12, '~');
+        EXPECT_EQ(basename(buffer.data(), path, size), std::strlen(stem.c_str())) << path << size;
+        EXPECT_EQ(buffer, stem + std::string(12 - stem.size(), '~')) << path << size;
+        buffer.assign(12, '~');
+        EXPECT_EQ(dirname(buffer.data(), path, size), std::strlen(directory.c_str()));
+        EXPECT_EQ(buffer, directory + std::string(12 - directory.size(), '~')) << path << size;
     }
     splitpath_t parts;
-    for (std::string const& path : {run, run + ":" + run + "/" + run + "." + run}) {
-        split(parts, path.c_str());
-        EXPECT_EQ(std::string(parts.name), run.substr(0, 1023));
+    split(parts, (run + ":" + run + "/" + run + "." + run).c_str());
+    for (char const* part : {parts.drive, parts.dir, parts.name, parts.ext}) {
+        EXPECT_EQ(std::strlen(part), 1023U);
     }
-    EXPECT_EQ(strlen(parts.drive) + strlen(parts.dir) + strlen(parts.ext), 3 * 1023U);
 }
 
-TEST(path, files_beside_a_picture_keep_its_whole_directory) {
+TEST(Path, ReplacesTheExtensionAndCutsOnlyTheStem) {
     ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
     std::string const deep = std::string(1200, 'd') + ".d/", run(300, 'n');
-    using row_t = std::array<std::string, 3>;  // directory, name, stem
-    for (auto const& [directory, name, stem] :
-         {row_t{"", "a.jpg", "a"}, row_t{"d\\", "a.b.jpg", "a.b"}, row_t{deep, "a", "a"},
-          row_t{deep, run + ".jpg", run.substr(0, 255)}}) {
-        EXPECT_EQ(path_beside((directory + name).c_str(), ".zvw"), directory + stem + ".zvw");
-    }
+    EXPECT_EQ(path_beside("d\\a.b.jpg", ".zvw"), "d\\a.b.zvw");
+    EXPECT_EQ(path_beside((deep + run + ".jpg").c_str(), ".zvw"),
+              deep + run.substr(0, 255) + ".zvw");
 }
 
-TEST(path, searches_in_order_and_compares_ends) {
-    EXPECT_TRUE(extcasecmp("a.JPG", 5, ".jpg") == 0 && extcasecmp("g", 1, ".jpg") == -1);
+TEST(Path, SearchesDirectoriesInOrderAndComparesExtensions) {
+    EXPECT_EQ(extcasecmp("a.JPG", 5, ".jpg"), 0);
+    EXPECT_EQ(extcasecmp("g", 1, ".jpg"), -1);
     EXPECT_NE(extcasecmp(std::string("picture.jpeg"), ".jpg"), 0);
     temp_dir_t const dir;
     for (std::string const name : {"one", "two"}) {
@@ -108,7 +99,7 @@ TEST(path, searches_in_order_and_compares_ends) {
     EXPECT_EQ(searchpath("a.msg", nullptr), "a.msg");
 }
 
-TEST(token, separates_joins_and_trims) {
+TEST(Token, SplitsJoinsAndTrims) {
     using row_t = std::tuple<std::string, char const*, list_t>;
     for (auto const& [text, delimiters, tokens] :
          {row_t{"a  b", " \t", {"x", "a", "", "b"}}, row_t{"", " ", {"x"}},
@@ -120,21 +111,23 @@ TEST(token, separates_joins_and_trims) {
     }
     using pair_t = std::pair<std::string, std::string>;
     pair_t pair = {"k=v=w", "old"};
-    EXPECT_TRUE(!separate_first_token(pair, "kv", '=') && pair.second == "old");
-    EXPECT_TRUE(separate_first_token(pair, pair.first, '=') && pair == pair_t("k", "v=w"));
+    EXPECT_FALSE(separate_first_token(pair, "kv", '='));
+    EXPECT_EQ(pair.second, "old");
+    EXPECT_TRUE(separate_first_token(pair, pair.first, '='));
+    EXPECT_EQ(pair, pair_t("k", "v=w"));
     list_t list = {"a", "b"};
     concatenate_token(pair.first, list, ", ");
     EXPECT_EQ(pair.first, "a, b");
-    for (std::string text : {std::string("\r\n\r"), std::string(" a \t\r\n\0", 7)}) {
-        std::string line = text;
-        chop(line);
-        chop2(text);
-        EXPECT_EQ(line + '|' + text, line.empty() ? "|" : std::string(" a \t\r\n\0| a", 10));
-    }
-    EXPECT_TRUE(stringcmp("-winsize", "-win") == 0 && stringcmp("-wi", "-win") < 0);
+    std::string line = " a \t\r\n", text("\n b\0\t\r\n", 7), empty = "\r\n\r";
+    chop(line);
+    chop2(text);
+    chop(empty);
+    EXPECT_EQ(line + '|' + text + '|' + empty, " a \t|\n b|");
+    EXPECT_EQ(stringcmp("-winsize", "-win"), 0);
+    EXPECT_LT(stringcmp("-wi", "-win"), 0);
 }
 
-TEST(diagnostics, control_characters_are_escaped_and_nothing_else) {
+TEST(Diagnostics, EscapesOnlyControlCharacters) {
     using row_t = std::array<char const*, 3>;  // in UTF-8, as bytes
     for (auto const& [text, utf8, bytes] :
          {row_t{"a\\x1b \xC3\xA4", "a\\x1b \xC3\xA4", "a\\x1b \xC3\xA4"},
@@ -146,11 +139,11 @@ TEST(diagnostics, control_characters_are_escaped_and_nothing_else) {
         EXPECT_EQ(escape_controls(text, true), bytes);
         std::ostringstream out;
         out << putname(text) << putname(nullptr);
-        EXPECT_EQ(out.str(), text) << "no terminal";
+        EXPECT_EQ(out.str(), text) << "the stream isn't a terminal";
     }
 }
 
-TEST(diagnostics, helpers_leave_the_stream_as_it_was) {
+TEST(Diagnostics, HelpersKeepTheFlagsOfTheStream) {
     std::ostringstream out;
     out.fill('*');
     out << putspace(0) << putcn('-', 0) << '[' << putspace(2) << putcn('=', 3) << _putn{"a\0b", 3}

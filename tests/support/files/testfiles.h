@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What tests need of the file system and the standard streams.
+// Temporary files and captured output for tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,13 +13,13 @@
 #include <string>
 #include <system_error>
 
-/// A new directory of its own, removed with all it holds at the end of the block.
+/// A new directory. It and its files are removed at the end of the block.
 class temp_dir_t {
   public:
     temp_dir_t() {
         std::string pattern = (std::filesystem::temp_directory_path() / "zvtest.XXXXXX").string();
         if (::mkdtemp(pattern.data()) == nullptr) {
-            ADD_FAILURE() << "no temporary directory: " << pattern;
+            ADD_FAILURE() << "can't create a directory: " << pattern;
         }
         m_path = pattern;
     }
@@ -32,14 +32,14 @@ class temp_dir_t {
 
     std::string const& path() const { return m_path; }
 
-    /// The path of a file in it: "<path>/<name>".
+    /// Returns the path of a file in the directory: "<path>/<name>".
     std::string file(std::string const& name) const { return m_path + "/" + name; }
 
   private:
     std::string m_path;
 };
 
-/// Writes a file anew. Returns the path.
+/// Creates or replaces a file. Returns the path.
 inline std::string write_file(std::string const& path, std::string const& bytes) {
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -49,7 +49,7 @@ inline std::string write_file(std::string const& path, std::string const& bytes)
     return path;
 }
 
-/// A file's bytes; a failure and an empty text when it can't be read.
+/// Returns the bytes of a file. If it can't be read, the test fails and the text is empty.
 inline std::string read_file(std::string const& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in) {
@@ -58,21 +58,21 @@ inline std::string read_file(std::string const& path) {
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-/// Takes what is written to standard output and the error stream, until the end of the block.
-/// Format flags that were set meanwhile go back, too.
+/// Captures the standard output and the error stream until the end of the block, and then restores
+/// their format flags.
 class capture_t {
   public:
-    /// What came since the start or the last call.
+    /// Return the text since the start or since the last call.
     std::string out() { return m_out.take(); }
     std::string err() { return m_err.take(); }
 
   private:
-    struct taken_t {
-        explicit taken_t(std::ostream& out)
+    struct captured_t {
+        explicit captured_t(std::ostream& out)
             : stream(out), flags(out.flags()), kept(out.rdbuf(text.rdbuf())) {}
-        taken_t(taken_t const&) = delete;
-        taken_t& operator=(taken_t const&) = delete;
-        ~taken_t() {
+        captured_t(captured_t const&) = delete;
+        captured_t& operator=(captured_t const&) = delete;
+        ~captured_t() {
             stream.rdbuf(kept);
             stream.flags(flags);
         }
@@ -88,6 +88,6 @@ class capture_t {
         std::streambuf* kept;
     };
 
-    taken_t m_out{std::cout};
-    taken_t m_err{std::cerr};
+    captured_t m_out{std::cout};
+    captured_t m_err{std::cerr};
 };

@@ -24,7 +24,7 @@ inline std::vector<std::string> lines_of(std::string const& text) {
     return lines;
 }
 
-/// The lines around line `at`, which is marked by `mark`, under a title.
+/// Returns a title and the lines around line `at`, which gets the mark.
 inline std::string excerpt(char const* title, std::vector<std::string> const& lines, std::size_t at,
                            char mark) {
     constexpr std::size_t context = 3;
@@ -43,8 +43,8 @@ inline std::string excerpt(char const* title, std::vector<std::string> const& li
 }  // namespace transcript
 
 /// Succeeds if the file at `path` has exactly this text. A failure shows the first line that
-/// differs, with its surroundings on both sides, and the command that accepts the new text: with
-/// ZV_ACCEPT set in the environment, the file is written instead. Nothing else is ever written.
+/// differs, the lines around it in both texts, and the command that accepts the new text. If the
+/// environment variable ZV_ACCEPT is set, writes the text to the file instead of comparing it.
 inline testing::AssertionResult matches_file(std::string const& text, std::string const& path) {
     if (std::getenv("ZV_ACCEPT") != nullptr) {
         write_file(path, text);
