@@ -72,6 +72,13 @@ bool is_picture_name(std::string const& name) {
         [&](char const* extension) { return libutils::extcasecmp(name, extension) == 0; });
 }
 
+void report_skipped(std::string const& path) {
+    if (zanolib::g_option.verbose) {
+        std::cout << libutils::putname(path)
+                  << ": skipped: " << libutils::putname(libutils::failure_reason()) << std::endl;
+    }
+}
+
 bool append_pictures(picture_list_t& list, std::string const& given) {
     std::string const path = given.empty() ? "." : given;
     if (zanolib::g_option.verbose) {
@@ -90,6 +97,9 @@ bool append_pictures(picture_list_t& list, std::string const& given) {
         return true;
     }
     if (!is_picture_name(path)) {
+        libutils::clear_failure_reason();
+        libutils::reject("unknown extension");
+        report_skipped(path);
         return false;
     }
     if (zanolib::g_option.debug) {

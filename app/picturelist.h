@@ -39,6 +39,10 @@ enum class walk_t {
 /// True for a name that ends, in any case of letters, in ".jpg", ".jpeg", ".bmp", ".png" or ".tga".
 bool is_picture_name(std::string const& name);
 
+/// With the option `verbose`, prints the line "PATH: skipped: REASON" on standard output, with the
+/// reason that is recorded (utils/diagnostics.h).
+void report_skipped(std::string const& path);
+
 /// Appends the pictures of the directory `path`, sorted by the bytes of their full paths, or, when
 /// it is no directory, `path` itself if it has a picture's name (it need not exist). An empty
 /// `path` is the current directory. Returns false, with `list` as it was, when nothing was found.

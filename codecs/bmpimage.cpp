@@ -95,7 +95,7 @@ bool bmpimage_t::save(char const* path, libutils::android_app*) {
 }
 
 bool convert(image2d_t& image, bmpimage_t const& bmp) {
-    if (bmp.infoheader.biCompression != 0) {
+    if (!is_uncompressed(bmp.infoheader.biCompression)) {
         return false;
     }
     for (depth_row_t const& row : depth_rows) {
@@ -108,7 +108,7 @@ bool convert(image2d_t& image, bmpimage_t const& bmp) {
             return true;
         }
     }
-    return false;
+    return reject_depth(bmp.infoheader.biBitCount);
 }
 
 bool convert(bmpimage_t& bmp, image2d_t const& image) {

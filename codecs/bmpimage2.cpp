@@ -2,13 +2,17 @@
 // The mapping BMP reader.
 #include "codecs/bmpimage2.h"
 
+#include <cerrno>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 
+#include "codecs/bmpstream.h"
 #include "codecs/sizelimits.h"
+#include "codecs/streambytes.h"
 #include "utils/bits.h"
 #include "utils/byteorder.h"
+#include "utils/diagnostics.h"
 #include "utils/limits.h"
 
 namespace libgr {
@@ -62,7 +66,7 @@ bool take_palette(palette_t& palette, bmpimage2_t const& bmp, char const* file) 
     palette.clear();
     palette.resize(size);
     if (palette.red.count() < size || palette.green.count() < size || palette.blue.count() < size) {
-        return false;
+        return libutils::reject("not enough memory");
     }
     for (unsigned long i = 0; i < size; ++i) {
         libutils::tagRGBQUAD const quad = bmp.palette[i];
@@ -89,7 +93,13 @@ bool take_pixels(image2d_t& image, bmpimage2_t const& bmp, std::uint64_t depth, 
     std::uint64_t const size = checked_product((depth * width + 31) / 32 * 4, height)
                                    .value_or(std::numeric_limits<std::uint64_t>::max());
     bool const is_cut = held < size;
-    if (held < (depth * width + 7) / 8 || (is_cut && !is_plausible_size(size, held, file)) ||
+    if (height > std::numeric_limits<std::int32_t>::max()) {
+        libutils::reject("BMP with the top row first");  // which the limits below see as a size
+    }
+    if (held < (depth * width + 7) / 8) {
+        return libutils::reject("ends within its first row");
+    }
+    if ((is_cut && !is_plausible_size(size, held, file)) ||
         !fits_in_memory(width, height, depth, file)) {
         return false;
     }
@@ -99,7 +109,7 @@ bool take_pixels(image2d_t& image, bmpimage2_t const& bmp, std::uint64_t depth, 
     }
     image_bytes_t block;
     if (!block.resize(size, 0)) {
-        return false;
+        return libutils::reject("not enough memory");
     }
     std::memcpy(block.begin(), bmp.pixels.begin(), held);
     static_cast<image_bytes_t&>(image) = block;
@@ -110,10 +120,13 @@ bool take_pixels(image2d_t& image, bmpimage2_t const& bmp, std::uint64_t depth, 
 bool convert_file(image2d_t& image, bmpimage2_t const& bmp, char const* file) {
     if (mapping_size(bmp) <
         sizeof(libutils::tagBITMAPFILEHEADER) + sizeof(libutils::tagBITMAPINFOHEADER)) {
-        return false;
+        return reject_header(mapping_size(bmp));
     }
     libutils::tagBITMAPINFOHEADER const header = *bmp.infoheader.begin();
-    if (libutils::itohl(header.biCompression) != 0) {
+    if (libutils::itohs(bmp.fileheader->bfType) != bmp_signature) {
+        libutils::reject(not_bmp_reason);  // if it is rejected: the signature is not checked
+    }
+    if (!is_uncompressed(libutils::itohl(header.biCompression))) {
         return false;
     }
     bool const has_palette = bmp.palette.size() != 0;
@@ -123,7 +136,7 @@ bool convert_file(image2d_t& image, bmpimage2_t const& bmp, char const* file) {
         }
         e_image_format_t const format = has_palette ? row.palette_format : row.format;
         if (format == IMAGE_FORMAT_MAX) {
-            return false;
+            return libutils::reject("BMP of 32 bits with a palette or a longer header");
         }
         image.desc = {format, IMAGE_TYPE_UINT, row.bits};
         image.m_width = libutils::itohl(header.biWidth);
@@ -133,16 +146,18 @@ bool convert_file(image2d_t& image, bmpimage2_t const& bmp, char const* file) {
         return take_pixels(image, bmp, row.depth, file) &&
                (format != IMAGE_FORMAT_INDEX || take_palette(image.palette, bmp, file));
     }
-    return false;
+    return reject_depth(libutils::itohs(header.biBitCount));
 }
 
 }  // namespace
 
 bool bmpimage2_t::load(char const* path, libutils::android_app* app) {
     image_bytes_t mapping;
-    if (!mapping.load(0, path, libutils::PROTECTION_READ, 0, false, app) ||
-        mapping.size() < sizeof(libutils::tagBITMAPFILEHEADER)) {
-        return false;
+    if (!mapping.load(0, path, libutils::PROTECTION_READ, 0, false, app)) {
+        return libutils::reject_errno(errno);
+    }
+    if (mapping.size() < sizeof(libutils::tagBITMAPFILEHEADER)) {
+        return reject_header(mapping.size());
     }
     set_view(fileheader, mapping, 0, 1);
     set_view(infoheader, mapping, sizeof(libutils::tagBITMAPFILEHEADER), 1);

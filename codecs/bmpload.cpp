@@ -37,8 +37,11 @@ bool BmpLoad(image2d_t& image, char const* path, e_image_format_t format) {
     libutils::tagBITMAPFILEHEADER fileheader{};
     libutils::tagBITMAPINFOHEADER infoheader{};
     if (!open_file(stream, path) || !read_bmp_headers(stream, fileheader, infoheader) ||
-        infoheader.biCompression != 0 || infoheader.biBitCount == 16) {
+        !is_uncompressed(infoheader.biCompression)) {
         return false;
+    }
+    if (infoheader.biBitCount == 16) {
+        return reject_depth(infoheader.biBitCount);
     }
     image.m_width = infoheader.biWidth;
     image.m_height = infoheader.biHeight;

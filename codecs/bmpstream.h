@@ -2,6 +2,7 @@
 // The header checks that the stream readers of BMP files share.
 #pragma once
 
+#include <cstdint>
 #include <istream>
 
 #include "codecs/bmprecords.h"
@@ -13,5 +14,17 @@ namespace libgr {
 /// read stays in the records.
 bool read_bmp_headers(std::istream& stream, libutils::tagBITMAPFILEHEADER& fileheader,
                       libutils::tagBITMAPINFOHEADER& infoheader);
+
+/// Returns true if a reader accepts the compression method of a header, which is 0. Otherwise
+/// records what it is and returns false.
+bool is_uncompressed(std::uint32_t method);
+
+/// Records that no reader accepts the bits of a pixel. Always returns false.
+bool reject_depth(std::uint16_t bits);
+
+inline constexpr std::uint16_t bmp_signature = 19778;  ///< "BM" as a little-endian field
+
+/// The reason that the readers record for other files.
+inline constexpr char const* not_bmp_reason = "not a BMP file";
 
 }  // namespace libgr

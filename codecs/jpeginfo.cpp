@@ -232,12 +232,14 @@ bool jpeginfo_t::decompress(image2d_t& image, jpegdata_t const& data, unsigned s
     image.store = &s_image_store;
     jpeg_info_desc_t const* const row = row_of(cinfo);
     if (row == nullptr) {
-        return false;
+        return libutils::reject(cinfo.out_color_space == JCS_CMYK ? "CMYK JPEG"
+                                                                  : "JPEG of unknown colours");
     }
     image.desc = row->desc;
     if (!has_plausible_size(decoding, row->desc) ||
         !allocate_store(image, square_unit, border, border_color, data.name) ||
         image.rowsize() < image.rowbyte()) {
+        libutils::reject("not enough memory");
         report(data, ": jpeg decompress fail, stop.");
         return false;
     }

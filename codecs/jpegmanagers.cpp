@@ -106,6 +106,9 @@ void my_error_exit(j_common_ptr cinfo) {
     auto* const error = reinterpret_cast<my_error_mgr*>(cinfo->err);
     libutils::error();
     std::cerr << libutils::putname(error->data->name) << ": error detected." << std::endl;
+    char message[JMSG_LENGTH_MAX] = {};
+    error->base.format_message(cinfo, message);
+    libutils::reject(message);
     error->base.output_message(cinfo);
     std::longjmp(error->jump, 1);
 }

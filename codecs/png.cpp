@@ -100,7 +100,16 @@ template <typename state_t>
     return true;
 }
 
+/// libpng's error function: records the message, then continues as libpng does by default.
+[[noreturn]] void record_error(png_structp png, png_const_charp message) {
+    libutils::reject(message != nullptr ? message : "");
+    png_set_error_fn(png, nullptr, nullptr, nullptr);
+    png_error(png, message);
+}
+
+/// Prints the line of a failure. Its reason is memory if no other one is recorded.
 int fail() {
+    libutils::reject("not enough memory");
     libutils::error();
     std::cerr << "FAIL" << std::endl;
     return -4;
@@ -157,7 +166,7 @@ bool take_palette(palette_t& palette, reading_t const& reading) {
     png_colorp colors = nullptr;
     int entries = 0;
     if (png_get_PLTE(reading.png, reading.info, &colors, &entries) == 0 || entries <= 0) {
-        return false;
+        return libutils::reject("no palette");
     }
     auto const number = static_cast<unsigned long>(entries);
     unsigned long const size =
@@ -238,6 +247,7 @@ bool check_png_version() {
     if (std::strcmp(library, PNG_LIBPNG_VER_STRING) == 0) {
         return true;
     }
+    libutils::reject("libpng is not the version that the program was built with");
     libutils::error();
     std::cerr << "libpng version different." << std::endl;
     std::cerr << "  header: " << PNG_LIBPNG_VER_STRING << std::endl;
@@ -255,10 +265,11 @@ bool check_if_png(char const* path, stream_t& stream) {
     unsigned char bytes[signature_byte_count] = {};
     stream.read(reinterpret_cast<char*>(bytes), signature_byte_count);
     if (stream.gcount() != signature_byte_count) {
+        auto const held = static_cast<std::uint64_t>(stream.gcount());
         stream.close();
-        return false;
+        return reject_header(held);
     }
-    return png_sig_cmp(bytes, 0, signature_byte_count) == 0;
+    return png_sig_cmp(bytes, 0, signature_byte_count) == 0 || libutils::reject("not a PNG file");
 }
 template bool check_if_png<std::ifstream>(char const* path, std::ifstream& stream);
 
@@ -267,6 +278,7 @@ void png_read(png_struct_def* png, unsigned char* data, unsigned long length) {
     auto const size = static_cast<std::streamsize>(length);
     stream->read(reinterpret_cast<char*>(data), size);
     if (stream->gcount() != size) {
+        libutils::reject("ends before its last row");
         png_error(png, "Read Error");
     }
 }
@@ -280,11 +292,14 @@ int loadpng(char const* path, image2d_t& image, libutils::android_app*) {
     reading_t reading;
     reading.png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     if (reading.png == nullptr) {
+        libutils::reject("not enough memory");
         return -2;
     }
+    png_set_error_fn(reading.png, nullptr, record_error, nullptr);
     png_set_read_fn(reading.png, &stream, png_read);
     reading.info = png_create_info_struct(reading.png);
     if (reading.info == nullptr) {
+        libutils::reject("not enough memory");
         return -3;
     }
     if (!run_step(read_header, reading) || !is_plausible_size(reading, file_size, path)) {

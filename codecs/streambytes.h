@@ -31,6 +31,10 @@ void write_field(std::ostream& stream, T field) {
     }
 }
 
+/// Records that a file of `size` bytes, or with `size` bytes left, ends within its header. Always
+/// returns false.
+bool reject_header(std::uint64_t size);
+
 /// Opens a file to be read. Whether it could; a pipe or a device can't, with EINVAL, since it might
 /// never end or keep the program waiting.
 bool open_file(std::ifstream& stream, char const* path);

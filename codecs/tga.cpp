@@ -11,6 +11,7 @@
 #include "codecs/sizelimits.h"
 #include "codecs/streambytes.h"
 #include "image/pixelconvert.h"
+#include "utils/diagnostics.h"
 
 namespace libgr {
 
@@ -82,17 +83,55 @@ void write_vector(std::ostream& stream, std::vector<unsigned char> const& bytes)
                  static_cast<std::streamsize>(bytes.size()));
 }
 
+depth_row_t const* find_depth(unsigned int depth) {
+    auto const* const row =
+        std::ranges::find_if(depth_rows, [&](auto const& r) { return r.depth == depth; });
+    return row == std::end(depth_rows) ? nullptr : row;
+}
+
+/// Returns true if `convert` accepts the kind of picture. Otherwise records the reason.
+bool is_supported(tgaimage_t const& tga) {
+    switch (tga.image_type) {
+        case 1:
+        case 2:
+            break;
+        case 3:
+            return libutils::reject("TGA of gray levels");
+        case 9:
+        case 10:
+        case 11:
+            return libutils::reject("run-length encoded TGA");
+        default:
+            return libutils::reject("TGA of the unsupported type ", +tga.image_type);
+    }
+    if ((tga.descriptor & top_down_bit) != 0) {
+        return libutils::reject("TGA with the top row first");
+    }
+    return find_depth(tga.depth) != nullptr ||
+           libutils::reject("TGA with the unsupported depth of ", +tga.depth, " bits");
+}
+
+/// Records why a file with `held` bytes after its colour map is too short. Always returns false.
+bool reject_short(tgaimage_t const& tga, std::uint64_t held) {
+    std::uint64_t const row_bits = std::uint64_t{tga.depth} * tga.width;
+    if (is_supported(tga) && row_bits % 32 != 0 && held >= row_bits / 8 * tga.height) {
+        return libutils::reject("TGA with rows that are not a multiple of 4 bytes");
+    }
+    return libutils::reject("ends within its pixels");
+}
+
 /// Converts as `convert` does, with `file` as the path for error lines, or null.
 bool convert_file(image2d_t& image, tgaimage_t const& tga, char const* file) {
-    if ((tga.image_type != 1 && tga.image_type != 2) || (tga.descriptor & top_down_bit) != 0) {
+    if (!is_supported(tga)) {
         return false;
     }
-    auto const* const row = std::find_if(std::begin(depth_rows), std::end(depth_rows),
-                                         [&](auto const& r) { return r.depth == tga.depth; });
-    if (row == std::end(depth_rows) || tga.pixels.size() < pixels_size(tga) ||
-        !fits_in_memory(tga.width, tga.height, tga.depth, file)) {
+    if (tga.pixels.size() < pixels_size(tga)) {
+        return reject_short(tga, tga.pixels.size());
+    }
+    if (!fits_in_memory(tga.width, tga.height, tga.depth, file)) {
         return false;
     }
+    depth_row_t const* const row = find_depth(tga.depth);
     image.desc = {row->format, IMAGE_TYPE_UINT, row->bits};
     image.m_width = tga.width;
     image.m_height = tga.height;
@@ -108,22 +147,27 @@ bool tgaimage_t::load(char const* path, libutils::android_app*) {
     if (!open_file(stream, path)) {
         return false;
     }
+    std::uint64_t const file_size = bytes_left(stream);
     read_header(stream, *this);
     if (stream.tellg() != std::streampos(header_size)) {
-        return false;
+        return reject_header(file_size);
     }
     if (id_length != 0 && !read_vector(stream, image_id, id_length)) {
-        return false;
+        return libutils::reject("ends within its image identifier");
     }
     // The entry size counts bits in published files; here it counts bytes, as this writer's does.
     std::uint64_t const entries = std::uint64_t{colormap_first} + colormap_length;
     if (colormap_type != 0 && !read_vector(stream, colormap, entries * colormap_entry_size)) {
-        return false;
+        return libutils::reject("TGA with a colour map of ", entries, " entries of ",
+                                +colormap_entry_size, " bits");
     }
     std::uint64_t const size = pixels_size(*this);
     std::uint64_t const held = bytes_left(stream);
-    return held >= size && fits_in_memory(size, path) && read_pixels(pixels, stream, size) &&
-           stream.good();
+    if (held < size) {
+        return reject_short(*this, held);
+    }
+    return (fits_in_memory(size, path) && read_pixels(pixels, stream, size) && stream.good()) ||
+           libutils::reject("read error");
 }
 
 bool tgaimage_t::save(char const* path, libutils::android_app*) {

@@ -120,12 +120,16 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
     m_path = path;
     codec_row_t const* const row = find_codec(m_path);
     if (row == nullptr) {
-        return false;
+        return libutils::reject("unknown extension");
     }
     libgr::image_object_t& codec = **row->codec;
     m_image.store = nullptr;
-    if (!codec.load(m_image, path) || !has_pixels(m_image)) {
+    if (!codec.load(m_image, path)) {
         return false;
+    }
+    libutils::clear_failure_reason();  // of damage that did not stop the codec
+    if (!has_pixels(m_image)) {
+        return libutils::reject("no pixels, or more than 2147483647 in a row or column");
     }
     m_rightrotatecount = codec.rightrotatecount();
     GLint const limit = tile_limit();
@@ -134,7 +138,7 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
     }
     if (!convert_in_place(m_image, libgr::widen_samples) ||
         !convert_in_place(m_image, libgr::index2rgb)) {
-        return false;
+        return libutils::reject("not enough memory");
     }
     libgr::grPrintError("before rectangle_to_squares");
     // A picture that can't be cut is shown as far as its tiles go.
