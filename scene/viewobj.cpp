@@ -90,7 +90,7 @@ ViewObject::ViewObject()
     : m_texparameter(libgr::texparameter2d(GL_LINEAR_MIPMAP_LINEAR, GL_LINEAR, GL_CLAMP_TO_EDGE,
                                            GL_CLAMP_TO_EDGE, 1.0f)) {}
 
-ViewObject::codec_row_t const* ViewObject::find_codec(std::string const& path) {
+ViewObject::codec_row_t const* ViewObject::find_row(std::string const& path) {
     static constexpr codec_row_t codecs[] = {
         {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, nullptr},
         {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, nullptr},
@@ -101,13 +101,11 @@ ViewObject::codec_row_t const* ViewObject::find_codec(std::string const& path) {
     auto const* const row = std::ranges::find_if(codecs, [&](codec_row_t const& candidate) {
         return libutils::extcasecmp(path, candidate.extension) == 0;
     });
-    if (row == std::end(codecs)) {
-        return nullptr;
-    }
-    if (!*row->codec) {
-        *row->codec = row->make();
-    }
-    return row;
+    return row == std::end(codecs) ? nullptr : row;
+}
+
+bool ViewObject::has_picture_extension(std::string const& path) {
+    return find_row(path) != nullptr;
 }
 
 void ViewObject::release_codecs() {
@@ -118,9 +116,12 @@ void ViewObject::release_codecs() {
 
 bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
     m_path = path;
-    codec_row_t const* const row = find_codec(m_path);
+    codec_row_t const* const row = find_row(m_path);
     if (row == nullptr) {
         return libutils::reject("unknown extension");
+    }
+    if (!*row->codec) {
+        *row->codec = row->make();
     }
     libgr::image_object_t& codec = **row->codec;
     m_image.store = nullptr;

@@ -31,6 +31,10 @@ class ViewObject : public libgr::grObject3D {
     ViewObject& operator=(ViewObject const&) = delete;
     ~ViewObject() override = default;
 
+    /// Returns true if `path` ends in the extension of a picture that can be loaded, in upper or
+    /// lower case: ".jpg", ".jpeg", ".bmp", ".png" or ".tga".
+    static bool has_picture_extension(std::string const& path);
+
     /// Loads the file at `path` with the codec that its extension names and cuts the picture into
     /// tiles. Samples that OpenGL would misread get another form first: indices become RGB, gray of
     /// less than 8 bits becomes gray of 8 bits, and wider samples get a store with the byte order
@@ -73,9 +77,8 @@ class ViewObject : public libgr::grObject3D {
   private:
     struct codec_row_t;
 
-    /// Returns the row for the extension of `path`, with its codec made if there is none left over,
-    /// or null if no codec has that extension.
-    static codec_row_t const* find_codec(std::string const& path);
+    /// Returns the row for the extension of `path`, or null.
+    static codec_row_t const* find_row(std::string const& path);
     static void release_codecs();
 
     std::string m_path;
