@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The mapping BMP reader.
+// The BMP reader that maps the file.
 #include "codecs/bmpimage2.h"
 
 #include <cerrno>
@@ -7,9 +7,9 @@
 #include <cstring>
 #include <limits>
 
+#include "codecs/binaryio.h"
 #include "codecs/bmpstream.h"
 #include "codecs/sizelimits.h"
-#include "codecs/streambytes.h"
 #include "utils/bits.h"
 #include "utils/byteorder.h"
 #include "utils/diagnostics.h"
@@ -24,7 +24,7 @@ namespace limits = libutils::limits;
 struct depth_row_t {
     std::uint16_t depth;
     e_image_format_t format;          ///< without a palette
-    e_image_format_t palette_format;  ///< IMAGE_FORMAT_MAX where a palette is refused
+    e_image_format_t palette_format;  ///< IMAGE_FORMAT_MAX if a palette is rejected
     e_image_bits_t bits;
 };
 constexpr depth_row_t depth_rows[] = {
@@ -49,7 +49,8 @@ void set_view(bmpimage2_t::view_t<T>& view, image_bytes_t const& mapping, unsign
     view.count = count;
 }
 
-/// The palette follows the header of 40 bytes, or one of 108 that names its colour space.
+/// Returns the file offset of the palette, which follows a header of 40 bytes, or of 108 bytes with
+/// an sRGB colour space.
 unsigned long palette_offset(image_bytes_t const& mapping, unsigned long pixels_offset) {
     constexpr char srgb_signature[4] = {'B', 'G', 'R', 's'};
     bool const long_header = pixels_offset > 121 && mapping.size() >= 54 + sizeof srgb_signature &&
@@ -77,15 +78,15 @@ bool take_palette(palette_t& palette, bmpimage2_t const& bmp, char const* file) 
     return true;
 }
 
-/// Returns true if a picture of `claimed` bytes of pixels may be shown with the `held` bytes that
-/// the file has of them.
+/// Returns true if a picture with `claimed` bytes of pixels may be loaded from a file that has
+/// `held` bytes of them.
 bool is_plausible_size(std::uint64_t claimed, std::uint64_t held, char const* file) {
     return claimed <= limits::bmp_unchecked.value || claimed / limits::bmp_ratio.value <= held ||
            libutils::report_limit(limits::bmp_ratio, file);
 }
 
-/// Shares the pixels. If the file ends within them, copies them into a block of the picture's full
-/// size instead. Returns false if the file has less than a row, or too few bytes for its size.
+/// Shares the pixels, or copies them into a larger block if the file ends within them. Returns
+/// false if the file has less than a row, or too few bytes for the size of the picture.
 bool take_pixels(image2d_t& image, bmpimage2_t const& bmp, std::uint64_t depth, char const* file) {
     std::uint64_t const width = image.m_width;
     std::uint64_t const height = image.m_height;
@@ -94,7 +95,8 @@ bool take_pixels(image2d_t& image, bmpimage2_t const& bmp, std::uint64_t depth, 
                                    .value_or(std::numeric_limits<std::uint64_t>::max());
     bool const is_cut = held < size;
     if (height > std::numeric_limits<std::int32_t>::max()) {
-        libutils::reject("BMP with the top row first");  // which the limits below see as a size
+        // The height is negative. The limits below reject it as a large one.
+        libutils::reject("BMP with the top row first");
     }
     if (held < (depth * width + 7) / 8) {
         return libutils::reject("ends within its first row");
@@ -116,7 +118,7 @@ bool take_pixels(image2d_t& image, bmpimage2_t const& bmp, std::uint64_t depth, 
     return true;
 }
 
-/// Converts as `convert` does, with `file` as the path for error lines, or null.
+/// Implements `convert`. `file` is the path for error lines, or null.
 bool convert_file(image2d_t& image, bmpimage2_t const& bmp, char const* file) {
     if (mapping_size(bmp) <
         sizeof(libutils::tagBITMAPFILEHEADER) + sizeof(libutils::tagBITMAPINFOHEADER)) {
@@ -124,7 +126,8 @@ bool convert_file(image2d_t& image, bmpimage2_t const& bmp, char const* file) {
     }
     libutils::tagBITMAPINFOHEADER const header = *bmp.infoheader.begin();
     if (libutils::itohs(bmp.fileheader->bfType) != bmp_signature) {
-        libutils::reject(not_bmp_reason);  // if it is rejected: the signature is not checked
+        // The signature is not checked. But if the file is rejected, this is the reason.
+        libutils::reject(not_bmp_reason);
     }
     if (!is_uncompressed(libutils::itohl(header.biCompression))) {
         return false;
@@ -163,7 +166,8 @@ bool bmpimage2_t::load(char const* path, libutils::android_app* app) {
     set_view(infoheader, mapping, sizeof(libutils::tagBITMAPFILEHEADER), 1);
     unsigned long const pixels_offset = libutils::itohl(fileheader->bfOffBits);
     unsigned long const entries_offset = palette_offset(mapping, pixels_offset);
-    // The area's bytes stand as the number of entries; an offset before it takes all there is.
+    // The count is in bytes, not in entries. If the pixels are before the palette, it wraps around,
+    // and the view ends at the end of the file.
     set_view(palette, mapping, entries_offset, pixels_offset - entries_offset);
     set_view(pixels, mapping, pixels_offset, image_bytes_t::to_end);
     return true;

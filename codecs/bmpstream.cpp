@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The two BMP headers field by field.
+// Header checks that the BMP readers share.
 #include "codecs/bmpstream.h"
 
 #include <cstdint>
 
-#include "codecs/streambytes.h"
+#include "codecs/binaryio.h"
 #include "utils/diagnostics.h"
 
 namespace libgr {

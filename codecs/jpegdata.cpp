@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Mapping and writing JPEG files.
+// The bytes of a JPEG file.
 #include "codecs/jpegdata.h"
 
 #include <cerrno>

@@ -16,7 +16,7 @@ namespace {
 
 using libutils::limits::picture_memory;
 
-/// Returns the bytes that a picture may take.
+/// Returns the number of bytes that a picture may use.
 std::uint64_t max_picture_memory() {
     long const pages = sysconf(_SC_PHYS_PAGES);
     long const page_size = sysconf(_SC_PAGESIZE);

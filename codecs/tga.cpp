@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The TGA reader and writer.
+// The TGA codec.
 #include "codecs/tga.h"
 
 #include <algorithm>
@@ -8,8 +8,8 @@
 #include <limits>
 #include <utility>
 
+#include "codecs/binaryio.h"
 #include "codecs/sizelimits.h"
-#include "codecs/streambytes.h"
 #include "image/pixelconvert.h"
 #include "utils/diagnostics.h"
 
@@ -24,7 +24,7 @@ constexpr unsigned int max_side = std::numeric_limits<std::uint16_t>::max();
 struct depth_row_t {
     std::uint8_t depth;
     e_image_format_t format;
-    e_image_format_t swapped_format;  ///< the red-first format that is saved with this depth
+    e_image_format_t swapped_format;  ///< the format in RGB order that is saved with this depth
     e_image_bits_t bits;
 };
 constexpr depth_row_t depth_rows[] = {
@@ -89,7 +89,7 @@ depth_row_t const* find_depth(unsigned int depth) {
     return row == std::end(depth_rows) ? nullptr : row;
 }
 
-/// Returns true if `convert` accepts the kind of picture. Otherwise records the reason.
+/// Returns true if `convert` accepts the type, row order and depth. Otherwise records the reason.
 bool is_supported(tgaimage_t const& tga) {
     switch (tga.image_type) {
         case 1:
@@ -111,7 +111,7 @@ bool is_supported(tgaimage_t const& tga) {
            libutils::reject("TGA with the unsupported depth of ", +tga.depth, " bits");
 }
 
-/// Records why a file with `held` bytes after its colour map is too short. Always returns false.
+/// Records why a file with `held` bytes of pixels is too short. Always returns false.
 bool reject_short(tgaimage_t const& tga, std::uint64_t held) {
     std::uint64_t const row_bits = std::uint64_t{tga.depth} * tga.width;
     if (is_supported(tga) && row_bits % 32 != 0 && held >= row_bits / 8 * tga.height) {
@@ -120,7 +120,7 @@ bool reject_short(tgaimage_t const& tga, std::uint64_t held) {
     return libutils::reject("ends within its pixels");
 }
 
-/// Converts as `convert` does, with `file` as the path for error lines, or null.
+/// Implements `convert`. `file` is the path for error lines, or null.
 bool convert_file(image2d_t& image, tgaimage_t const& tga, char const* file) {
     if (!is_supported(tga)) {
         return false;
@@ -155,7 +155,7 @@ bool tgaimage_t::load(char const* path, libutils::android_app*) {
     if (id_length != 0 && !read_vector(stream, image_id, id_length)) {
         return libutils::reject("ends within its image identifier");
     }
-    // The entry size counts bits in published files; here it counts bytes, as this writer's does.
+    // The entry size is in bits in published files, and in bytes in files of this writer.
     std::uint64_t const entries = std::uint64_t{colormap_first} + colormap_length;
     if (colormap_type != 0 && !read_vector(stream, colormap, entries * colormap_entry_size)) {
         return libutils::reject("TGA with a colour map of ", entries, " entries of ",
@@ -203,8 +203,7 @@ bool convert(tgaimage_t& tga, image2d_t const& image) {
     if (image.compressed || image.m_width > max_side || image.m_height > max_side) {
         return false;
     }
-    // A format that already has the file's byte order sets depth and pixels, and is then refused
-    // all the same: only red-first pictures are saved.
+    // Pictures in BGR order set depth and pixels, but are rejected. Callers depend on both.
     for (depth_row_t const& row : depth_rows) {
         if (image.desc == image_desc_t{row.format, IMAGE_TYPE_UINT, row.bits}) {
             tga.depth = row.depth;
@@ -220,7 +219,7 @@ bool convert(tgaimage_t& tga, image2d_t const& image) {
         return false;
     }
     image2d_t swapped;
-    // Packed pixels are handed on as they are, with a false result that is no failure.
+    // For packed pixels, rgb2bgr shares the pixels and returns false, which is not a failure here.
     if (!rgb2bgr(swapped, image) && row->bits == IMAGE_BITS_8) {
         return false;
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Pixel bytes between streams and shared blocks.
-#include "codecs/streambytes.h"
+// Functions that read and write pixels through a stream.
+#include "codecs/binaryio.h"
 
 #include <sys/stat.h>
 
