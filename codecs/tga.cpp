@@ -111,10 +111,28 @@ bool is_supported(tgaimage_t const& tga) {
            libutils::reject("TGA with the unsupported depth of ", +tga.depth, " bits");
 }
 
+/// Returns the number of entries of the colour map that the file has.
+std::uint64_t map_entries(tgaimage_t const& tga) {
+    return std::uint64_t{tga.colormap_first} + tga.colormap_length;
+}
+
+/// Records that the file is too short because of its colour map: the entry size is probably in
+/// bits. Always returns false.
+bool reject_colormap(tgaimage_t const& tga) {
+    return libutils::reject("TGA with a colour map of ", map_entries(tga), " entries of ",
+                            +tga.colormap_entry_size, " bits");
+}
+
 /// Records why a file with `held` bytes of pixels is too short. Always returns false.
 bool reject_short(tgaimage_t const& tga, std::uint64_t held) {
     std::uint64_t const row_bits = std::uint64_t{tga.depth} * tga.width;
-    if (is_supported(tga) && row_bits % 32 != 0 && held >= row_bits / 8 * tga.height) {
+    if (!is_supported(tga)) {
+        return false;
+    }
+    if (tga.colormap_type != 0) {
+        return reject_colormap(tga);
+    }
+    if (row_bits % 32 != 0 && held >= row_bits / 8 * tga.height) {
         return libutils::reject("TGA with rows that are not a multiple of 4 bytes");
     }
     return libutils::reject("ends within its pixels");
@@ -156,10 +174,9 @@ bool tgaimage_t::load(char const* path, libutils::android_app*) {
         return libutils::reject("ends within its image identifier");
     }
     // The entry size is in bits in published files, and in bytes in files of this writer.
-    std::uint64_t const entries = std::uint64_t{colormap_first} + colormap_length;
-    if (colormap_type != 0 && !read_vector(stream, colormap, entries * colormap_entry_size)) {
-        return libutils::reject("TGA with a colour map of ", entries, " entries of ",
-                                +colormap_entry_size, " bits");
+    if (colormap_type != 0 &&
+        !read_vector(stream, colormap, map_entries(*this) * colormap_entry_size)) {
+        return reject_colormap(*this);
     }
     std::uint64_t const size = pixels_size(*this);
     std::uint64_t const held = bytes_left(stream);

@@ -23,6 +23,8 @@ TEST_F(Tga, LoadsOrRejectsFiles) {
         {{1, 4, 1, 8, ramp(4), 0, "id", 1, 2, 3, ramp(9)}, "4x1 GRAYSCALE 8 0: 4"},
         {{1, 4, 1, 8, ramp(4), 0, "", 0, 2, 24, ramp(6)},
          "TGA with a colour map of 2 entries of 24 bits"},
+        {{1, 4, 12, 8, ramp(48), 0, "", 0, 2, 24, ramp(6)},
+         "TGA with a colour map of 2 entries of 24 bits"},
         {{2, 3, 2, 24, ramp(18)}, "TGA with rows that are not a multiple of 4 bytes"},
         {{2, 3, 2, 24, ramp(17)}, "ends within its pixels"},
         {{2, 65535, 65535, 32, ramp(64)}, "ends within its pixels"},
