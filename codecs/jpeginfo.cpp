@@ -73,9 +73,9 @@ void read_rows(decoding_t& decoding) {
     jpeg_start_decompress(cinfo);
     decoding.fell_short = decoding.has_scans && (decoding.limit.is_reached || lacks_data(cinfo) ||
                                                  decoding.source->has_run_out());
-    JSAMPARRAY const elsewhere = (*cinfo->mem->alloc_sarray)(
-        reinterpret_cast<j_common_ptr>(cinfo), JPOOL_IMAGE,
-        cinfo->output_width * static_cast<JDIMENSION>(cinfo->output_components), 1);
+    JSAMPARRAY const elsewhere =
+        (*cinfo->mem->alloc_sarray)(reinterpret_cast<j_common_ptr>(cinfo), JPOOL_IMAGE,
+                                    static_cast<JDIMENSION>(decoding.row_size), 1);
     while (cinfo->output_scanline < cinfo->output_height) {
         JDIMENSION const target = cinfo->output_height - 1 - cinfo->output_scanline;
         JSAMPROW row = target < decoding.stored_rows ? decoding.bottom + decoding.row_size * target

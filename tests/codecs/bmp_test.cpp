@@ -32,6 +32,7 @@ constexpr char const* depth_16 = "BMP with the unsupported depth of 16 bits";
 constexpr char const* depth_32 = "BMP with the unsupported depth of 32 bits";
 constexpr char const* long_32 = "BMP of 32 bits with a palette or a longer header";
 constexpr char const* memory = "exceeds limit picture-memory (50 percent of the machine's memory)";
+constexpr char const* two_mib = "16x131072 GRAYSCALE 8 0: 2097152";
 constexpr char const* ratio =
     "exceeds limit bmp-ratio (16 bytes of pixels for each that the file has)";
 
@@ -64,6 +65,11 @@ std::tuple<bmp_t, char const*, char const*> const load_rows[] = {
     {{0, 4, 24, ramp(48)}, "no pixels", "0x4 BGR 8 0: 0"},
     {{40000, 0U - 4, 24, ramp(120000)}, "BMP with the top row first", memory},
     {{6, 1U << 22, 8, ramp(48)}, ratio, "6x4194304 GRAYSCALE 8 0: 33554432"},
+    {{16, 131072, 8, std::string(131071, 's')}, ratio, two_mib},
+    {{16, 131072, 8, std::string(131072, 's')}, two_mib, two_mib},
+    {{16, 65536, 8, ramp(48)},
+     "16x65536 GRAYSCALE 8 0: 1048576",
+     "16x65536 GRAYSCALE 8 0: 1048576"},
     {{1, 2, 8, large, "", 0, 0}, "1x2 INDEX 8 65536: 300054", "1x2 GRAYSCALE 8 0: 8"},
 };
 
