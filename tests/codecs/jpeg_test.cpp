@@ -164,6 +164,9 @@ TEST_F(Jpeg, LoadsAPictureFromSomeOfItsScansOrIntervals) {
     load(intervals.erase(second + 4, third - second - 4));
     EXPECT_EQ(lines.find("fail"), lines.npos) << lines;
     EXPECT_EQ(rows_as_in(whole), 56u) << "all but one row of blocks";
+    load(intervals.insert(second + 4, "\xFF\xD0\x11\x22"));  // the first marker again
+    EXPECT_EQ(lines.find("fail"), lines.npos) << lines;
+    EXPECT_EQ(rows_as_in(whole), 56u);
     load(jpeg_without_end());
     EXPECT_TRUE(lines.ends_with(file + ": decompress fail.\n")) << lines;
     EXPECT_EQ(limits_in(lines, file), "jpeg-blocks ");
