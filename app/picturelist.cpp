@@ -4,21 +4,17 @@
 
 #include <dirent.h>
 
-#include <algorithm>
-#include <array>
 #include <iostream>
 #include <iterator>
 #include <memory>
 
 #include "options/option.h"
+#include "scene/viewobj.h"
 #include "utils/diagnostics.h"
-#include "utils/path.h"
 
 namespace zanoview2 {
 
 namespace {
-
-constexpr std::array<char const*, 5> picture_extensions{".jpg", ".jpeg", ".bmp", ".png", ".tga"};
 
 struct close_directory {
     void operator()(DIR* directory) const { closedir(directory); }
@@ -67,9 +63,14 @@ bool search_down(picture_list_t& list, picture_place_t& place, picture_stage_t& 
 }  // namespace
 
 bool is_picture_name(std::string const& name) {
-    return std::any_of(
-        picture_extensions.begin(), picture_extensions.end(),
-        [&](char const* extension) { return libutils::extcasecmp(name, extension) == 0; });
+    return zanolib::ViewObject::has_picture_extension(name);
+}
+
+void report_skipped(std::string const& path) {
+    if (zanolib::g_option.verbose) {
+        std::cout << libutils::putname(path)
+                  << ": skipped: " << libutils::putname(libutils::failure_reason()) << std::endl;
+    }
 }
 
 bool append_pictures(picture_list_t& list, std::string const& given) {
@@ -90,6 +91,9 @@ bool append_pictures(picture_list_t& list, std::string const& given) {
         return true;
     }
     if (!is_picture_name(path)) {
+        libutils::clear_failure_reason();
+        libutils::reject("unknown extension");
+        report_skipped(path);
         return false;
     }
     if (zanolib::g_option.debug) {

@@ -36,8 +36,12 @@ enum class walk_t {
     stranded  ///< the old picture is gone, no entry that was tried loads, the place is unchanged
 };
 
-/// True for a name that ends, in any case of letters, in ".jpg", ".jpeg", ".bmp", ".png" or ".tga".
+/// Returns true if a name has the extension of a picture; see ViewObject::has_picture_extension.
 bool is_picture_name(std::string const& name);
+
+/// With the option `verbose`, prints the line "PATH: skipped: REASON" on standard output, with the
+/// reason that is recorded (utils/diagnostics.h).
+void report_skipped(std::string const& path);
 
 /// Appends the pictures of the directory `path`, sorted by the bytes of their full paths, or, when
 /// it is no directory, `path` itself if it has a picture's name (it need not exist). An empty

@@ -89,6 +89,7 @@ void ViewWindow::clear() {
     while (scene.delImage()) {
     }
     imagelist.clear();
+    skipped.clear();
     current = imagelist.end();
     current_index = 0;
     request_redisplay();

@@ -130,6 +130,7 @@ class ViewWindow : public wenk::glutyAPI4 {
     void set_zoom(int digit);
     void go_to(bool (ViewWindow::*end)());
     bool add_to_scene(std::string const& path);
+    void skip(std::string const& path);
     bool settle(walk_t walk);
     template <typename Step>
     bool change_picture(Step const& step);
@@ -151,6 +152,7 @@ class ViewWindow : public wenk::glutyAPI4 {
     picture_list_t imagelist;
     picture_list_t::iterator current = imagelist.end();
     unsigned long current_index = 0;
+    std::set<std::string> skipped;    ///< paths that this walk has reported
     std::set<std::string> too_large;  ///< paths that the running change of picture has to skip
     unsigned long image_count = 0;
     libgr::direction2l_t startsize = libgr::datum2l;  ///< the first picture was fitted into it

@@ -38,8 +38,23 @@ void ViewWindow::announce(std::string const& path) const {
     }
 }
 
+/// Reports a picture that a walk skips. A walk may try a picture twice.
+void ViewWindow::skip(std::string const& path) {
+    if (zanolib::g_option.verbose && skipped.insert(path).second) {
+        report_skipped(path);
+    }
+}
+
 bool ViewWindow::add_to_scene(std::string const& path) {
-    return !too_large.contains(path) && scene.addImage(path.c_str(), dir.data());
+    if (too_large.contains(path)) {
+        return false;
+    }
+    libutils::clear_failure_reason();
+    bool const added = scene.addImage(path.c_str(), dir.data());
+    if (!added) {
+        skip(path);
+    }
+    return added;
 }
 
 bool ViewWindow::initial_load() {
@@ -125,6 +140,9 @@ bool ViewWindow::change_picture(Step const& step) {
         if (scene.make_graph(dir.data())) {
             break;
         }
+        libutils::clear_failure_reason();
+        libutils::reject("not enough texture memory");
+        skip(*current);
         too_large.insert(*current);
         current = start.entry;
         current_index = start.index;
@@ -133,6 +151,7 @@ bool ViewWindow::change_picture(Step const& step) {
         update_title();
     }
     too_large.clear();
+    skipped.clear();
     return changed;
 }
 

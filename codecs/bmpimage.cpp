@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The stream BMP reader and the BMP writer.
+// The BMP reader that reads a stream, and the BMP writer.
 #include "codecs/bmpimage.h"
 
 #include <cstdint>
@@ -7,9 +7,9 @@
 #include <iostream>
 #include <limits>
 
+#include "codecs/binaryio.h"
 #include "codecs/bmpstream.h"
 #include "codecs/sizelimits.h"
-#include "codecs/streambytes.h"
 #include "utils/diagnostics.h"
 
 namespace libgr {
@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::uint32_t headers_size = 54;
 
-/// Depths and the descriptions they stand for.
+/// The pixel format of a number of bits per pixel.
 struct depth_row_t {
     std::uint16_t depth;
     e_image_format_t format;
@@ -31,9 +31,8 @@ constexpr depth_row_t depth_rows[] = {
     {24, IMAGE_FORMAT_BGR, IMAGE_BITS_8},
 };
 
-/// Bytes of one row. The bits are cut to whole bytes before the padding, so that the rows of a
-/// 1- or 4-bit picture that end within a byte may come out shorter than the file's: such pictures
-/// come back with too few bytes.
+/// Returns the bytes of a row. The bits are rounded down to whole bytes before the padding. Rows of
+/// 1 or 4 bits per pixel can become shorter than those of the file. Callers depend on it.
 std::uint32_t row_bytes(libutils::tagBITMAPINFOHEADER const& header) {
     std::uint32_t const bytes = (std::uint32_t{header.biBitCount} * header.biWidth) >> 3;
     return (bytes + 3) & ~std::uint32_t{3};
@@ -68,7 +67,6 @@ bool bmpimage_t::load(char const* path, libutils::android_app*) {
     if (!open_file(stream, path) || !read_bmp_headers(stream, fileheader, infoheader)) {
         return false;
     }
-    // The product of two 32-bit numbers fits into 64 bits.
     std::uint64_t const size = std::uint64_t{row_bytes(infoheader)} * infoheader.biHeight;
     return fits_in_memory(size, path) && read_pixels(pixels, stream, size);
 }
@@ -95,7 +93,7 @@ bool bmpimage_t::save(char const* path, libutils::android_app*) {
 }
 
 bool convert(image2d_t& image, bmpimage_t const& bmp) {
-    if (bmp.infoheader.biCompression != 0) {
+    if (!is_uncompressed(bmp.infoheader.biCompression)) {
         return false;
     }
     for (depth_row_t const& row : depth_rows) {
@@ -108,7 +106,7 @@ bool convert(image2d_t& image, bmpimage_t const& bmp) {
             return true;
         }
     }
-    return false;
+    return reject_depth(bmp.infoheader.biBitCount);
 }
 
 bool convert(bmpimage_t& bmp, image2d_t const& image) {

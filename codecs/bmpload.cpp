@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The BMP reader for pictures whose pixel format the caller knows.
+// The BMP reader for files whose pixel format the caller knows.
 #include "codecs/bmpload.h"
 
 #include <cstdint>
@@ -7,16 +7,16 @@
 #include <limits>
 #include <utility>
 
+#include "codecs/binaryio.h"
 #include "codecs/bmpstream.h"
 #include "codecs/sizelimits.h"
-#include "codecs/streambytes.h"
 
 namespace libgr {
 
 namespace {
 
-/// Swaps the first and third byte of each 3-byte pixel that begins in the first `held` bytes,
-/// stepping by rows padded to 4 bytes.
+/// Swaps the first and the third byte of each 3-byte pixel that begins in the first `held` bytes.
+/// Unlike the size of `pixels`, the rows are padded to 4 bytes here.
 void swap_red_and_blue(image_bytes_t& pixels, std::uint64_t width, std::uint64_t height,
                        std::uint64_t held) {
     std::uint64_t const row_size = (3 * width + 3) / 4 * 4;
@@ -37,8 +37,11 @@ bool BmpLoad(image2d_t& image, char const* path, e_image_format_t format) {
     libutils::tagBITMAPFILEHEADER fileheader{};
     libutils::tagBITMAPINFOHEADER infoheader{};
     if (!open_file(stream, path) || !read_bmp_headers(stream, fileheader, infoheader) ||
-        infoheader.biCompression != 0 || infoheader.biBitCount == 16) {
+        !is_uncompressed(infoheader.biCompression)) {
         return false;
+    }
+    if (infoheader.biBitCount == 16) {
+        return reject_depth(infoheader.biBitCount);
     }
     image.m_width = infoheader.biWidth;
     image.m_height = infoheader.biHeight;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The records of a BMP file as they lie on disk: little-endian, without gaps.
+// The headers of a BMP file as they are on disk: little-endian, without padding.
 #pragma once
 
 #include <cstdint>
@@ -11,20 +11,20 @@ namespace libutils {
 /// The first 14 bytes of the file.
 struct tagBITMAPFILEHEADER {
     std::uint16_t bfType;  ///< "BM", 19778
-    std::uint32_t bfSize;  ///< data size + 54 when written, never read
+    std::uint32_t bfSize;  ///< written as the size of the pixels + 54, and ignored when read
     std::uint16_t bfReserved1;
     std::uint16_t bfReserved2;
     std::uint32_t bfOffBits;  ///< file offset of the pixels
 };
 
-/// The 40 bytes from file offset 14.
+/// The 40 bytes after the file header.
 struct tagBITMAPINFOHEADER {
     std::uint32_t biSize;
     std::uint32_t biWidth;   ///< pixels
-    std::uint32_t biHeight;  ///< rows, running bottom to top; taken as positive
+    std::uint32_t biHeight;  ///< rows, bottom row first; unsigned here
     std::uint16_t biPlanes;
-    std::uint16_t biBitCount;     ///< bits of one pixel
-    std::uint32_t biCompression;  ///< 0 for plain pixels, the only kind that is read
+    std::uint16_t biBitCount;     ///< bits per pixel
+    std::uint32_t biCompression;  ///< 0: none, the only supported value
     std::uint32_t biSizeImage;
     std::uint32_t biXPelsPerMeter;
     std::uint32_t biYPelsPerMeter;
@@ -32,7 +32,7 @@ struct tagBITMAPINFOHEADER {
     std::uint32_t biClrImportant;
 };
 
-/// One palette entry.
+/// An entry of the palette.
 struct tagRGBQUAD {
     std::uint8_t rgbBlue;
     std::uint8_t rgbGreen;

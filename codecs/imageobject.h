@@ -1,28 +1,59 @@
 // SPDX-License-Identifier: MIT
-// The interface that every image file codec implements: one object loads or saves one kind of file.
+// The interface of the codecs: one class for each picture file format.
 #pragma once
 
 #include "image/image.h"
 
 namespace libgr {
 
-/// One kind of image file, made for the time of one load or save. No GL context is needed.
+/// The base class of the codecs. Make an object for one load or one save:
+///
+/// ```cpp
+/// #include <iostream>
+///
+/// #include "codecs/png.h"
+/// #include "utils/diagnostics.h"
+///
+/// libgr::image_png_t codec;
+/// libgr::image2d_t picture;
+/// libutils::clear_failure_reason();
+/// if (codec.load(picture, "photo.png")) {
+///     std::cout << picture.m_width << "x" << picture.m_height << " pixels\n";
+/// } else {
+///     std::cout << "not loaded: " << libutils::failure_reason() << "\n";
+/// }
+/// ```
+///
+/// The codecs:
+/// - image_jpeg1_t (codecs/jpegobject.h) reads JPEG in gray, YCbCr and RGB, but not CMYK. It
+///   delivers GRAYSCALE or RGB with 8 bits, and writes these two and YCbCr.
+/// - image_png_t (codecs/png.h) reads PNG of all colour types and depths, and delivers the pixel
+///   layout of the file. It writes the same formats without palettes.
+/// - image_bmp2_t (codecs/bmpimage2.h) reads uncompressed BMP of 1, 4, 8, 24 and 32 bits. It
+///   delivers INDEX or GRAYSCALE up to 8 bits, BGR or BGRA. It does not write.
+/// - image_bmp_t (codecs/bmpimage.h) reads uncompressed BMP of 1, 4, 8 and 24 bits. It delivers and
+///   writes GRAYSCALE and BGR.
+/// - image_tga_t (codecs/tga.h) reads uncompressed TGA of 8, 16, 24 and 32 bits with padded rows.
+///   It delivers GRAYSCALE, BGR or BGRA, and writes RGB and RGBA.
+///
+/// The codecs need no GL context. They look at the bytes of a file, not at the extension of its
+/// name. Sizes in headers are checked before memory is allocated for them (docs/limits.md).
 class image_object_t {
   public:
-    /// Reads the file at `path` into `image`, bottom row first, and says whether the picture can be
-    /// shown. After false, `image` may hold whatever had been read by then. The image owns its
-    /// bytes (or its share of the file's mapping) and outlives this object.
+    /// Reads the file at `path` into `image`, bottom row first. Returns false if the picture cannot
+    /// be shown; `libutils::failure_reason` returns the reason, and `image` may have been changed.
+    /// The image owns its bytes, or a share of the mapped file, and may outlive this object.
     virtual bool load(image2d_t& image, char const* path) = 0;
 
-    /// Writes `image` to the file at `path`, which is truncated if it exists. False when the codec
-    /// has no writer, when it has no form for the image's description, or when writing fails.
+    /// Writes `image` to the file at `path` and replaces an existing file. Returns false if the
+    /// codec cannot write, if the file format does not have the pixel format, or if writing fails.
     virtual bool save([[maybe_unused]] image2d_t const& image, [[maybe_unused]] char const* path) {
         return false;
     }
 
     virtual ~image_object_t() = 0;
 
-    /// Clockwise quarter turns that the loaded picture must be given to stand upright.
+    /// Returns the number of clockwise quarter turns that make the loaded picture upright.
     unsigned long rightrotatecount() const { return m_rightrotatecount; }
 
   protected:

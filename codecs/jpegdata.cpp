@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Mapping and writing JPEG files.
+// The bytes of a JPEG file.
 #include "codecs/jpegdata.h"
 
+#include <cerrno>
+
+#include "utils/diagnostics.h"
 #include "utils/replacefile.h"
 
 namespace libgr {
 
 bool jpegdata_t::load(char const* path, libutils::android_app* app) {
     if (!jpeg_bytes_t::load(0, path, libutils::PROTECTION_READ, 0, false, app)) {
-        return false;
+        return libutils::reject_errno(errno);
     }
     name = path;
     return true;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A whole JPEG file in memory, under the name that messages about it bear.
+// The bytes of a JPEG file.
 #pragma once
 
 #include "metadata/jpegcursor.h"
@@ -7,19 +7,20 @@
 
 namespace libgr {
 
-/// The compressed bytes of one JPEG file: a file's mapping, or what an encoder wrote.
+/// The compressed bytes of one JPEG file: a mapped file, or memory that an encoder filled. Copies
+/// share the bytes.
 class jpegdata_t : public jpeg_bytes_t {
   public:
-    /// The file's path, for messages; not owned, and null until a load, a save or setvector.
+    /// The path of the file, for messages. The text belongs to the caller of `load`, `save` or
+    /// `setvector`, and must exist as long as the data is used. Null before these calls.
     char const* name = nullptr;
 
-    /// Maps the whole file, read-only. False when it can't be mapped.
+    /// Maps the whole file, read-only. Returns false if the file cannot be mapped.
     bool load(char const* path, libutils::android_app* app);
-    /// Writes the bytes to a new file that replaces the one at `path`; see libutils::replace_file.
-    /// Returns false and sets errno on failure.
+    /// Writes the bytes to a new file, which then replaces the file at `path`
+    /// (utils/replacefile.h). Returns false and sets errno on failure.
     bool save(char const* path, libutils::android_app* app);
-    /// Shares bytes in memory, so that they can be decoded under a name of the caller's, which
-    /// isn't copied.
+    /// Shares bytes in memory. `bytes_name` is not copied.
     void setvector(jpeg_bytes_t const& bytes, char const* bytes_name);
 
   private:

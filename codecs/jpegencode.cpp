@@ -13,7 +13,7 @@ namespace libgr {
 
 namespace {
 
-/// What the encoding step works on.
+/// The state of the encoding step.
 struct encoding_t {
     jpegdata_t& data;
     image2d_t const& image;
@@ -55,7 +55,7 @@ void encode(encoding_t& encoding) {
     while (cinfo->next_scanline < cinfo->image_height) {
         unsigned char const* const pixels =
             pixel_row(encoding.image, cinfo->image_height - 1 - cinfo->next_scanline);
-        auto* row = const_cast<JSAMPROW>(pixels);  // libjpeg reads it only
+        auto* row = const_cast<JSAMPROW>(pixels);  // libjpeg does not write to it
         jpeg_write_scanlines(cinfo, &row, 1);
     }
     jpeg_finish_compress(cinfo);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The JPEG decoder. libjpeg reports errors by a jump, so whatever it can jump out of is a step that
-// has nothing to destroy.
+// The JPEG decoder. All calls of libjpeg are in steps, see run_jpeg_step.
 #include "codecs/jpeginfo.h"
 
 #include <cstring>
@@ -22,24 +21,24 @@ jpeg_info_desc_t const jpeg_info_desc_table[3] = {
 
 namespace {
 
-/// All decoded images point to it.
-constexpr image_store_t s_image_store{false, 4};
+/// The store of all decoded images: rows are padded to 4 bytes.
+constexpr image_store_t padded_store{false, 4};
 
-constexpr unsigned int saved_marker_length = 65535;  // bytes of a marker
+constexpr unsigned int saved_marker_length = 65535;  // bytes
 
-/// What the decoding steps work on.
+/// The state of the decoding steps.
 struct decoding_t {
     jpeg_decompress_struct cinfo{};
     my_error_mgr error{};
     work_limit_t limit{};
     jpegdata_t const& data;
     jpeg_memory_source_t* source = nullptr;
-    bool has_scans = false;  ///< several, which are all read before the first row comes out
+    bool has_scans = false;  ///< several scans, all of which are read before the first row
     unsigned int app_length = saved_marker_length;
-    JSAMPROW bottom = nullptr;     ///< the image's first byte
-    std::size_t row_size = 0;      ///< bytes from a row to the one above it
-    unsigned int stored_rows = 0;  ///< rows that the store holds
-    bool fell_short = false;       ///< the data ran out
+    JSAMPROW bottom = nullptr;     ///< the first byte of the image
+    std::size_t row_size = 0;      ///< bytes from a row to the next one above
+    unsigned int stored_rows = 0;  ///< rows for which the image has memory
+    bool fell_short = false;       ///< the data ended early
 
     explicit decoding_t(jpegdata_t const& bytes) : data(bytes) {}
     decoding_t(decoding_t const&) = delete;
@@ -68,15 +67,15 @@ void report(jpegdata_t const& data, char const* text) {
     std::cerr << libutils::putname(data.name) << text << std::endl;
 }
 
-/// Decodes the rows, the file's first into the highest place.
+/// Decodes the rows. The first row of the file becomes the last one in memory.
 void read_rows(decoding_t& decoding) {
     j_decompress_ptr const cinfo = &decoding.cinfo;
     jpeg_start_decompress(cinfo);
     decoding.fell_short = decoding.has_scans && (decoding.limit.is_reached || lacks_data(cinfo) ||
                                                  decoding.source->has_run_out());
-    JSAMPARRAY const elsewhere = (*cinfo->mem->alloc_sarray)(
-        reinterpret_cast<j_common_ptr>(cinfo), JPOOL_IMAGE,
-        cinfo->output_width * static_cast<JDIMENSION>(cinfo->output_components), 1);
+    JSAMPARRAY const elsewhere =
+        (*cinfo->mem->alloc_sarray)(reinterpret_cast<j_common_ptr>(cinfo), JPOOL_IMAGE,
+                                    static_cast<JDIMENSION>(decoding.row_size), 1);
     while (cinfo->output_scanline < cinfo->output_height) {
         JDIMENSION const target = cinfo->output_height - 1 - cinfo->output_scanline;
         JSAMPROW row = target < decoding.stored_rows ? decoding.bottom + decoding.row_size * target
@@ -93,8 +92,8 @@ void read_rows(decoding_t& decoding) {
     jpeg_finish_decompress(cinfo);
 }
 
-/// Decodes the rows of a file of several scans from the scans that stand before an error, none of
-/// which has come out yet.
+/// Decodes a file of several scans again after an error, using the scans before the error. None of
+/// its rows has been decoded yet.
 void read_whole_scans(decoding_t& failed) {
     jpeg_destroy_decompress(&failed.cinfo);
     decoding_t decoding(failed.data);
@@ -139,21 +138,21 @@ void keep_markers(std::list<marker_t>& markers, jpeg_decompress_struct const& ci
     }
 }
 
-/// `side` brought up to a multiple of `unit`, in 16 bits; 0 where it has no room there.
+/// Returns `side` rounded up to a multiple of `unit`, or 0 if the result does not fit into 16 bits.
 unsigned short rounded_side(unsigned int side, unsigned short unit) {
     auto const rest = static_cast<unsigned short>(static_cast<unsigned short>(side) % unit);
     auto const rounded = static_cast<unsigned short>(rest == 0 ? side : side + (unit - rest));
     return rounded < side ? 0 : rounded;
 }
 
-/// Gives the image a store of `side` rows of `side` pixels.
+/// Allocates `side` rows of `side` pixels.
 bool allocate_square(image2d_t& image, unsigned int side, char const* file) {
     image.window.rowlength = side;
     return fits_in_memory(side, side, image.getPixelBits(), file) &&
            image.resize(image.rowsize() * side, 0);
 }
 
-/// Clears the pixels of the square that are right of the picture or above it.
+/// Clears the pixels of the square outside of the picture.
 void clear_outside(image2d_t& image, unsigned int side) {
     auto const row_size = static_cast<std::size_t>(image.rowsize());
     auto const row_bytes = static_cast<std::size_t>(image.rowbyte());
@@ -164,8 +163,8 @@ void clear_outside(image2d_t& image, unsigned int side) {
     }
 }
 
-/// Paints a margin of one pixel round the picture, as far as the store reaches, three bytes a pixel
-/// whatever the format.
+/// Paints a margin of one pixel around the picture, as far as the image has memory. Uses three
+/// bytes per pixel for all formats.
 void paint_border(image2d_t& image, color3ub_t const& color) {
     auto const row_size = static_cast<std::size_t>(image.rowsize());
     auto const paint = [&](unsigned int x, unsigned int y) {
@@ -185,7 +184,7 @@ void paint_border(image2d_t& image, color3ub_t const& color) {
     }
 }
 
-/// Allocates the store for a picture whose sizes and description are set.
+/// Allocates the memory of a picture whose size and pixel format are set.
 bool allocate_store(image2d_t& image, unsigned short unit, bool border, color3ub_t const& color,
                     char const* file) {
     if (unit == 0 && !border) {
@@ -198,13 +197,14 @@ bool allocate_store(image2d_t& image, unsigned short unit, bool border, color3ub
         if (!allocate_square(image, side, file)) {
             return false;
         }
-        if (!is_new) {  // new memory is 0 and is not touched before a row is decoded into it
+        if (!is_new) {  // new memory is 0, and uses no pages before it is written
             clear_outside(image, side);
         }
         return true;
     }
     image.window.skiprows = 1;
-    // Without a unit the rows follow the width, so that a tall picture doesn't fit in.
+    // Without a unit, the side is the width. Callers depend on it, although the rows of a tall
+    // picture do not all fit.
     unsigned int const side = unit != 0 ? rounded_side(longer, unit) : image.m_width;
     if (side == 0 || !allocate_square(image, static_cast<unsigned short>(side + 2), file)) {
         return false;
@@ -229,15 +229,17 @@ bool jpeginfo_t::decompress(image2d_t& image, jpegdata_t const& data, unsigned s
     image.m_width = cinfo.image_width;
     image.m_height = cinfo.image_height;
     image.compressed = false;
-    image.store = &s_image_store;
+    image.store = &padded_store;
     jpeg_info_desc_t const* const row = row_of(cinfo);
     if (row == nullptr) {
-        return false;
+        return libutils::reject(cinfo.out_color_space == JCS_CMYK ? "CMYK JPEG"
+                                                                  : "JPEG of unknown colours");
     }
     image.desc = row->desc;
     if (!has_plausible_size(decoding, row->desc) ||
         !allocate_store(image, square_unit, border, border_color, data.name) ||
         image.rowsize() < image.rowbyte()) {
+        libutils::reject("not enough memory");
         report(data, ": jpeg decompress fail, stop.");
         return false;
     }

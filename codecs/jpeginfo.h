@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Decoding and encoding of JPEG data in memory (ITU-T T.81) through libjpeg, and the markers that
-// are kept of it.
+// Decodes and encodes JPEG data in memory (ITU-T T.81) with libjpeg.
 #pragma once
 
 #include <list>
@@ -11,53 +10,70 @@
 
 namespace libgr {
 
-/// A marker segment of a JPEG file, with a copy of its payload: the bytes behind the length field.
+/// A marker segment of a JPEG file, with a copy of its payload, the bytes after the length field.
 struct marker_t {
     unsigned char code;
     jpeg_bytes_t payload;
 };
 
-/// One row between an image's description and libjpeg's J_COLOR_SPACE.
+/// A pixel format and the J_COLOR_SPACE of libjpeg for it.
 struct jpeg_info_desc_t {
     image_desc_t desc;
     unsigned int color_space;
     unsigned int components;
 };
+/// The formats that are decoded and encoded: RGB, YCbCr and GRAYSCALE, all with 8 bits.
 extern jpeg_info_desc_t const jpeg_info_desc_table[3];
 
-/// Decodes and encodes. An error in the data never ends the process. All messages go to std::cerr
-/// and begin with the data's name, if it has one; libjpeg's own words follow them.
+/// Decodes and encodes JPEG data. Error lines go to std::cerr. They begin with the name of the
+/// data, and a line with libjpeg's message follows them.
+///
+/// To read the markers of a file without decoding it:
+///
+/// ```cpp
+/// #include "metadata/exif.h"
+///
+/// libgr::jpegdata_t file;
+/// libgr::jpeginfo_t info;
+/// libgr::app1_marker_t exif;
+/// if (file.load("photo.jpg", nullptr) && info.analyze_markers(file)) {
+///     exif.set_app1_buffer(info.get_marker(libgr::MARKER_APP1));
+///     exif.parse();
+/// }
+/// ```
 class jpeginfo_t {
   public:
     unsigned long width = 0;      ///< pixels, from the last header read
     unsigned long height = 0;     ///< pixels, from the last header read
-    std::list<marker_t> markers;  ///< APPn and COM in file order; encoding writes them again
+    std::list<marker_t> markers;  ///< APPn and COM in file order; `compress` writes them
 
-    /// Decodes `data` into `image`, bottom row first, each row straight into its place, and keeps
-    /// the markers that are whole.
+    /// Decodes `data` into `image`, bottom row first, without a copy, and keeps the complete
+    /// markers. The format is RGB or GRAYSCALE with 8 bits.
     ///
-    /// With `square_unit` above 0 the rows lie in a square whose side is the picture's longer one
-    /// rounded up to a multiple of it, the rest zero. With `border` the store has a margin of one
-    /// pixel, painted with `border_color` before the rows go in.
+    /// If `square_unit` is not 0, the memory of the image is a square. Its side is the longer side
+    /// of the picture, rounded up to a multiple of `square_unit`, and the other pixels are 0. With
+    /// `border`, the memory has a margin of one pixel in `border_color` around the picture.
     ///
-    /// Returns true if the picture was decoded, with a line if only in part; missing rows are left
-    /// as allocated. Returns false with a line for a damaged header and for a size, of the picture
-    /// or of the square, that exceeds the limit jpeg-ratio or picture-memory (utils/limits.h), and
-    /// without a line for colours that the table does not have, such as CMYK.
+    /// Returns true if at least a part was decoded. A line on std::cerr reports an incomplete
+    /// picture; its missing rows are 0 if the image was empty. Returns false with an error line for
+    /// a damaged header, and if the picture or the square exceeds the limit jpeg-ratio or
+    /// picture-memory (utils/limits.h). Returns false without a line for other colours, such as
+    /// CMYK.
     bool decompress(image2d_t& image, jpegdata_t const& data, unsigned short square_unit,
                     bool border, color3ub_t const& border_color);
 
-    /// Encodes `image`, whose description must be in the table, into new bytes of `data`, behind
-    /// the markers; `quality` from 1 to 100, with `force_baseline` kept to 8-bit quantisation.
-    /// Returns false and sets errno for another description or an image that lacks bytes, and,
-    /// after a line, for an error in libjpeg.
+    /// Encodes `image` into new bytes of `data`, and writes the markers before it. `quality` is
+    /// from 1 to 100. `force_baseline` limits the quantisation to 8 bits. The format must be in the
+    /// table. Returns false and sets errno on failure: EINVAL for another format or an image with
+    /// too few bytes, and EINVAL or ENOMEM, after an error line, if libjpeg fails.
     bool compress(jpegdata_t& data, image2d_t const& image, int quality, bool force_baseline);
 
-    /// Reads the header alone, for sizes and markers, cut ones included. False with a line when it
-    /// is damaged.
+    /// Reads only the header: `width`, `height`, and all markers, including empty and cut ones.
+    /// Returns false with an error line if it is damaged.
     bool analyze_markers(jpegdata_t const& data);
 
-    /// The payload of the first kept marker of that number, shared; empty when there is none.
+    /// Returns the payload of the first marker with this number, or empty bytes. The payload is
+    /// shared, not copied.
     jpeg_bytes_t get_marker(e_marker_num_t number) const;
 };
 

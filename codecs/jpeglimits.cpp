@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Limits of a decompressor's time and memory.
+// Limits of the time and memory that decoding a JPEG takes.
 #include "codecs/jpeglimits.h"
 
 #include <jerror.h>
@@ -13,7 +13,7 @@ namespace {
 
 namespace limits = libutils::limits;
 
-/// Blocks that the present scan reads in a row of iMCUs.
+/// Returns the number of blocks that the current scan reads for a row of iMCUs.
 std::uint64_t blocks_of_row(jpeg_decompress_struct const& cinfo) {
     std::uint64_t blocks = 0;
     for (int i = 0; i < cinfo.comps_in_scan; ++i) {
@@ -45,8 +45,8 @@ libutils::limit_t const* exceeded_limit(jpeg_decompress_struct const& cinfo,
     return limit.blocks > max_blocks ? &limits::jpeg_blocks : nullptr;
 }
 
-/// libjpeg's progress hook, which is called for each row of iMCUs read and each row of samples
-/// returned.
+/// The progress hook of libjpeg. libjpeg calls it for each row of iMCUs that it reads and for each
+/// row of samples that it returns.
 void limit_work(j_common_ptr any) {
     auto* const cinfo = reinterpret_cast<j_decompress_ptr>(any);
     auto& limit = *reinterpret_cast<work_limit_t*>(cinfo->progress);
@@ -66,7 +66,7 @@ void limit_work(j_common_ptr any) {
     if (limit.is_reached && limit.source == nullptr) {
         ERREXIT(cinfo, JERR_BAD_PROGRESSION);
     } else if (limit.is_reached) {
-        cinfo->unread_marker = 0;  // what was read ahead isn't looked at any more
+        cinfo->unread_marker = 0;  // drop the marker that was read ahead
         end_source(*limit.source);
     }
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Limits of a decompressor's time and memory. Exceeded limits are reported by an error line that
-// names them; see utils/limits.h.
+// Limits of the time and memory that decoding a JPEG takes (utils/limits.h).
 #pragma once
 
 #include <cstdint>
@@ -9,25 +8,28 @@
 
 namespace libgr {
 
-/// Counts the blocks that a decompressor reads of a file of several scans.
+/// The blocks that a decompressor has read. A file of several scans can read the whole picture
+/// again and again.
 struct work_limit_t {
     jpeg_progress_mgr base{};
     jpegdata_t const* data = nullptr;
-    jpeg_memory_source_t* source = nullptr;  ///< ends when the limit is reached; null: an error
+    /// The source that is ended when the limit is reached. If it is null, libjpeg fails instead.
+    jpeg_memory_source_t* source = nullptr;
     bool is_reached = false;
     bool is_reported = false;  ///< an error line has been printed
-    int last_scan = 0;         ///< the scan after which decoding ends in any case; 0 for none
+    int last_scan = 0;         ///< the scan after which decoding always ends, or 0
     std::uint64_t blocks = 0;  ///< read so far, in all scans
-    int scan = 0;              ///< the last row that was counted
-    JDIMENSION row = 0;
+    int scan = 0;              ///< the scan and
+    JDIMENSION row = 0;        ///< the row of iMCUs that were counted last
 };
 
-/// Stops the decompressor, which must have been created, when the scans of `data` exceed the limit
-/// jpeg-scans or jpeg-blocks.
+/// Stops the decompressor when the scans of `data` exceed the limit jpeg-scans or jpeg-blocks.
+/// Prints an error line then. The decompressor must have been created.
 void use_work_limit(j_decompress_ptr cinfo, work_limit_t& limit, jpegdata_t const& data);
 
-/// Returns true if the size in the header is within the limits jpeg-ratio and picture-memory, with
-/// `pixel_bits` for each pixel and `other_bits` for its coefficients.
+/// Returns true if the size in the header is within the limits jpeg-ratio and picture-memory.
+/// `pixel_bits` is the size of a pixel, and `other_bits` the size of its coefficients, in bits.
+/// Otherwise prints an error line.
 bool is_plausible_size(jpeg_decompress_struct const& cinfo, std::uint64_t pixel_bits,
                        std::uint64_t other_bits, jpegdata_t const& data);
 

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-// How libjpeg reads and writes memory, and how it comes back from an error.
+// The error, source and destination managers for libjpeg.
 #include "codecs/jpegmanagers.h"
 
 #include <jerror.h>
-#if __has_include(<jpegint.h>)
-#include <jpegint.h>
-#endif
 
 #include <iostream>
 
@@ -51,7 +48,7 @@ void src_skip_input_data(j_decompress_ptr cinfo, long count) {
     if (count <= 0) {
         return;
     }
-    // A skip past the end leaves nothing, and the next fill finds the file run out.
+    // After a skip past the end, the next fill reports that the file has run out.
     jpeg_source_mgr& source = *cinfo->src;
     std::size_t const skipped = static_cast<std::size_t>(count) < source.bytes_in_buffer
                                     ? static_cast<std::size_t>(count)
@@ -71,7 +68,7 @@ jpeg_memory_destination_t& destination_of(j_compress_ptr cinfo) {
     return *reinterpret_cast<jpeg_memory_destination_t*>(cinfo->dest);
 }
 
-/// Makes room behind the first `used` bytes.
+/// Makes room after the first `used` bytes.
 void grow(j_compress_ptr cinfo, unsigned long used) {
     jpeg_memory_destination_t& destination = destination_of(cinfo);
     if (!destination.data->resize(used + growth_step, 0)) {
@@ -100,12 +97,42 @@ void dest_term(j_compress_ptr cinfo) {
     cinfo->dest = nullptr;
 }
 
+/// Watches libjpeg's warnings and traces for the end of the entropy-coded data. libjpeg's decoder
+/// has a flag for it, but only in its private header.
+void watch_messages(j_common_ptr cinfo, int level) {
+    auto* const error = reinterpret_cast<my_error_mgr*>(cinfo->err);
+    switch (error->base.msg_code) {
+        case JWRN_HIT_MARKER:
+            error->has_hit_marker = true;
+            break;
+        case JTRC_RST:
+        case JTRC_SOS:
+            error->has_hit_marker = false;
+            break;
+        default:
+            break;
+    }
+    error->default_emit_message(cinfo, level);
+}
+
+/// Calls libjpeg's function that finds the next restart marker.
+boolean src_resync_to_restart(j_decompress_ptr cinfo, int desired) {
+    boolean const is_done = jpeg_resync_to_restart(cinfo, desired);
+    if (cinfo->unread_marker == 0) {
+        reinterpret_cast<my_error_mgr*>(cinfo->err)->has_hit_marker = false;
+    }
+    return is_done;
+}
+
 }  // namespace
 
 void my_error_exit(j_common_ptr cinfo) {
     auto* const error = reinterpret_cast<my_error_mgr*>(cinfo->err);
     libutils::error();
     std::cerr << libutils::putname(error->data->name) << ": error detected." << std::endl;
+    char message[JMSG_LENGTH_MAX] = {};
+    error->base.format_message(cinfo, message);
+    libutils::reject(message);
     error->base.output_message(cinfo);
     std::longjmp(error->jump, 1);
 }
@@ -113,6 +140,9 @@ void my_error_exit(j_common_ptr cinfo) {
 jpeg_error_mgr* use_error_mgr(my_error_mgr& error, jpegdata_t const& data) {
     jpeg_std_error(&error.base);
     error.base.error_exit = my_error_exit;
+    error.default_emit_message = error.base.emit_message;
+    error.base.emit_message = watch_messages;
+    error.has_hit_marker = false;
     error.data = &data;
     return &error.base;
 }
@@ -123,10 +153,8 @@ jpeg_memory_source_t* use_memory_source(j_decompress_ptr cinfo, jpegdata_t const
     source->base.init_source = src_init;
     source->base.fill_input_buffer = src_fill_input_buff;
     source->base.skip_input_data = src_skip_input_data;
-    source->base.resync_to_restart = jpeg_resync_to_restart;
+    source->base.resync_to_restart = src_resync_to_restart;
     source->base.term_source = src_term;
-    source->base.next_input_byte = nullptr;
-    source->base.bytes_in_buffer = 0;
     source->data = &data;
     source->fills = 0;
     source->in_header = true;
@@ -140,12 +168,10 @@ void end_source(jpeg_memory_source_t& source) {
 }
 
 bool lacks_data(j_decompress_ptr cinfo) {
-#if __has_include(<jpegint.h>)
-    if (cinfo->arith_code == FALSE) {  // the arithmetic decoder never sets the sign
-        return cinfo->entropy->insufficient_data != FALSE;
+    if (cinfo->arith_code != FALSE) {  // the arithmetic decoder has no warning
+        return source_of(cinfo).has_run_out();
     }
-#endif
-    return source_of(cinfo).has_run_out();
+    return reinterpret_cast<my_error_mgr*>(cinfo->err)->has_hit_marker;
 }
 
 void use_memory_destination(j_compress_ptr cinfo, jpegdata_t& data) {

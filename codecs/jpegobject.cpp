@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Loading and saving JPEG files.
+// The JPEG codec.
 #include "codecs/jpegobject.h"
 
 #include "codecs/orientation.h"
@@ -20,7 +20,7 @@ bool image_jpeg1_t::load(image2d_t& image, char const* path) {
     return decoded;
 }
 
-/// Only the file's first APP1 is looked at, and it counts only when all of it parses.
+/// Reads the orientation from the first APP1 segment, if all of it can be parsed.
 void image_jpeg1_t::read_orientation() {
     jpeg_bytes_t const payload = m_info.get_marker(MARKER_APP1);
     if (payload.empty()) {

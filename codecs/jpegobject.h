@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The JPEG codec object: pictures with the turn that their Exif orientation demands.
+// The JPEG codec.
 #pragma once
 
 #include "codecs/imageobject.h"
@@ -8,8 +8,9 @@
 
 namespace libgr {
 
-/// Reads JPEG files by a mapping, and writes them at quality 95 with the markers of what it last
-/// read. A picture that decodes in part is a picture.
+/// Reads mapped JPEG files and their Exif orientation. Loads a picture that can be decoded in part
+/// as well; the missing rows are black. Rejects CMYK. Writes at quality 95, with the markers of the
+/// file that the object has read.
 class image_jpeg1_t : public image_object_t {
   public:
     bool load(image2d_t& image, char const* path) override;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The way of a JPEG from memory to memory through a lossless transform.
+// Lossless operations from one JPEG in memory to another.
 #include "codecs/jpegtransform.h"
 
 #include <jerror.h>
@@ -16,62 +16,64 @@ namespace libgr {
 
 namespace {
 
-struct reading_t;
+struct transform_input_t;
 
-/// The compressor, with an error manager of its own, whose count of warnings it sets back.
-struct writing_t {
+/// The compressor. It has its own error manager, because libjpeg resets the count of warnings.
+struct transform_output_t {
     jpeg_compress_struct cinfo{};
     my_error_mgr error{};
     jpeg_scan_info scans[MAX_COMPONENTS]{};
-    reading_t& reading;
+    transform_input_t& input;
     jpegdata_t& data;
 
-    writing_t(reading_t& source, jpegdata_t& out) : reading(source), data(out) {}
-    writing_t(writing_t const&) = delete;
-    writing_t& operator=(writing_t const&) = delete;
-    ~writing_t() { jpeg_destroy_compress(&cinfo); }
+    transform_output_t(transform_input_t& source, jpegdata_t& out) : input(source), data(out) {}
+    transform_output_t(transform_output_t const&) = delete;
+    transform_output_t& operator=(transform_output_t const&) = delete;
+    ~transform_output_t() { jpeg_destroy_compress(&cinfo); }
 };
 
-struct reading_t {
+/// The decompressor, and the request.
+struct transform_input_t {
     jpeg_decompress_struct cinfo{};
     my_error_mgr error{};
     work_limit_t limit{};
-    jpegdata_t data;  ///< shares the bytes, so that the output may take their place
+    jpegdata_t data;  ///< shares the bytes, because the output may replace them
     jpeg_transform_info& info;
     JCOPY_OPTION option;
-    writing_t writing;
+    transform_output_t output;
     bool is_perfect = true;
     bool is_written = false;
 
-    reading_t(jpegdata_t const& in, jpegdata_t& out, jpeg_transform_info& request,
-              JCOPY_OPTION copied)
-        : data(in), info(request), option(copied), writing(*this, out) {}
-    reading_t(reading_t const&) = delete;
-    reading_t& operator=(reading_t const&) = delete;
-    ~reading_t() { jpeg_destroy_decompress(&cinfo); }
+    transform_input_t(jpegdata_t const& in, jpegdata_t& out, jpeg_transform_info& request,
+                      JCOPY_OPTION copied)
+        : data(in), info(request), option(copied), output(*this, out) {}
+    transform_input_t(transform_input_t const&) = delete;
+    transform_input_t& operator=(transform_input_t const&) = delete;
+    ~transform_input_t() { jpeg_destroy_decompress(&cinfo); }
 };
 
-/// Bits of a pixel's coefficients.
+/// Returns the size of the coefficients of a pixel in bits.
 std::uint64_t coefficient_bits(int components) {
     return static_cast<std::uint64_t>(components) * sizeof(JCOEF) * 8;
 }
 
 /// Checks the size in the header, with the coefficients of the input and the output.
-bool has_plausible_size(reading_t const& reading) {
-    int const components = reading.cinfo.num_components;
-    return is_plausible_size(reading.cinfo, static_cast<std::uint64_t>(components) * 8,
-                             2 * coefficient_bits(components), reading.data);
+bool has_plausible_size(transform_input_t const& input) {
+    int const components = input.cinfo.num_components;
+    return is_plausible_size(input.cinfo, static_cast<std::uint64_t>(components) * 8,
+                             2 * coefficient_bits(components), input.data);
 }
 
 /// Checks the size of the output, which a crop may have made larger.
-bool has_plausible_output(reading_t const& reading) {
-    jpeg_transform_info const& info = reading.info;
+bool has_plausible_output(transform_input_t const& input) {
+    jpeg_transform_info const& info = input.info;
     return fits_in_memory(info.output_width, info.output_height,
-                          2 * coefficient_bits(info.num_components), reading.data.name);
+                          2 * coefficient_bits(info.num_components), input.data.name);
 }
 
-/// Whether a block's AC coefficients, and the steps between DC coefficients from `low` to `high`,
-/// surely have codes in the usual Huffman tables. Widens that range by the block's own.
+/// Returns true if the standard Huffman tables have codes for the AC coefficients of a block, and
+/// for all differences of DC coefficients from `low` to `high`, which the function extends to this
+/// block.
 bool is_codable(JCOEF const* block, int& low, int& high) {
     constexpr int max_ac_coefficient = 1023;
     constexpr int max_quantizer_step = 2047;
@@ -101,89 +103,87 @@ bool is_codable(j_decompress_ptr cinfo, jvirt_barray_ptr* arrays) {
     return true;
 }
 
-/// Gives each component a scan of its own where one scan can't hold them all (ITU-T T.81, B.2.3).
-void separate_scans(writing_t& writing) {
-    jpeg_compress_struct& cinfo = writing.cinfo;
+/// Writes each component in its own scan if one scan cannot contain them all (ITU-T T.81, B.2.3).
+void separate_scans(transform_output_t& output) {
+    jpeg_compress_struct& cinfo = output.cinfo;
     int blocks = 0;
     for (int i = 0; i < cinfo.num_components; ++i) {
         blocks += cinfo.comp_info[i].h_samp_factor * cinfo.comp_info[i].v_samp_factor;
-        writing.scans[i] = {1, {i}, 0, DCTSIZE2 - 1, 0, 0};
+        output.scans[i] = {1, {i}, 0, DCTSIZE2 - 1, 0, 0};
     }
-    bool const fit_together =
-        cinfo.num_components <= MAX_COMPS_IN_SCAN && blocks <= C_MAX_BLOCKS_IN_MCU;
-    if (cinfo.num_components > 1 && !fit_together) {
-        cinfo.scan_info = writing.scans;
+    if (cinfo.num_components > MAX_COMPS_IN_SCAN || blocks > C_MAX_BLOCKS_IN_MCU) {
+        cinfo.scan_info = output.scans;
         cinfo.num_scans = cinfo.num_components;
     }
 }
 
-void write(writing_t& writing) {
-    reading_t& reading = writing.reading;
-    j_compress_ptr const cinfo = &writing.cinfo;
-    cinfo->err = use_error_mgr(writing.error, reading.data);
+void write(transform_output_t& output) {
+    transform_input_t& input = output.input;
+    j_compress_ptr const cinfo = &output.cinfo;
+    cinfo->err = use_error_mgr(output.error, input.data);
     jpeg_create_compress(cinfo);
-    jvirt_barray_ptr* const arrays = jpeg_read_coefficients(&reading.cinfo);
-    jpeg_copy_critical_parameters(&reading.cinfo, cinfo);
+    jvirt_barray_ptr* const arrays = jpeg_read_coefficients(&input.cinfo);
+    jpeg_copy_critical_parameters(&input.cinfo, cinfo);
     jvirt_barray_ptr* const written =
-        jtransform_adjust_parameters(&reading.cinfo, cinfo, arrays, &reading.info);
-    separate_scans(writing);
-    // libjpeg doesn't look whether the usual tables have a code, only whether tables of the
-    // picture's own can have one.
-    cinfo->optimize_coding = is_codable(&reading.cinfo, arrays) ? FALSE : TRUE;
-    writing.data.clear();
-    use_memory_destination(cinfo, writing.data);
+        jtransform_adjust_parameters(&input.cinfo, cinfo, arrays, &input.info);
+    separate_scans(output);
+    // libjpeg does not check if the standard tables have a code. It reports a value without a code
+    // only if it makes optimised tables.
+    cinfo->optimize_coding = is_codable(&input.cinfo, arrays) ? FALSE : TRUE;
+    output.data.clear();
+    use_memory_destination(cinfo, output.data);
     jpeg_write_coefficients(cinfo, written);
-    jcopy_markers_execute(&reading.cinfo, cinfo, reading.option);
-    jtransform_execute_transform(&reading.cinfo, cinfo, arrays, &reading.info);
+    jcopy_markers_execute(&input.cinfo, cinfo, input.option);
+    jtransform_execute_transform(&input.cinfo, cinfo, arrays, &input.info);
     jpeg_finish_compress(cinfo);
 }
 
-/// Takes the place of the source's fill hook behind the header: the whole file has been delivered
-/// by then, and its coefficients are wanted all or not at all.
-boolean refuse_to_fill(j_decompress_ptr cinfo) {
+/// The fill hook after the header. The whole file has been delivered then, and a file with missing
+/// coefficients is not rotated.
+boolean reject_fill(j_decompress_ptr cinfo) {
     ERREXIT(cinfo, JERR_INPUT_EOF);
     return FALSE;
 }
 
-/// Reads, and writes within it: an error of either struct comes back to its own step.
-void read_and_write(reading_t& reading) {
-    j_decompress_ptr const cinfo = &reading.cinfo;
-    cinfo->err = use_error_mgr(reading.error, reading.data);
+/// Reads the input, and writes the output in a step of its own, because it has its own struct.
+void read_and_write(transform_input_t& input) {
+    j_decompress_ptr const cinfo = &input.cinfo;
+    cinfo->err = use_error_mgr(input.error, input.data);
     jpeg_create_decompress(cinfo);
-    use_work_limit(cinfo, reading.limit, reading.data);
-    jpeg_memory_source_t* const source = use_memory_source(cinfo, reading.data);
-    jcopy_markers_setup(cinfo, reading.option);
+    use_work_limit(cinfo, input.limit, input.data);
+    jpeg_memory_source_t* const source = use_memory_source(cinfo, input.data);
+    jcopy_markers_setup(cinfo, input.option);
     jpeg_read_header(cinfo, TRUE);
-    source->base.fill_input_buffer = refuse_to_fill;
-    if (!has_plausible_size(reading)) {
+    source->base.fill_input_buffer = reject_fill;
+    if (!has_plausible_size(input)) {
         ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
     }
-    reading.is_perfect = jtransform_request_workspace(cinfo, &reading.info);
-    if (reading.is_perfect && !has_plausible_output(reading)) {
+    input.is_perfect = jtransform_request_workspace(cinfo, &input.info);
+    if (input.is_perfect && !has_plausible_output(input)) {
         ERREXIT1(cinfo, JERR_OUT_OF_MEMORY, 0);
     }
-    if (!reading.is_perfect || !run_jpeg_step(write, reading.writing)) {
+    if (!input.is_perfect || !run_jpeg_step(write, input.output)) {
         return;
     }
     jpeg_finish_decompress(cinfo);
-    reading.is_written = true;
+    input.is_written = true;
 }
 
 }  // namespace
 
 bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
                jpegdata_t const& in) {
-    reading_t reading(in, out, info, option);
-    bool const is_turned = run_jpeg_step(read_and_write, reading) && reading.is_written;
-    info.workspace = nullptr;  // it goes with the decompressor
-    if (!reading.is_perfect) {
+    transform_input_t input(in, out, info, option);
+    bool const is_turned = run_jpeg_step(read_and_write, input) && input.is_written;
+    info.workspace = nullptr;  // owned by the decompressor
+    if (!input.is_perfect) {
         libutils::refuse(": transformation is not perfect");
     }
     if (!is_turned) {
         out.clear();
         return false;
     }
-    return reading.error.base.num_warnings + reading.writing.error.base.num_warnings == 0;
+    return input.error.base.num_warnings + input.output.error.base.num_warnings == 0;
 }
 
 bool transform(unsigned long rightrotatecount, jpegdata_t& out, jpegdata_t const& in) {

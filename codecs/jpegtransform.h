@@ -1,24 +1,34 @@
 // SPDX-License-Identifier: MIT
-// The lossless turn of a JPEG file in memory. `codecs/jtransform.h` has what lies behind it, for
-// those who want to mirror, crop or keep markers.
+// The lossless rotation of a JPEG file in memory.
 #pragma once
 
 #include "codecs/jpegdata.h"
 
 namespace libgr {
 
-/// Turns `in` by `rightrotatecount` quarter turns clockwise, 0 to 3, into `out`, which may be `in`.
+/// Rotates the JPEG `in` by `rightrotatecount` quarter turns clockwise (0 to 3) into `out`, which
+/// may be `in`. codecs/jtransform.h has the other operations: mirroring, cropping, markers.
 ///
-/// Nothing is decoded to pixels: the quantised coefficients move (ITU-T T.81, A.3.3), so nothing is
-/// lost. Blocks can only change sides where they fill whole units of 8 samples times the largest
-/// sampling factor: of a picture with another width or height, a strip of less than a unit keeps
-/// its place at the right or at the bottom. `out` is sequential, with the usual Huffman tables
-/// where these have codes for all its values, and has none of the comments and APPn segments of
-/// `in`, so that no Exif orientation contradicts the turn.
+/// ```cpp
+/// libgr::jpegdata_t file;
+/// if (file.load("photo.jpg", nullptr) && libgr::transform(1, file, file)) {
+///     file.save("turned.jpg", nullptr);
+/// }
+/// ```
 ///
-/// False with a line on std::cerr for a count of 4 or more, which leaves `out` alone, for bytes
-/// that aren't a good and whole JPEG, and for values that no Huffman table has a code for: `out` is
-/// empty after an error, and holds what could be turned where libjpeg merely warned of damage.
+/// The picture is not decoded to pixels. Its quantised coefficients are moved (ITU-T T.81, A.3.3),
+/// which loses nothing. Only whole iMCUs can change sides. An iMCU has 8 samples times the largest
+/// sampling factor in each direction. If the width or height is not a multiple of the iMCU, the
+/// rest, a strip at the right or the bottom, keeps its place.
+///
+/// `out` is sequential. It uses the standard Huffman tables if they have codes for all its values.
+/// It has none of the comments and APPn segments of `in`, so that no Exif orientation contradicts
+/// the rotation.
+///
+/// Returns false with a line on std::cerr
+/// - if `rightrotatecount` is 4 or more: `out` is unchanged;
+/// - if `in` is not a complete JPEG, or a value has no Huffman code: `out` is empty;
+/// - if libjpeg prints a warning about damage: `out` is the rotated picture.
 bool transform(unsigned long rightrotatecount, jpegdata_t& out, jpegdata_t const& in);
 
 }  // namespace libgr

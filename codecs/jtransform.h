@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Lossless operations on the coefficient arrays between a libjpeg decompressor and a compressor.
+// Lossless operations on JPEG pictures: rotation, mirroring, cropping, and copying of markers.
 #pragma once
 
 #include "codecs/jpegmanagers.h"
 
 namespace libgr {
 
-// The order of calls, each step on the same request:
+// `transform` at the end of this file does everything. Programs with their own libjpeg structs call
+// the steps in this order, all with the same request:
 //
 //     jcopy_markers_setup(source, option);                 before jpeg_read_header
 //     jpeg_read_header(source, TRUE);
@@ -18,10 +19,12 @@ namespace libgr {
 //     jcopy_markers_execute(source, destination, option);
 //     jtransform_execute_transform(source, destination, arrays, &info);
 //
-// `transform` below does all that. What can't be done is an error of the struct's own error
-// manager. An iMCU (interleaved minimum coded unit, ITU-T T.81, A.2) is the smallest piece of a
-// picture that can change sides: 8 samples times the largest sampling factor in each direction, and
-// 8 by 8 samples in a picture of a single component.
+// A request that cannot be carried out is a libjpeg error: the error manager of the struct is
+// called.
+//
+// An iMCU (interleaved minimum coded unit, ITU-T T.81, A.2) is the smallest part of a picture that
+// can be moved. Each side has 8 samples times the largest sampling factor. In a picture with one
+// component, it has 8 by 8 samples.
 
 enum JXFORM_CODE {
     JXFORM_NONE = 0,        ///< copy
@@ -32,39 +35,41 @@ enum JXFORM_CODE {
     JXFORM_ROT_90 = 5,      ///< 90 degrees clockwise
     JXFORM_ROT_180 = 6,
     JXFORM_ROT_270 = 7,
-    JXFORM_WIPE = 8,  ///< blank out a region: refused, JERR_NOT_COMPILED
-    JXFORM_DROP = 9,  ///< put in another picture: refused, JERR_NOT_COMPILED
+    JXFORM_WIPE = 8,  ///< blank out a region; not implemented: the error JERR_NOT_COMPILED
+    JXFORM_DROP = 9,  ///< insert another picture; not implemented: the error JERR_NOT_COMPILED
 };
 
-/// What is known of one number of a crop.
+/// The meaning of a number of a crop.
 enum JCROP_CODE {
-    JCROP_UNSET = 0,
+    JCROP_UNSET = 0,     ///< the number is not used
     JCROP_POSITIVE = 1,  ///< a size, or an offset from the left or the top
     JCROP_NEGATIVE = 2,  ///< an offset from the right or the bottom
-    JCROP_FORCED = 3,    ///< a size that stays as it is; blocks beyond the picture are plain
-    JCROP_REFLECT = 4,   ///< a size; beyond the picture come its mirror images
+    JCROP_FORCED =
+        3,  ///< a size that is not rounded; blocks outside of the picture get its nearest mean
+    JCROP_REFLECT = 4,  ///< a size; the area outside of the picture gets mirror images of it
 };
 
+/// The marker segments that are copied.
 enum JCOPY_OPTION {
     JCOPY_NONE = 0,
     JCOPY_COMMENTS = 1,
     JCOPY_ALL = 2,             ///< comments and all APPn
-    JCOPY_ALL_EXCEPT_ICC = 3,  ///< the same without APP2
-    JCOPY_ICC = 4,             ///< APP2 alone
+    JCOPY_ALL_EXCEPT_ICC = 3,  ///< comments and all APPn but APP2
+    JCOPY_ICC = 4,             ///< APP2
 };
 
-/// One request. Sizes and places are in samples, x from the left and y from the top of the
-/// operation's output.
+/// One request. Sizes and offsets are in samples of the output, from its left and its top.
 struct jpeg_transform_info {
     JXFORM_CODE transform = JXFORM_NONE;
-    bool perfect = false;          ///< refuse where less than an iMCU would stay behind
-    bool trim = false;             ///< cut off what would stay behind
-    bool force_grayscale = false;  ///< of YCbCr keep Y alone; other colours are an error
-    bool crop = false;             ///< whether the following says what to keep of the output
-    bool slow_hflip = false;       ///< give JXFORM_FLIP_H a workspace, too, and spare the source's
+    bool perfect = false;          ///< fail if a part of the picture cannot be moved
+    bool trim = false;             ///< remove the part that cannot be moved
+    bool force_grayscale = false;  ///< keep only Y of YCbCr; other colours are an error
+    bool crop = false;             ///< use the following numbers
+    bool slow_hflip =
+        false;  ///< use a workspace for JXFORM_FLIP_H, and do not change the arrays of the source
 
     JDIMENSION crop_width = 0;
-    JCROP_CODE crop_width_set = JCROP_UNSET;  ///< unset: all that the offset leaves
+    JCROP_CODE crop_width_set = JCROP_UNSET;  ///< unset: the rest after the offset
     JDIMENSION crop_height = 0;
     JCROP_CODE crop_height_set = JCROP_UNSET;
     JDIMENSION crop_xoffset = 0;
@@ -77,8 +82,9 @@ struct jpeg_transform_info {
     JDIMENSION drop_height = 0;
 
     // Filled by jtransform_request_workspace.
-    int num_components = 0;                 ///< of the output
-    jvirt_barray_ptr* workspace = nullptr;  ///< an array for each of them, or null where not needed
+    int num_components = 0;  ///< of the output
+    jvirt_barray_ptr* workspace =
+        nullptr;  ///< an array for each component, or null if none is needed
     JDIMENSION output_width = 0;
     JDIMENSION output_height = 0;
     JDIMENSION x_crop_offset = 0;  ///< iMCUs
@@ -87,45 +93,60 @@ struct jpeg_transform_info {
     JDIMENSION iMCU_height = 0;
 };
 
-/// Works out sizes and crop, and requests the workspace, which libjpeg allocates and owns.
+/// Computes the sizes and the crop, and requests the workspace, which libjpeg allocates and owns.
 ///
-/// A crop begins at the edge of an iMCU at or before the place asked for. Its size grows by as
-/// much, so that its far edge holds, unless it is forced. A region that isn't all in the output is
-/// the error JERR_BAD_CROP_SPEC, unless its size is forced or reflects; its first sample must be in
-/// the output always. False if `perfect` is set and the picture doesn't allow it.
+/// The offset of a crop is rounded down to a whole iMCU. The size grows by the same amount, so that
+/// the right and the lower edge do not move, unless the size is JCROP_FORCED. The region must be
+/// inside of the output, unless its size is JCROP_FORCED or JCROP_REFLECT; its first sample must
+/// always be inside. Other regions are the error JERR_BAD_CROP_SPEC. Returns false if `perfect` is
+/// set and a part of the picture cannot be moved.
 bool jtransform_request_workspace(jpeg_decompress_struct* source, jpeg_transform_info* info);
 
-/// Makes the compressor's parameters those of the output, and gives the arrays that it is to write.
-/// Where the first saved marker is Exif, the pixel sizes in it become the output's.
+/// Sets the parameters of the compressor. Returns the arrays that it must write. If the first saved
+/// marker is Exif, its pixel sizes are set to the size of the output.
 jvirt_barray_ptr* jtransform_adjust_parameters(jpeg_decompress_struct* source,
                                                jpeg_compress_struct* destination,
                                                jvirt_barray_ptr* source_arrays,
                                                jpeg_transform_info* info);
 
-/// Moves the coefficients into the arrays that jtransform_adjust_parameters gave.
+/// Moves the coefficients into the arrays that jtransform_adjust_parameters returned.
 void jtransform_execute_transform(jpeg_decompress_struct* source, jpeg_compress_struct* destination,
                                   jvirt_barray_ptr* source_arrays, jpeg_transform_info* info);
 
-/// Whether the operation leaves nothing of a source of this size behind. Sizes of iMCUs, in
-/// samples, are above 0.
+/// Returns true if the operation can move all of a picture. `mcu_width` and `mcu_height` are the
+/// size of an iMCU in samples and must not be 0.
 bool jtransform_perfect_transform(unsigned int width, unsigned int height, int mcu_width,
                                   int mcu_height, JXFORM_CODE code);
 
-/// Reads "WIDTHxHEIGHT+XOFF+YOFF" into the request's crop, with each part optional and numbers in
-/// decimal: a size may end in "f" (forced) or "r" (reflect), in either case, and a "-" in place of
-/// a "+" counts from the far edge. Any other text gives false and leaves the request alone.
+/// Parses a crop of the form "WIDTHxHEIGHT+XOFF+YOFF". Each part is optional. Numbers are decimal.
+/// A size may end in "f" or "F" (JCROP_FORCED), or in "r" or "R" (JCROP_REFLECT). An offset with
+/// "-" in place of "+" is from the right or lower edge. Returns false, with the request unchanged,
+/// for any other text.
 bool jtransform_parse_crop_spec(jpeg_transform_info* info, char const* text);
 
-/// Has the decompressor save the segments that the option names.
+/// Makes the decompressor save the segments of the option. Call it before jpeg_read_header.
 void jcopy_markers_setup(jpeg_decompress_struct* source, JCOPY_OPTION option);
 
-/// Writes the saved segments, in order, but for a JFIF or Adobe header that the compressor writes.
+/// Writes the saved segments in order. A JFIF or Adobe header that the compressor writes itself is
+/// left out.
 void jcopy_markers_execute(jpeg_decompress_struct* source, jpeg_compress_struct* destination,
                            JCOPY_OPTION option);
 
-/// The whole way from `in` to `out`, which may be `in`, with any request: see
-/// codecs/jpegtransform.h for what is the same for all. False, with a line, also where the
-/// operation isn't perfect.
+/// Carries out a request.
+///
+/// ```cpp
+/// libgr::jpegdata_t file;
+/// libgr::jpeg_transform_info request;
+/// request.transform = libgr::JXFORM_FLIP_H;
+/// if (file.load("photo.jpg", nullptr) &&
+///     libgr::transform(request, libgr::JCOPY_ALL, file, file)) {
+///     file.save("mirrored.jpg", nullptr);
+/// }
+/// ```
+///
+/// `in` is the source. `out` receives the result and may be `in`. See codecs/jpegtransform.h for
+/// the encoding of the result and the failures. In addition, returns false with a line on std::cerr
+/// if `perfect` is set and a part of the picture cannot be moved.
 bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
                jpegdata_t const& in);
 

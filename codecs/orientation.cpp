@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// From Exif orientation to quarter turns.
+// Quarter turns from the Exif orientation.
 #include "codecs/orientation.h"
 
 namespace libgr {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// How a picture's demanded turn follows from the Exif orientation.
+// Quarter turns from the Exif orientation.
 #pragma once
 
 namespace libgr {
 
-/// The clockwise quarter turns, 0 to 3, that a picture needs which already has `count` of them and
-/// whose Exif tag Orientation (0x0112) is `orientation`: 3 adds two, 6 one, 8 three. Any other
-/// value, the mirrored ones included, leaves `count` as it is.
+/// Adds the turn of an Exif orientation (tag 0x0112) to a number of quarter turns.
+///
+/// Returns `count` plus 2 for orientation 3, plus 1 for 6 and plus 3 for 8, modulo 4. Other values
+/// of `orientation`, including the mirrored ones, return `count` unchanged. Turns are clockwise.
 unsigned long mixorientandrightrotatecount(unsigned long count, unsigned long orientation);
 
 }  // namespace libgr

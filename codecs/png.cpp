@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The PNG reader and writer. libpng reports errors by a jump, so whatever it can jump out of is a
-// step: a function that has nothing to destroy, run by run_step.
+// The PNG codec. All calls of libpng that can fail are in steps, see run_png_step.
 #include "codecs/png.h"
 
 #include <png.h>
@@ -16,8 +15,8 @@
 #include <memory>
 #include <new>
 
+#include "codecs/binaryio.h"
 #include "codecs/sizelimits.h"
-#include "codecs/streambytes.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
 #include "utils/limits.h"
@@ -48,8 +47,8 @@ constexpr depth_row_t depth_rows[] = {
     {1, IMAGE_BITS_1}, {2, IMAGE_BITS_2}, {4, IMAGE_BITS_4}, {8, IMAGE_BITS_8}, {16, IMAGE_BITS_16},
 };
 
-/// What the reading steps work on.
-struct reading_t {
+/// The state of the reading steps.
+struct png_reader_t {
     png_structp png = nullptr;
     png_infop info = nullptr;
     png_uint_32 width = 0;
@@ -57,16 +56,16 @@ struct reading_t {
     int depth = 0;
     int color_type = 0;
     std::size_t row_bytes = 0;
-    png_bytepp rows = nullptr;  ///< from the top row down
+    png_bytepp rows = nullptr;  ///< top row first
 
-    reading_t() = default;
-    reading_t(reading_t const&) = delete;
-    reading_t& operator=(reading_t const&) = delete;
-    ~reading_t() { png_destroy_read_struct(&png, &info, nullptr); }
+    png_reader_t() = default;
+    png_reader_t(png_reader_t const&) = delete;
+    png_reader_t& operator=(png_reader_t const&) = delete;
+    ~png_reader_t() { png_destroy_read_struct(&png, &info, nullptr); }
 };
 
-/// What the writing steps work on.
-struct writing_t {
+/// The state of the writing steps.
+struct png_writer_t {
     png_structp png = nullptr;
     png_infop info = nullptr;
     std::FILE* file = nullptr;
@@ -74,12 +73,13 @@ struct writing_t {
     int depth = 0;
     int color_type = 0;
     char const* title = nullptr;
-    png_bytep spread_row = nullptr;  ///< room for a byte a pixel, below 8 bits a pixel
+    png_bytep spread_row =
+        nullptr;  ///< a row with one byte per pixel, for less than 8 bits per pixel
 
-    writing_t() = default;
-    writing_t(writing_t const&) = delete;
-    writing_t& operator=(writing_t const&) = delete;
-    ~writing_t() {
+    png_writer_t() = default;
+    png_writer_t(png_writer_t const&) = delete;
+    png_writer_t& operator=(png_writer_t const&) = delete;
+    ~png_writer_t() {
         png_destroy_write_struct(&png, &info);
         close();
     }
@@ -90,9 +90,10 @@ struct writing_t {
     }
 };
 
-/// Runs a step and says whether it came to its end; an error in libpng ends it early.
+/// Calls `step(state)`. Returns false if libpng fails in it. The step is then left by a jump, so it
+/// must not have objects with destructors.
 template <typename state_t>
-[[gnu::noinline]] bool run_step(void (*step)(state_t&), state_t& state) {
+[[gnu::noinline]] bool run_png_step(void (*step)(state_t&), state_t& state) {
     if (setjmp(*png_set_longjmp_fn(state.png, longjmp, sizeof(jmp_buf))) != 0) {
         return false;
     }
@@ -100,64 +101,74 @@ template <typename state_t>
     return true;
 }
 
+/// The error function of libpng. Records the message, and calls libpng's default function.
+[[noreturn]] void record_error(png_structp png, png_const_charp message) {
+    libutils::reject(message != nullptr ? message : "");
+    png_set_error_fn(png, nullptr, nullptr, nullptr);
+    png_error(png, message);
+}
+
+/// Prints the line of a failure. If no reason is recorded, memory is missing.
 int fail() {
+    libutils::reject("not enough memory");
     libutils::error();
     std::cerr << "FAIL" << std::endl;
     return -4;
 }
 
-void read_header(reading_t& reading) {
-    // Texts and profiles aren't looked at, whatever lengths they claim or expand to.
-    png_set_keep_unknown_chunks(reading.png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
-    png_set_sig_bytes(reading.png, signature_byte_count);
-    png_read_info(reading.png, reading.info);
-    png_get_IHDR(reading.png, reading.info, &reading.width, &reading.height, &reading.depth,
-                 &reading.color_type, nullptr, nullptr, nullptr);
-    // Without this call libpng reads interlaced files just so, but with a warning.
-    png_set_interlace_handling(reading.png);
-    png_read_update_info(reading.png, reading.info);
-    reading.row_bytes = png_get_rowbytes(reading.png, reading.info);
+void read_header(png_reader_t& reader) {
+    // Do not read texts and profiles, which can be large.
+    png_set_keep_unknown_chunks(reader.png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
+    png_set_sig_bytes(reader.png, signature_byte_count);
+    png_read_info(reader.png, reader.info);
+    png_get_IHDR(reader.png, reader.info, &reader.width, &reader.height, &reader.depth,
+                 &reader.color_type, nullptr, nullptr, nullptr);
+    // libpng prints a warning for interlaced files without this call.
+    png_set_interlace_handling(reader.png);
+    png_read_update_info(reader.png, reader.info);
+    reader.row_bytes = png_get_rowbytes(reader.png, reader.info);
 }
 
-void read_rows(reading_t& reading) {
-    png_read_image(reading.png, reading.rows);
+void read_rows(png_reader_t& reader) {
+    png_read_image(reader.png, reader.rows);
 }
 
-/// Returns true if a file of `file_size` bytes can contain a picture of the header's size, and the
-/// machine's memory can hold it. Otherwise prints a line.
-bool is_plausible_size(reading_t const& reading, std::uint64_t file_size, char const* path) {
-    std::uint64_t const pixel_bits = std::uint64_t{png_get_channels(reading.png, reading.info)} *
-                                     static_cast<std::uint64_t>(reading.depth);
+/// Returns true if the size in the header is within the limits png-ratio and picture-memory.
+/// Otherwise prints an error line.
+bool is_plausible_size(png_reader_t const& reader, std::uint64_t file_size, char const* path) {
+    std::uint64_t const pixel_bits = std::uint64_t{png_get_channels(reader.png, reader.info)} *
+                                     static_cast<std::uint64_t>(reader.depth);
     libutils::limit_t const& ratio = libutils::limits::png_ratio;
-    if (std::uint64_t{reading.row_bytes} * reading.height / ratio.value > file_size) {
+    if (std::uint64_t{reader.row_bytes} * reader.height / ratio.value > file_size) {
         return libutils::report_limit(ratio, path);
     }
-    return fits_in_memory(reading.width, reading.height, pixel_bits, path);
+    return fits_in_memory(reader.width, reader.height, pixel_bits, path);
 }
 
-void describe(image2d_t& image, reading_t const& reading) {
-    image.m_width = reading.width;
-    image.m_height = reading.height;
+void describe(image2d_t& image, png_reader_t const& reader) {
+    image.m_width = reader.width;
+    image.m_height = reader.height;
     for (format_row_t const& row : format_rows) {
-        if (row.color_type == reading.color_type) {
+        if (row.color_type == reader.color_type) {
             image.desc.format = row.format;
         }
     }
     image.desc.type = IMAGE_TYPE_UINT;
     for (depth_row_t const& row : depth_rows) {
-        if (row.depth == reading.depth) {
+        if (row.depth == reader.depth) {
             image.desc.bits = row.bits;
         }
     }
     image.compressed = false;
 }
 
-/// Widens the palette to 16 bits, in a table whose size is a power of two.
-bool take_palette(palette_t& palette, reading_t const& reading) {
+/// Reads the palette and widens it to 16 bits. The number of entries is rounded up to a power of
+/// two.
+bool take_palette(palette_t& palette, png_reader_t const& reader) {
     png_colorp colors = nullptr;
     int entries = 0;
-    if (png_get_PLTE(reading.png, reading.info, &colors, &entries) == 0 || entries <= 0) {
-        return false;
+    if (png_get_PLTE(reader.png, reader.info, &colors, &entries) == 0 || entries <= 0) {
+        return libutils::reject("no palette");
     }
     auto const number = static_cast<unsigned long>(entries);
     unsigned long const size =
@@ -174,61 +185,60 @@ bool take_palette(palette_t& palette, reading_t const& reading) {
     return true;
 }
 
-/// Whether the window leaves room for the picture's rows.
+/// Returns true if the rows fit into the window of the image.
 bool has_room(image2d_t const& image, std::size_t row_bytes) {
     return pixels_within(image) &&
            image.rowsize() >= row_bytes + image.getPixelBits() * image.window.skippixels / 8;
 }
 
-void write_header(writing_t& writing) {
-    png_init_io(writing.png, writing.file);
-    png_set_IHDR(writing.png, writing.info, writing.image->m_width, writing.image->m_height,
-                 writing.depth, writing.color_type, PNG_INTERLACE_NONE,
-                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    if (writing.color_type != PNG_COLOR_TYPE_PALETTE) {
+void write_header(png_writer_t& writer) {
+    png_init_io(writer.png, writer.file);
+    png_set_IHDR(writer.png, writer.info, writer.image->m_width, writer.image->m_height,
+                 writer.depth, writer.color_type, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
+                 PNG_FILTER_TYPE_DEFAULT);
+    if (writer.color_type != PNG_COLOR_TYPE_PALETTE) {
         png_color_8 significant = {};
-        auto const depth = static_cast<png_byte>(writing.depth);
-        if ((writing.color_type & PNG_COLOR_MASK_COLOR) != 0) {
+        auto const depth = static_cast<png_byte>(writer.depth);
+        if ((writer.color_type & PNG_COLOR_MASK_COLOR) != 0) {
             significant.red = significant.green = significant.blue = depth;
         } else {
             significant.gray = depth;
         }
-        if ((writing.color_type & PNG_COLOR_MASK_ALPHA) != 0) {
+        if ((writer.color_type & PNG_COLOR_MASK_ALPHA) != 0) {
             significant.alpha = depth;
         }
-        png_set_sBIT(writing.png, writing.info, &significant);
+        png_set_sBIT(writer.png, writer.info, &significant);
     }
-    if (writing.title != nullptr) {
+    if (writer.title != nullptr) {
         png_text text = {};
         text.compression = PNG_TEXT_COMPRESSION_NONE;
         char key[] = "Title";
         text.key = key;
-        text.text = const_cast<png_charp>(writing.title);
-        png_set_text(writing.png, writing.info, &text, 1);
+        text.text = const_cast<png_charp>(writer.title);
+        png_set_text(writer.png, writer.info, &text, 1);
     }
-    png_write_info(writing.png, writing.info);
-    png_set_packing(writing.png);
+    png_write_info(writer.png, writer.info);
+    png_set_packing(writer.png);
 }
 
-/// Spreads the packed samples of a row over one byte each, as libpng packs them again.
-png_const_bytep spread(writing_t const& writing, png_const_bytep row) {
-    auto const depth = static_cast<unsigned int>(writing.depth);
-    unsigned long const skip = writing.image->window.skippixels * depth % 8;
-    for (unsigned long x = 0; x < writing.image->m_width; ++x) {
+/// Unpacks the samples of a row to one byte each. libpng packs them again.
+png_const_bytep spread(png_writer_t const& writer, png_const_bytep row) {
+    auto const depth = static_cast<unsigned int>(writer.depth);
+    unsigned long const skip = writer.image->window.skippixels * depth % 8;
+    for (unsigned long x = 0; x < writer.image->m_width; ++x) {
         unsigned long const bit = skip + x * depth;
         unsigned int const shift = 8 - depth - static_cast<unsigned int>(bit % 8);
-        writing.spread_row[x] =
-            static_cast<png_byte>((row[bit / 8] >> shift) & ((1U << depth) - 1));
+        writer.spread_row[x] = static_cast<png_byte>((row[bit / 8] >> shift) & ((1U << depth) - 1));
     }
-    return writing.spread_row;
+    return writer.spread_row;
 }
 
-void write_rows(writing_t& writing) {
-    for (unsigned int y = writing.image->m_height; y-- > 0;) {
-        png_const_bytep const row = pixel_row(*writing.image, y);
-        png_write_row(writing.png, writing.depth < 8 ? spread(writing, row) : row);
+void write_rows(png_writer_t& writer) {
+    for (unsigned int y = writer.image->m_height; y-- > 0;) {
+        png_const_bytep const row = pixel_row(*writer.image, y);
+        png_write_row(writer.png, writer.depth < 8 ? spread(writer, row) : row);
     }
-    png_write_end(writing.png, writing.info);
+    png_write_end(writer.png, writer.info);
 }
 
 }  // namespace
@@ -238,6 +248,7 @@ bool check_png_version() {
     if (std::strcmp(library, PNG_LIBPNG_VER_STRING) == 0) {
         return true;
     }
+    libutils::reject("libpng is not the version that the program was built with");
     libutils::error();
     std::cerr << "libpng version different." << std::endl;
     std::cerr << "  header: " << PNG_LIBPNG_VER_STRING << std::endl;
@@ -255,10 +266,11 @@ bool check_if_png(char const* path, stream_t& stream) {
     unsigned char bytes[signature_byte_count] = {};
     stream.read(reinterpret_cast<char*>(bytes), signature_byte_count);
     if (stream.gcount() != signature_byte_count) {
+        auto const held = static_cast<std::uint64_t>(stream.gcount());
         stream.close();
-        return false;
+        return reject_header(held);
     }
-    return png_sig_cmp(bytes, 0, signature_byte_count) == 0;
+    return png_sig_cmp(bytes, 0, signature_byte_count) == 0 || libutils::reject("not a PNG file");
 }
 template bool check_if_png<std::ifstream>(char const* path, std::ifstream& stream);
 
@@ -267,6 +279,7 @@ void png_read(png_struct_def* png, unsigned char* data, unsigned long length) {
     auto const size = static_cast<std::streamsize>(length);
     stream->read(reinterpret_cast<char*>(data), size);
     if (stream->gcount() != size) {
+        libutils::reject("ends before its last row");
         png_error(png, "Read Error");
     }
 }
@@ -277,34 +290,37 @@ int loadpng(char const* path, image2d_t& image, libutils::android_app*) {
         return -1;
     }
     std::uint64_t const file_size = bytes_left(stream);
-    reading_t reading;
-    reading.png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
-    if (reading.png == nullptr) {
+    png_reader_t reader;
+    reader.png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    if (reader.png == nullptr) {
+        libutils::reject("not enough memory");
         return -2;
     }
-    png_set_read_fn(reading.png, &stream, png_read);
-    reading.info = png_create_info_struct(reading.png);
-    if (reading.info == nullptr) {
+    png_set_error_fn(reader.png, nullptr, record_error, nullptr);
+    png_set_read_fn(reader.png, &stream, png_read);
+    reader.info = png_create_info_struct(reader.png);
+    if (reader.info == nullptr) {
+        libutils::reject("not enough memory");
         return -3;
     }
-    if (!run_step(read_header, reading) || !is_plausible_size(reading, file_size, path)) {
+    if (!run_png_step(read_header, reader) || !is_plausible_size(reader, file_size, path)) {
         return fail();
     }
     image.clear();
-    describe(image, reading);
-    if ((image.desc.format == IMAGE_FORMAT_INDEX && !take_palette(image.palette, reading)) ||
-        !image.allocate() || !has_room(image, reading.row_bytes)) {
+    describe(image, reader);
+    if ((image.desc.format == IMAGE_FORMAT_INDEX && !take_palette(image.palette, reader)) ||
+        !image.allocate() || !has_room(image, reader.row_bytes)) {
         return fail();
     }
-    std::unique_ptr<png_bytep[]> const rows(new (std::nothrow) png_bytep[reading.height]);
+    std::unique_ptr<png_bytep[]> const rows(new (std::nothrow) png_bytep[reader.height]);
     if (rows == nullptr) {
         return fail();
     }
-    for (unsigned int y = 0; y < reading.height; ++y) {
-        rows[reading.height - 1 - y] = pixel_row(image, y);
+    for (unsigned int y = 0; y < reader.height; ++y) {
+        rows[reader.height - 1 - y] = pixel_row(image, y);
     }
-    reading.rows = rows.get();
-    return run_step(read_rows, reading) ? 0 : fail();
+    reader.rows = rows.get();
+    return run_png_step(read_rows, reader) ? 0 : fail();
 }
 
 int savepng(char const* path, image2d_t const& image, char const* title, libutils::android_app*) {
@@ -320,29 +336,29 @@ int savepng(char const* path, image2d_t const& image, char const* title, libutil
     if (!pixels_within(image)) {
         return fail();
     }
-    writing_t writing;
-    writing.file = std::fopen(path, "wb");
-    if (writing.file == nullptr) {
+    png_writer_t writer;
+    writer.file = std::fopen(path, "wb");
+    if (writer.file == nullptr) {
         return -1;
     }
-    writing.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
-    if (writing.png == nullptr) {
+    writer.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    if (writer.png == nullptr) {
         return -2;
     }
-    writing.info = png_create_info_struct(writing.png);
-    if (writing.info == nullptr) {
+    writer.info = png_create_info_struct(writer.png);
+    if (writer.info == nullptr) {
         return -3;
     }
-    writing.image = &image;
-    writing.depth = depth->depth;
-    writing.color_type = format->color_type;
-    writing.title = title;
-    if (!run_step(write_header, writing)) {
+    writer.image = &image;
+    writer.depth = depth->depth;
+    writer.color_type = format->color_type;
+    writer.title = title;
+    if (!run_png_step(write_header, writer)) {
         return fail();
     }
     std::unique_ptr<png_byte[]> const spread_row(new (std::nothrow) png_byte[image.m_width]);
-    writing.spread_row = spread_row.get();
-    if (spread_row == nullptr || !run_step(write_rows, writing) || !writing.close()) {
+    writer.spread_row = spread_row.get();
+    if (spread_row == nullptr || !run_png_step(write_rows, writer) || !writer.close()) {
         return fail();
     }
     return 0;

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "utils/bits.h"
+#include "utils/diagnostics.h"
 #include "utils/limits.h"
 
 namespace libgr {
@@ -15,7 +16,7 @@ namespace {
 
 using libutils::limits::picture_memory;
 
-/// Returns the bytes that a picture may take.
+/// Returns the number of bytes that a picture may use.
 std::uint64_t max_picture_memory() {
     long const pages = sysconf(_SC_PHYS_PAGES);
     long const page_size = sysconf(_SC_PAGESIZE);
@@ -34,7 +35,7 @@ bool fits_in_memory(std::uint64_t bytes, char const* file) {
 bool fits_in_memory(std::uint64_t width, std::uint64_t height, std::uint64_t pixel_bits,
                     char const* file) {
     if (width == 0 || height == 0) {
-        return false;
+        return libutils::reject("no pixels");
     }
     std::uint64_t const pixel_bytes = libutils::max2<std::uint64_t>((pixel_bits + 7) / 8, 4);
     std::optional<std::uint64_t> const pixels = checked_product(width, height);

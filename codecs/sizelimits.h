@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Checks of the picture sizes in file headers, before anything is allocated for them. A check that
-// fails because of a limit prints an error line that names the limit; see utils/limits.h.
-//
-// `file` is the path for that line, or null.
+// Checks of the picture sizes in file headers.
 #pragma once
 
 #include <cstdint>
@@ -10,12 +7,15 @@
 
 namespace libgr {
 
+// If a limit of utils/limits.h is exceeded, the checks print an error line. `file` is the path that
+// it names, or null.
+
 /// Returns true if `bytes` bytes of pixels take at most half of the machine's memory.
 bool fits_in_memory(std::uint64_t bytes, char const* file);
 
 /// Returns true if a picture of `width` by `height` pixels takes at most half of the machine's
-/// memory, with each pixel counted as `pixel_bits` bits or as the 32 bits that a texture keeps of
-/// it, whichever is more. Returns false without a line for a picture of no pixels.
+/// memory. A pixel counts as `pixel_bits` bits, and as at least 32 bits, because its texture has
+/// 32. Returns false, without an error line, if the picture has no pixels.
 bool fits_in_memory(std::uint64_t width, std::uint64_t height, std::uint64_t pixel_bits,
                     char const* file);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The TGA reader and writer.
+// The TGA codec.
 #include "codecs/tga.h"
 
 #include <algorithm>
@@ -8,9 +8,10 @@
 #include <limits>
 #include <utility>
 
+#include "codecs/binaryio.h"
 #include "codecs/sizelimits.h"
-#include "codecs/streambytes.h"
 #include "image/pixelconvert.h"
+#include "utils/diagnostics.h"
 
 namespace libgr {
 
@@ -23,7 +24,7 @@ constexpr unsigned int max_side = std::numeric_limits<std::uint16_t>::max();
 struct depth_row_t {
     std::uint8_t depth;
     e_image_format_t format;
-    e_image_format_t swapped_format;  ///< the red-first format that is saved with this depth
+    e_image_format_t swapped_format;  ///< the format in RGB order that is saved with this depth
     e_image_bits_t bits;
 };
 constexpr depth_row_t depth_rows[] = {
@@ -82,17 +83,73 @@ void write_vector(std::ostream& stream, std::vector<unsigned char> const& bytes)
                  static_cast<std::streamsize>(bytes.size()));
 }
 
-/// Converts as `convert` does, with `file` as the path for error lines, or null.
+depth_row_t const* find_depth(unsigned int depth) {
+    auto const* const row =
+        std::ranges::find_if(depth_rows, [&](auto const& r) { return r.depth == depth; });
+    return row == std::end(depth_rows) ? nullptr : row;
+}
+
+/// Returns true if `convert` accepts the type, row order and depth. Otherwise records the reason.
+bool is_supported(tgaimage_t const& tga) {
+    switch (tga.image_type) {
+        case 1:
+        case 2:
+            break;
+        case 3:
+            return libutils::reject("TGA of gray levels");
+        case 9:
+        case 10:
+        case 11:
+            return libutils::reject("run-length encoded TGA");
+        default:
+            return libutils::reject("TGA of the unsupported type ", +tga.image_type);
+    }
+    if ((tga.descriptor & top_down_bit) != 0) {
+        return libutils::reject("TGA with the top row first");
+    }
+    return find_depth(tga.depth) != nullptr ||
+           libutils::reject("TGA with the unsupported depth of ", +tga.depth, " bits");
+}
+
+/// Returns the number of entries of the colour map that the file has.
+std::uint64_t map_entries(tgaimage_t const& tga) {
+    return std::uint64_t{tga.colormap_first} + tga.colormap_length;
+}
+
+/// Records that the file is too short because of its colour map: the entry size is probably in
+/// bits. Always returns false.
+bool reject_colormap(tgaimage_t const& tga) {
+    return libutils::reject("TGA with a colour map of ", map_entries(tga), " entries of ",
+                            +tga.colormap_entry_size, " bits");
+}
+
+/// Records why a file with `held` bytes of pixels is too short. Always returns false.
+bool reject_short(tgaimage_t const& tga, std::uint64_t held) {
+    std::uint64_t const row_bits = std::uint64_t{tga.depth} * tga.width;
+    if (!is_supported(tga)) {
+        return false;
+    }
+    if (tga.colormap_type != 0) {
+        return reject_colormap(tga);
+    }
+    if (row_bits % 32 != 0 && held >= row_bits / 8 * tga.height) {
+        return libutils::reject("TGA with rows that are not a multiple of 4 bytes");
+    }
+    return libutils::reject("ends within its pixels");
+}
+
+/// Implements `convert`. `file` is the path for error lines, or null.
 bool convert_file(image2d_t& image, tgaimage_t const& tga, char const* file) {
-    if ((tga.image_type != 1 && tga.image_type != 2) || (tga.descriptor & top_down_bit) != 0) {
+    if (!is_supported(tga)) {
         return false;
     }
-    auto const* const row = std::find_if(std::begin(depth_rows), std::end(depth_rows),
-                                         [&](auto const& r) { return r.depth == tga.depth; });
-    if (row == std::end(depth_rows) || tga.pixels.size() < pixels_size(tga) ||
-        !fits_in_memory(tga.width, tga.height, tga.depth, file)) {
+    if (tga.pixels.size() < pixels_size(tga)) {
+        return reject_short(tga, tga.pixels.size());
+    }
+    if (!fits_in_memory(tga.width, tga.height, tga.depth, file)) {
         return false;
     }
+    depth_row_t const* const row = find_depth(tga.depth);
     image.desc = {row->format, IMAGE_TYPE_UINT, row->bits};
     image.m_width = tga.width;
     image.m_height = tga.height;
@@ -108,22 +165,26 @@ bool tgaimage_t::load(char const* path, libutils::android_app*) {
     if (!open_file(stream, path)) {
         return false;
     }
+    std::uint64_t const file_size = bytes_left(stream);
     read_header(stream, *this);
     if (stream.tellg() != std::streampos(header_size)) {
-        return false;
+        return reject_header(file_size);
     }
     if (id_length != 0 && !read_vector(stream, image_id, id_length)) {
-        return false;
+        return libutils::reject("ends within its image identifier");
     }
-    // The entry size counts bits in published files; here it counts bytes, as this writer's does.
-    std::uint64_t const entries = std::uint64_t{colormap_first} + colormap_length;
-    if (colormap_type != 0 && !read_vector(stream, colormap, entries * colormap_entry_size)) {
-        return false;
+    // The entry size is in bits in published files, and in bytes in files of this writer.
+    if (colormap_type != 0 &&
+        !read_vector(stream, colormap, map_entries(*this) * colormap_entry_size)) {
+        return reject_colormap(*this);
     }
     std::uint64_t const size = pixels_size(*this);
     std::uint64_t const held = bytes_left(stream);
-    return held >= size && fits_in_memory(size, path) && read_pixels(pixels, stream, size) &&
-           stream.good();
+    if (held < size) {
+        return reject_short(*this, held);
+    }
+    return (fits_in_memory(size, path) && read_pixels(pixels, stream, size) && stream.good()) ||
+           libutils::reject("read error");
 }
 
 bool tgaimage_t::save(char const* path, libutils::android_app*) {
@@ -159,8 +220,7 @@ bool convert(tgaimage_t& tga, image2d_t const& image) {
     if (image.compressed || image.m_width > max_side || image.m_height > max_side) {
         return false;
     }
-    // A format that already has the file's byte order sets depth and pixels, and is then refused
-    // all the same: only red-first pictures are saved.
+    // Pictures in BGR order set depth and pixels, but are rejected. Callers depend on both.
     for (depth_row_t const& row : depth_rows) {
         if (image.desc == image_desc_t{row.format, IMAGE_TYPE_UINT, row.bits}) {
             tga.depth = row.depth;
@@ -176,7 +236,7 @@ bool convert(tgaimage_t& tga, image2d_t const& image) {
         return false;
     }
     image2d_t swapped;
-    // Packed pixels are handed on as they are, with a false result that is no failure.
+    // For packed pixels, rgb2bgr shares the pixels and returns false, which is not a failure here.
     if (!rgb2bgr(swapped, image) && row->bits == IMAGE_BITS_8) {
         return false;
     }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Lists what a JPEG file is made of, and turns it without loss: a tour of codecs/ and metadata/.
+// Lists the segments of a JPEG file, and rotates it without loss: an example of codecs/ and
+// metadata/.
 //
-// Three things to know of the libraries: bytes are shared windows (`jpeg_bytes_t`), so that passing
-// a segment on copies nothing; failure is a bool, with a line on the error stream where it needs
-// one; and nothing that a file says is believed before it is compared with the file's size.
+// - `jpeg_bytes_t` is a view of shared bytes. Copies of it do not copy the bytes.
+// - Functions that fail return false. Some of them print a line on the error stream.
+// - Every size in a file is compared with the size of the file before it is used.
 #include <algorithm>
 #include <clocale>
 #include <cstring>
@@ -27,12 +28,13 @@ using namespace libgr;
 using libutils::putname;
 
 struct segment_t {
-    unsigned long at;  ///< bytes from the start of the file
+    unsigned long at;  ///< offset in the file
     unsigned char code;
-    jpeg_bytes_t payload;  ///< behind the two bytes of length; shares the file's bytes
+    jpeg_bytes_t payload;  ///< the bytes after the length field
 };
 
-/// The marker segments of a file in their order, up to where its structure ends (ITU-T T.81, B.1).
+/// Returns the marker segments in the order of the file. Stops at a segment with an invalid length
+/// (ITU-T T.81, B.1).
 std::vector<segment_t> segments_of(jpegdata_t const& data) {
     std::vector<segment_t> segments;
     bool const begins = data.size() > 2 && data[0] == 0xFF && data[1] == 0xD8;
@@ -45,8 +47,8 @@ std::vector<segment_t> segments_of(jpegdata_t const& data) {
             continue;
         }
         segment_t segment{at, code, data};
-        bool const stands_alone = code == 0x01 || (code >= 0xD0 && code <= 0xD9);
-        if (stands_alone) {
+        bool const has_no_length = code == 0x01 || (code >= 0xD0 && code <= 0xD9);
+        if (has_no_length) {
             segment.payload.count = 0;
             at += 2;
         } else {
@@ -70,7 +72,7 @@ std::vector<segment_t> segments_of(jpegdata_t const& data) {
 std::string name_of(unsigned char code) {
     struct row_t {
         unsigned char first, last;
-        char const* name;  ///< ends in the number from `first` on where there are several
+        char const* name;  ///< without its number, if there are several
     };
     constexpr row_t command_rows[] = {
         {0xC4, 0xC4, "DHT"}, {0xC8, 0xC8, "JPG"}, {0xCC, 0xCC, "DAC"}, {0xC0, 0xCF, "SOF"},
@@ -86,8 +88,8 @@ std::string name_of(unsigned char code) {
     return "?";
 }
 
-/// Reads a segment by its class and prints what it says. Each class has the same operations, but
-/// for the name of the one that takes the bytes.
+/// Parses a segment with its class and prints its fields. All classes have the same functions
+/// except for the one that sets the bytes.
 template <typename marker_t>
 bool describe(jpeg_bytes_t const& payload, void (marker_t::*set_buffer)(jpeg_bytes_t const&)) {
     marker_t marker;
@@ -99,7 +101,7 @@ bool describe(jpeg_bytes_t const& payload, void (marker_t::*set_buffer)(jpeg_byt
     return good;
 }
 
-/// A text of the file up to its first NUL, fit for a terminal.
+/// Returns a text up to its first NUL, with control characters replaced.
 std::string printable(std::string const& text) {
     std::string shown = text.c_str();
     std::ranges::replace_if(
@@ -110,14 +112,14 @@ std::string printable(std::string const& text) {
 bool print_exif(jpeg_bytes_t const& payload) {
     auto const* const begin = payload.begin();
     if (std::string(begin, begin + std::min(payload.size(), 4UL)) != "Exif") {
-        return true;  // APP1 carries XMP as well
+        return true;  // APP1 can also be XMP
     }
     app1_marker_t app1;
     app1.set_app1_buffer(payload);
     if (!app1.parse()) {
         return false;
     }
-    // An absent value is an empty vector or text.
+    // Missing values are empty vectors or texts.
     auto const print_text = [](char const* name, std::string const& text) {
         if (!text.empty()) {
             std::cout << name << ": " << printable(text) << "\n";
@@ -147,8 +149,8 @@ bool print_exif(jpeg_bytes_t const& payload) {
     return true;
 }
 
-/// What the segment's class says. The classes of frame, scan and Huffman tables read baseline
-/// pictures alone; those of other pictures are only named.
+/// Prints the fields of a segment. The classes for Huffman tables and scans support only baseline
+/// pictures, so these segments of other pictures are only listed.
 bool print_contents(segment_t const& segment, bool is_baseline) {
     switch (segment.code) {
         case 0xC0:
@@ -174,7 +176,7 @@ int list(char const* path, jpegdata_t const& data) {
         std::ranges::any_of(segments, [](segment_t const& one) { return one.code == 0xC0; });
     bool good = true;
     for (auto segment = segments.begin(); segment != segments.end();) {
-        // Restart markers stand between the pieces of a scan: one line for all of them.
+        // Print one line for all restart markers of a scan.
         auto const last = std::find_if(segment, segments.end(), [](segment_t const& one) {
             return one.code < 0xD0 || one.code > 0xD7;
         });
@@ -188,50 +190,50 @@ int list(char const* path, jpegdata_t const& data) {
         std::cout << "\n";
         if (!print_contents(*segment, is_baseline)) {
             std::cerr << putname(path) << ": the " << name_of(segment->code) << " at "
-                      << segment->at << " can't be read\n";
+                      << segment->at << " cannot be parsed\n";
             good = false;
         }
         segment = next;
     }
     if (segments.empty() || segments.back().code != 0xD9) {
-        std::cerr << putname(path) << ": not a whole JPEG file\n";
+        std::cerr << putname(path) << ": not a complete JPEG file\n";
         good = false;
     }
     return good && std::cout.flush() ? 0 : 1;
 }
 
-/// Does to the picture what the request says and writes it to `path`. Of its segments the colour
-/// profile goes with it; the rest, Exif and its orientation among it, is left behind.
+/// Changes the picture and writes it to `path`. Only the colour profile is copied. Other segments
+/// are not, because the Exif orientation would be wrong.
 int write_changed(JXFORM_CODE change, char const* from, jpegdata_t const& data, char const* path) {
     namespace fs = std::filesystem;
     std::error_code none;
     fs::file_status const status = fs::symlink_status(path, none);
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        std::cerr << putname(path) << ": is there already, and isn't a file that can be replaced\n";
+        std::cerr << putname(path) << ": exists and is not a regular file\n";
         return 1;
     }
     jpeg_transform_info request;
     request.transform = change;
     jpegdata_t changed;
     if (!transform(request, JCOPY_ICC, changed, data)) {
-        std::cerr << putname(from) << ": not a whole JPEG file, nothing is written\n";
+        std::cerr << putname(from) << ": not a complete JPEG file, nothing is written\n";
         return 1;
     }
-    // An old file is kept until the new one is complete, since both may be the same.
+    // `save` replaces an existing file when the new one is complete. It may be the source.
     if (!changed.save(path, nullptr)) {
-        std::cerr << putname(path) << ": can't be written\n";
+        std::cerr << putname(path) << ": cannot be written\n";
         return 1;
     }
     return 0;
 }
 
-/// What makes a picture stand upright, by its Exif orientation.
+/// Returns the operation that makes the picture upright, from its Exif orientation.
 JXFORM_CODE upright_change(jpegdata_t const& data) {
-    // By the values 1 to 8 (Exif 2.3, tag 0x0112).
+    // For the values 1 to 8 (Exif 2.3, tag 0x0112).
     constexpr JXFORM_CODE operations[] = {JXFORM_NONE,       JXFORM_FLIP_H,    JXFORM_ROT_180,
                                           JXFORM_FLIP_V,     JXFORM_TRANSPOSE, JXFORM_ROT_90,
                                           JXFORM_TRANSVERSE, JXFORM_ROT_270};
-    jpeginfo_t info;  // reads through libjpeg, here the header alone, and keeps APPn and COM
+    jpeginfo_t info;  // reads the header with libjpeg
     app1_marker_t app1;
     if (!info.analyze_markers(data)) {
         return JXFORM_NONE;
@@ -244,10 +246,11 @@ JXFORM_CODE upright_change(jpegdata_t const& data) {
 }
 
 int usage() {
-    std::cerr << "usage: jpegtool list FILE          what the file is made of\n"
-                 "       jpegtool turn N FILE OUT    N quarter turns to the right, 0 to 3\n"
-                 "       jpegtool upright FILE OUT   as the Exif orientation says\n"
-                 "OUT may be FILE. It keeps the colour profile, and no other APPn or comment.\n";
+    std::cerr
+        << "usage: jpegtool list FILE          list the segments of the file\n"
+           "       jpegtool turn N FILE OUT    rotate by N quarter turns to the right, 0 to 3\n"
+           "       jpegtool upright FILE OUT   make upright by the Exif orientation\n"
+           "OUT may be FILE. The colour profile is copied, other APPn and comments are not.\n";
     return 2;
 }
 
@@ -270,7 +273,7 @@ int main(int argc, char** argv) {
     char const* const path = words[turns ? 2 : 1];
     jpegdata_t data;
     if (!data.load(path, nullptr)) {
-        std::cerr << putname(path) << ": can't be read\n";
+        std::cerr << putname(path) << ": cannot be read\n";
         return 1;
     }
     if (lists) {

@@ -91,7 +91,7 @@ ViewObject::ViewObject()
     : m_texparameter(libgr::texparameter2d(GL_LINEAR_MIPMAP_LINEAR, GL_LINEAR, GL_CLAMP_TO_EDGE,
                                            GL_CLAMP_TO_EDGE, 1.0f)) {}
 
-ViewObject::codec_row_t const* ViewObject::find_codec(std::string const& path) {
+ViewObject::codec_row_t const* ViewObject::find_row(std::string const& path) {
     static constexpr codec_row_t codecs[] = {
         {".jpg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, std::endian::native},
         {".jpeg", &m_jpeg1imgobj, make_codec<libgr::image_jpeg1_t>, std::endian::native},
@@ -102,13 +102,11 @@ ViewObject::codec_row_t const* ViewObject::find_codec(std::string const& path) {
     auto const* const row = std::ranges::find_if(codecs, [&](codec_row_t const& candidate) {
         return libutils::extcasecmp(path, candidate.extension) == 0;
     });
-    if (row == std::end(codecs)) {
-        return nullptr;
-    }
-    if (!*row->codec) {
-        *row->codec = row->make();
-    }
-    return row;
+    return row == std::end(codecs) ? nullptr : row;
+}
+
+bool ViewObject::has_picture_extension(std::string const& path) {
+    return find_row(path) != nullptr;
 }
 
 void ViewObject::release_codecs() {
@@ -119,21 +117,28 @@ void ViewObject::release_codecs() {
 
 bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
     m_path = path;
-    codec_row_t const* const row = find_codec(m_path);
+    codec_row_t const* const row = find_row(m_path);
     if (row == nullptr) {
-        return false;
+        return libutils::reject("unknown extension");
+    }
+    if (!*row->codec) {
+        *row->codec = row->make();
     }
     libgr::image_object_t& codec = **row->codec;
     m_image.store = nullptr;
-    if (!codec.load(m_image, path) || !has_pixels(m_image)) {
+    if (!codec.load(m_image, path)) {
         return false;
+    }
+    libutils::clear_failure_reason();  // of damage that did not stop the codec
+    if (!has_pixels(m_image)) {
+        return libutils::reject("no pixels, or more than 2147483647 in a row or column");
     }
     m_rightrotatecount = codec.rightrotatecount();
     GLint const limit = tile_limit();
     if (!libgr::to_machine_order(m_image, row->byte_order) ||
         !convert_in_place(m_image, libgr::widen_samples) ||
         !convert_in_place(m_image, libgr::index2rgb)) {
-        return false;
+        return libutils::reject("not enough memory");
     }
     libgr::grPrintError("before rectangle_to_squares");
     // If this fails, the tiles that were cut before are shown.

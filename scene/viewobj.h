@@ -32,11 +32,14 @@ class ViewObject : public libgr::grObject3D {
     ViewObject& operator=(ViewObject const&) = delete;
     ~ViewObject() override = default;
 
-    /// Loads the file at `path` and cuts the picture into tiles of at most 256 pixels a side. The
-    /// extension alone selects the codec: .jpg, .jpeg, .bmp, .png or .tga, in any case. Samples
-    /// that OpenGL would misread are converted: indices to RGB, and gray of less than 8 bits to
-    /// gray of 8 bits. Wider samples get a store with the byte order of the file. `datapath` is
-    /// ignored.
+    /// Returns true if `path` ends in the extension of a picture that can be loaded, in upper or
+    /// lower case: ".jpg", ".jpeg", ".bmp", ".png" or ".tga".
+    static bool has_picture_extension(std::string const& path);
+
+    /// Loads the file at `path` with the codec that its extension names and cuts the picture into
+    /// tiles of at most 256 pixels a side. Samples that OpenGL would misread are converted first:
+    /// indices to RGB, gray of less than 8 bits to gray of 8 bits, and wider samples to the byte
+    /// order of the machine. `datapath` is ignored.
     ///
     /// Returns false, without a line except those of the codec, if no codec has the extension, the
     /// codec fails, the picture has no pixels or a side of 2^31 pixels or more, or a conversion
@@ -78,9 +81,8 @@ class ViewObject : public libgr::grObject3D {
   private:
     struct codec_row_t;
 
-    /// Returns the row for the extension of `path`, or null if there is none. Creates the codec of
-    /// the row if it doesn't exist.
-    static codec_row_t const* find_codec(std::string const& path);
+    /// Returns the row for the extension of `path`, or null.
+    static codec_row_t const* find_row(std::string const& path);
     static void release_codecs();
 
     std::string m_path;

@@ -36,7 +36,7 @@ bool ViewScene::obj_t::load(char const* path, char const* datapath) {
         objcontainer.addObject(&objdspl);
         objtransformer.setObject(&objcontainer);
     } catch (std::bad_alloc const&) {
-        return false;
+        return libutils::reject("not enough memory");
     }
     return true;
 }
@@ -104,10 +104,11 @@ void ViewScene::Destroy() {
 bool ViewScene::addImage(char const* path, char const* datapath) {
     struct stat status {};
     if (stat(path, &status) != 0) {
+        libutils::reject_errno(errno);
         return libutils::refuse(libutils::putname(path), ": image file not found.");
     }
     if (!S_ISREG(status.st_mode)) {
-        return false;  // opening a pipe would wait for its writer
+        return libutils::reject("not a regular file");  // opening a pipe would wait for its writer
     }
     obj_t& added = m_objlist.emplace_back();
     if (!added.load(path, datapath)) {

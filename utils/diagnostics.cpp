@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <streambuf>
 
 namespace libutils {
 
@@ -21,9 +22,53 @@ long& terminal_mark(std::ostream& out) {
     return out.iword(stream_index);
 }
 
+/// Keeps the first bytes that are written to it and drops the others.
+class reason_buffer_t : public std::streambuf {
+  public:
+    reason_buffer_t() { clear(); }
+
+    void clear() { setp(m_text.data(), m_text.data() + m_text.size()); }
+    std::string_view text() const { return {pbase(), static_cast<std::size_t>(pptr() - pbase())}; }
+
+  protected:
+    int_type overflow(int_type c) override { return traits_type::not_eof(c); }
+
+  private:
+    std::array<char, 255> m_text{};
+};
+
+struct recorder_t {
+    reason_buffer_t buffer;
+    std::ostream out{&buffer};
+};
+
+recorder_t& recorder() {
+    static recorder_t s_recorder;
+    return s_recorder;
+}
+
 }  // namespace
 
 void error() {}
+
+std::ostream* begin_failure_reason() {
+    recorder_t& record = recorder();
+    return record.buffer.text().empty() ? &record.out : nullptr;
+}
+
+bool reject_errno(int error) {
+    return reject(error != 0 ? std::strerror(error) : "read error");
+}
+
+std::string_view failure_reason() {
+    std::string_view const text = recorder().buffer.text();
+    return text.substr(0, text.size() - (text.ends_with('.') ? 1 : 0));
+}
+
+void clear_failure_reason() {
+    recorder().buffer.clear();
+    recorder().out.clear();
+}
 
 void escape_names_on_terminals() {
     bool const is_utf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;

@@ -25,10 +25,36 @@ struct keepflag {
     std::ios_base::fmtflags flags;
 };
 
-/// Prints the parts as one line on the error stream, with numbers in decimal. Always returns false,
-/// so a function that fails can return the result.
+/// Returns the stream that records the reason of a failure, or null if a reason is recorded
+/// already. Use `reject`.
+std::ostream* begin_failure_reason();
+
+/// Records the reason why the running operation fails, and prints nothing. The first reason is kept
+/// until `clear_failure_reason`, because the innermost function knows it best. At most 255 bytes
+/// are kept, in a static buffer, so that this also works without memory. Always returns false.
+template <typename... Parts>
+bool reject(Parts const&... parts) {
+    if (std::ostream* const out = begin_failure_reason()) {
+        (*out << ... << parts);
+    }
+    return false;
+}
+
+/// Records the text of a value of errno, such as "Permission denied". Always returns false.
+bool reject_errno(int error);
+
+/// Returns the recorded reason without a final full stop. Empty if there is none. The view is valid
+/// until `clear_failure_reason`.
+std::string_view failure_reason();
+
+/// Forgets the recorded reason. Call it before an operation whose reason is of interest.
+void clear_failure_reason();
+
+/// Prints the parts as one line on the error stream, with numbers in decimal, and records them as
+/// `reject` does. Always returns false, so that functions that fail can return it.
 template <typename... Parts>
 bool refuse(Parts const&... parts) {
+    reject(parts...);
     error();
     keepflag const keep(std::cerr);
     std::cerr << std::dec;

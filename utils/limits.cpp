@@ -7,6 +7,7 @@
 namespace libutils {
 
 bool report_limit(limit_t const& limit, char const* file) {
+    reject("exceeds limit ", limit.name, " (", limit.value, " ", limit.unit, ")");
     return refuse(file != nullptr ? file : "", file != nullptr ? ": " : "", "exceeds limit ",
                   limit.name, " (", limit.value, " ", limit.unit, ").");
 }

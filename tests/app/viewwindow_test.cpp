@@ -164,6 +164,7 @@ TEST_F(ViewWindowTest, PagesTitlesAndComesBack) {
 
 TEST_F(ViewWindowTest, PassesOverPicturesWithoutTextureMemory) {
     gl_flag_t const modern(is_GL_VERSION_3_0_supported, 1);
+    zanolib::g_option.verbose = true;
     m_recorder->most_textures = 20;  // as many as one of the others has tiles
     write_file(m_folder.file("big.bmp"), test_bmp(1201, 1100));
     drop({"a.bmp", "big.bmp", "c.bmp"});
@@ -172,6 +173,17 @@ TEST_F(ViewWindowTest, PassesOverPicturesWithoutTextureMemory) {
     press({GLFW_KEY_F5, GLFW_KEY_HOME});
     m_recorder->most_textures = 20;
     press({GLFW_KEY_HOME});
+}
+
+TEST_F(ViewWindowTest, PrintsWhyPicturesAreSkipped) {
+    std::filesystem::create_directories(m_folder.file("folder.png/b.jpg"));
+    write_file(m_folder.file("folder.png/a.tga"), "");
+    write_file(m_folder.file("row.bmp"), bmp(7, 1, 8, 0, "1234"));
+    drop({"a.bmp", "bad.bmp", "gone.tga", "folder.png", "row.bmp"});
+    zanolib::g_option.verbose = true;
+    press({GLFW_KEY_SPACE});  // tries each of them twice
+    drop({"bad.bmp", "x.gif"});
+    drop({"bad.bmp"});
 }
 
 TEST_F(ViewWindowTest, StoresViewsAndBringsThemBack) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// BMP, TGA and PNG files as bytes, from the values of their fields.
+// Makes BMP, TGA and PNG files from the values of their fields.
 #pragma once
 
 #include <zlib.h>
@@ -8,7 +8,7 @@
 
 #include "tests/codecs/picturebytes.h"
 
-/// The defaults are the values that the project's own writer uses.
+/// The defaults are the values that the BMP writer uses.
 struct bmp_t {
     unsigned int width, height, depth;
     std::string pixels;
@@ -40,7 +40,7 @@ struct tga_t {
     }
 };
 
-/// A chunk with its length and checksum.
+/// Returns a chunk with its length and checksum.
 inline std::string chunk(std::string const& name, std::string const& data) {
     std::string const bytes = name + data;
     auto const* const start = reinterpret_cast<unsigned char const*>(bytes.data());
@@ -49,7 +49,7 @@ inline std::string chunk(std::string const& name, std::string const& data) {
 
 struct png_t {
     unsigned int width, height, color_type, depth;
-    std::string rows;  // top row first, each with its filter byte in front
+    std::string rows;  // top row first, each after its filter byte
     std::string palette = {};
     unsigned int interlace = 0;
 

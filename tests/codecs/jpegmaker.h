@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// JPEG files of every layout, and their pixels, by plain calls of libjpeg.
+// Makes JPEG files, and decodes them with plain calls of libjpeg.
 #pragma once
 
 #include <cmath>
@@ -17,7 +17,8 @@ struct layout_t {
     unsigned int restart = 0;  ///< MCUs
     bool arithmetic = false;
 };
-/// A picture without symmetry as a JPEG, with these segments behind its SOI.
+
+/// Returns a JPEG of a picture without symmetry, with `segments` after its first marker.
 inline std::string jpeg_of(layout_t const& layout, std::string const& segments = "") {
     libgr::jpegdata_t data;
     jpeg_compress_struct cinfo;
@@ -31,7 +32,7 @@ inline std::string jpeg_of(layout_t const& layout, std::string const& segments =
     cinfo.in_color_space = JCS_RGB;
     jpeg_set_defaults(&cinfo);
     jpeg_set_colorspace(&cinfo, layout.colors);
-    jpeg_set_quality(&cinfo, 30, TRUE);  // so that a coefficient's least step is seen
+    jpeg_set_quality(&cinfo, 30, TRUE);  // a difference of 1 in a coefficient is visible then
     cinfo.comp_info[0].h_samp_factor = static_cast<int>(layout.h);
     cinfo.comp_info[0].v_samp_factor = static_cast<int>(layout.v);
     if (layout.progressive) {
@@ -41,7 +42,7 @@ inline std::string jpeg_of(layout_t const& layout, std::string const& segments =
     cinfo.arith_code = layout.arithmetic ? TRUE : FALSE;
     jpeg_scan_info const scans[] = {{1, {0}, 0, 63, 0, 0}, {2, {1, 2}, 0, 63, 0, 0}};
     if (layout.h * layout.v > 8) {
-        cinfo.scan_info = scans;  // one scan can't hold all blocks of a unit
+        cinfo.scan_info = scans;  // one scan cannot contain all blocks of an MCU
         cinfo.num_scans = 2;
     }
     jpeg_start_compress(&cinfo, TRUE);
@@ -62,7 +63,7 @@ struct pixels_t {
     unsigned int width, components;
     std::vector<JSAMPLE> samples = {};
 
-    /// The mean of `w` by `h` pixels, in one component.
+    /// Returns the mean of `w` by `h` samples of a component.
     double at(unsigned x, unsigned y, unsigned component, unsigned w = 1, unsigned h = 1) const {
         double sum = 0;
         for (unsigned int n = 0; n < w * h; ++n) {
@@ -72,7 +73,7 @@ struct pixels_t {
     }
 };
 
-/// A JPEG's pixels in its own colours, each as its blocks alone have it.
+/// Decodes a JPEG without a conversion of colours and without interpolation.
 inline pixels_t pixels_of(std::string const& bytes) {
     jpeg_decompress_struct cinfo;
     jpeg_error_mgr error;
@@ -93,8 +94,8 @@ inline pixels_t pixels_of(std::string const& bytes) {
     return pixels;
 }
 
-/// A picture of `side` by `side` pixels in six scans, which come `times` times. Without arguments
-/// it has thirty scans of a million blocks each in a few bytes.
+/// Returns a JPEG of `side` by `side` pixels whose six scans are repeated `times` times. Without
+/// arguments, it has thirty scans of a million blocks each in a few bytes.
 inline std::string jpeg_without_end(unsigned long side = 8000, int times = 5) {
     std::string bytes = jpeg_of({32, 32, JCS_GRAYSCALE, 1, 1, true});
     std::string const scans = bytes.substr(bytes.find("\xFF\xDA"), bytes.npos);

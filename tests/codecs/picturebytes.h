@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the tests of all picture files share: bytes of fields, a file to load, and its outcome.
+// Bytes of fields and segments, and the fixture of the codec tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,11 +11,12 @@
 #include <numeric>
 #include <string>
 
+#include "codecs/imageobject.h"
 #include "codecs/jpegdata.h"
-#include "image/image.h"
 #include "tests/support/files/testfiles.h"
+#include "utils/diagnostics.h"
 
-/// The low `size` bytes of `value`, lowest first.
+/// Returns the low `size` bytes of `value`, lowest byte first.
 inline std::string le(unsigned long value, unsigned int size) {
     std::string bytes(size, '\0');
     for (unsigned int i = 0; i < size; ++i) {
@@ -24,13 +25,12 @@ inline std::string le(unsigned long value, unsigned int size) {
     return bytes;
 }
 
-/// The same, highest first.
+/// Returns the low `size` bytes of `value`, highest byte first.
 inline std::string be(unsigned long value, unsigned int size) {
     std::string const bytes = le(value, size);
     return {bytes.rbegin(), bytes.rend()};
 }
 
-/// A JPEG in memory.
 inline libgr::jpegdata_t jpegdata_of(std::string const& bytes) {
     libgr::jpeg_bytes_t block;
     EXPECT_TRUE(block.resize(bytes.size(), 0));
@@ -44,12 +44,11 @@ inline std::string bytes_of(libgr::jpegdata_t const& data) {
     return {data.begin(), data.end()};
 }
 
-/// A marker segment of a JPEG.
 inline std::string segment(unsigned int code, std::string const& payload) {
     return be(0xFF00 + code, 2) + be(payload.size() + 2, 2) + payload;
 }
 
-/// An Exif block with an Orientation, and with the picture's sizes in its Exif IFD.
+/// Returns an Exif block with an orientation, and with the size of the picture in its Exif IFD.
 inline std::string exif(bool intel, unsigned int orientation, unsigned int width = 64,
                         unsigned int height = 48) {
     auto const word = intel ? le : be;
@@ -62,21 +61,21 @@ inline std::string exif(bool intel, unsigned int orientation, unsigned int width
            entry(0xA003, height) + word(0, 4);
 }
 
-/// `size` bytes that count up from `first`.
+/// Returns `size` bytes that count up from `first`.
 inline std::string ramp(unsigned long size, char first = 1) {
     std::string bytes(size, '\0');
     std::iota(bytes.begin(), bytes.end(), first);
     return bytes;
 }
 
-/// Returns the bytes of memory that the process has in use.
+/// Returns the memory in use, in bytes.
 inline long resident_bytes() {
     long total = 0, resident = 0;
     std::ifstream("/proc/self/statm") >> total >> resident;
     return resident * sysconf(_SC_PAGESIZE);
 }
 
-/// Returns the names of the limits that `lines` report for `file`, each followed by a blank.
+/// Returns the names of the limits that `lines` report for `file`, each with a blank after it.
 inline std::string limits_in(std::string const& lines, std::string const& file) {
     std::string const words = file + ": exceeds limit ";
     std::string names;
@@ -99,7 +98,7 @@ inline libgr::image2d_t image_of(unsigned int width, unsigned int height,
     return image;
 }
 
-/// A place for one file. Whatever a test loads and saves, no file stays open.
+/// A folder for one file, and the picture that is loaded from it. Expects that no file stays open.
 struct picture_test_t : testing::Test {
     static long open_files() {
         return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
@@ -110,20 +109,44 @@ struct picture_test_t : testing::Test {
         EXPECT_EQ(open_files(), m_files);
     }
 
-    /// "WIDTHxHEIGHT FORMAT BITS ENTRIES: BYTES" of the picture if it loaded, else "-".
-    std::string outcome(bool loaded) const {
+    /// Loads a file with a new codec. A load that does not end is ended by SIGALRM. Returns
+    /// "WIDTHxHEIGHT FORMAT BITS ENTRIES: BYTES" of the picture, or the reason of the failure.
+    template <typename codec_t>
+    std::string load_file(std::string const& place) {
+        codec_t codec;
+        image = {};
+        image.compressed = true;
+        image.desc.bits = libgr::IMAGE_BITS_64;
+        libutils::clear_failure_reason();
+        testing::internal::CaptureStderr();
+        alarm(20);
+        is_loaded = codec.load(image, place.c_str());
+        alarm(0);
+        lines = testing::internal::GetCapturedStderr();
+        turns = codec.rightrotatecount();
+        if (!is_loaded) {
+            return std::string(libutils::failure_reason());
+        }
+        EXPECT_FALSE(image.compressed);
         std::ostringstream out;
         out << image.m_width << "x" << image.m_height << " " << image.desc.format << " "
             << image.desc.bits << " " << image.palette.size << ": " << image.size();
         std::string text = out.str();
-        text.erase(text.find("IMAGE_FORMAT_"), 13).erase(text.find("IMAGE_BITS_"), 11);
-        return loaded ? text : "-";
+        return text.erase(text.find("IMAGE_FORMAT_"), 13).erase(text.find("IMAGE_BITS_"), 11);
+    }
+    template <typename codec_t>
+    std::string load(std::string const& bytes) {
+        return load_file<codec_t>(write_file(file, bytes));
     }
     std::string pixels() const { return {image.begin(), image.end()}; }
 
     temp_dir_t dir;
     std::string const file = dir.file("picture");
-    char const* const path = file.c_str();
     libgr::image2d_t image;
+    bool is_loaded = false;
+    unsigned long turns = 0;
+    std::string lines;  ///< what the last load printed on the error stream
+
+  private:
     long m_files = 0;
 };

@@ -1,43 +1,46 @@
 // SPDX-License-Identifier: MIT
-// The compressor's parameters after a lossless transform, and the picture's sizes in its Exif.
+// The parameters of the compressor, and the pixel sizes in the Exif data.
 #include <jerror.h>
 
 #include <cstring>
 #include <utility>
 
-#include "codecs/jtransformops.h"
+#include "codecs/jpegtransform_ops.h"
 #include "utils/byteorder.h"
 
 namespace libgr {
 
 namespace {
 
-/// The TIFF block of a saved marker, which can be written to. What lies outside reads as 0.
+/// The TIFF block of a saved marker, which can be changed. Bytes outside of the block read as 0.
 struct tiff_block_t {
     JOCTET* begin;
     std::size_t size;
     libutils::byteorder const& order;
 
-    bool holds(std::size_t at, std::size_t bytes) const { return at <= size && bytes <= size - at; }
+    bool contains(std::size_t at, std::size_t bytes) const {
+        return at <= size && bytes <= size - at;
+    }
     unsigned short short_at(std::size_t at) const {
         unsigned short value = 0;
-        if (holds(at, sizeof value)) {
+        if (contains(at, sizeof value)) {
             std::memcpy(&value, begin + at, sizeof value);
         }
         return order.tohs(value);
     }
     unsigned int long_at(std::size_t at) const {
         unsigned int value = 0;
-        if (holds(at, sizeof value)) {
+        if (contains(at, sizeof value)) {
             std::memcpy(&value, begin + at, sizeof value);
         }
         return order.tohl(value);
     }
 
-    /// The place of the tag's entry of 12 bytes in the IFD at `ifd` (TIFF 6.0, section 2), or 0.
+    /// Returns the offset of the entry of a tag, which has 12 bytes, in the IFD at offset `ifd`
+    /// (TIFF 6.0, section 2), or 0.
     std::size_t entry_of(std::size_t ifd, unsigned short tag) const {
         std::size_t const end = ifd + 2 + std::size_t{short_at(ifd)} * 12;
-        for (std::size_t at = ifd + 2; at < end && holds(at, 12); at += 12) {
+        for (std::size_t at = ifd + 2; at < end && contains(at, 12); at += 12) {
             if (short_at(at) == tag) {
                 return at;
             }
@@ -45,7 +48,7 @@ struct tiff_block_t {
         return 0;
     }
 
-    /// Makes an entry one of a single long.
+    /// Sets an entry to one value of the type LONG.
     void set_entry(std::size_t at, unsigned int value) const {
         constexpr unsigned short type_long = 4;
         unsigned short const type = order.tohs(type_long);
@@ -92,7 +95,7 @@ void adjust_exif(jpeg_saved_marker_ptr marker, unsigned int width, unsigned int 
     }
 }
 
-/// Leaves the luma alone, which must have all its samples.
+/// Keeps only the luma, which must not be subsampled.
 void keep_gray(jpeg_decompress_struct* source, jpeg_compress_struct* destination,
                jpeg_transform_info const& info) {
     jpeg_component_info const& luma = source->comp_info[0];

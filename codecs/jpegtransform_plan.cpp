@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-// What a lossless transform comes to: whether it is perfect, its sizes, its crop, its workspace.
+// Computes the sizes, the crop and the workspace of an operation.
 #include <jerror.h>
 
 #include <cstdint>
 
-#include "codecs/jtransformops.h"
+#include "codecs/jpegtransform_ops.h"
 
 namespace libgr {
 
 namespace {
 
-/// What a crop says of one direction.
+/// A crop in one direction.
 struct crop_t {
     JDIMENSION size;
     JCROP_CODE size_set;
@@ -18,12 +18,12 @@ struct crop_t {
     JCROP_CODE offset_set;
 };
 
-[[noreturn]] void refuse_crop(jpeg_decompress_struct* source) {
+[[noreturn]] void reject_crop(jpeg_decompress_struct* source) {
     ERREXIT(source, JERR_BAD_CROP_SPEC);
     __builtin_unreachable();
 }
 
-/// Cuts a direction of `length` samples down, from the iMCU on that the crop begins in.
+/// Applies a crop to one direction: sets its length in samples and the iMCU that it begins with.
 void apply_crop(jpeg_decompress_struct* source, crop_t const& crop, JDIMENSION imcu,
                 JDIMENSION& length, JDIMENSION& imcu_offset) {
     std::int64_t const full = length;
@@ -34,20 +34,20 @@ void apply_crop(jpeg_decompress_struct* source, crop_t const& crop, JDIMENSION i
     bool const may_leave = crop.size_set == JCROP_FORCED ||
                            (crop.size_set == JCROP_REFLECT && full >= std::int64_t{imcu});
     if (size <= 0 || start < 0 || start >= full || (leaves && !may_leave)) {
-        refuse_crop(source);
+        reject_crop(source);
     }
     if (crop.size_set != JCROP_FORCED) {
         size += start % imcu;
     }
     if (size > JPEG_MAX_DIMENSION) {
-        refuse_crop(source);
+        reject_crop(source);
     }
     length = static_cast<JDIMENSION>(size);
     imcu_offset = static_cast<JDIMENSION>(start / imcu);
 }
 
-/// Cuts off what of the output's end lies in an iMCU that `full` samples don't fill, if anything
-/// is left then.
+/// Removes the incomplete iMCU at the end of `full` samples from the output, unless nothing would
+/// be left.
 void trim(JDIMENSION full, JDIMENSION imcu, JDIMENSION imcu_offset, JDIMENSION& length) {
     JDIMENSION const whole = full / imcu;
     if (whole > imcu_offset && length > (whole - imcu_offset) * imcu) {
@@ -55,7 +55,7 @@ void trim(JDIMENSION full, JDIMENSION imcu, JDIMENSION imcu_offset, JDIMENSION& 
     }
 }
 
-/// Sizes of an iMCU of the source, where the output has `num_components` components.
+/// Returns the size of an iMCU of the source if the output has `num_components` components.
 sample_size_t imcu_of(jpeg_decompress_struct const& source, int num_components) {
     if (num_components == 1) {
         return {DCTSIZE, DCTSIZE};
@@ -82,7 +82,7 @@ void request_arrays(jpeg_decompress_struct* source, jpeg_transform_info* info) {
         static_cast<std::size_t>(info->num_components) * sizeof(jvirt_barray_ptr)));
     for (int i = 0; i < info->num_components; ++i) {
         block_grid_t const grid = grid_of(*source, *info, i);
-        // The compressor looks at whole iMCUs, whose other blocks must be defined.
+        // The compressor reads whole iMCUs, so all their blocks must be initialised.
         auto const up = [](JDIMENSION n, JDIMENSION unit) { return (n + unit - 1) / unit * unit; };
         info->workspace[i] = (*source->mem->request_virt_barray)(
             any, JPOOL_IMAGE, TRUE, up(grid.width, grid.h_factor), up(grid.height, grid.v_factor),

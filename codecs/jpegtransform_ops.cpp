@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Moving blocks of coefficients. Mirroring a block negates its odd frequencies in that direction.
-#include "codecs/jtransformops.h"
+// Moves blocks of coefficients. Mirroring a block negates its odd frequencies in that direction.
+#include "codecs/jpegtransform_ops.h"
 
 #include <cstring>
 
@@ -10,20 +10,20 @@ namespace libgr {
 
 namespace {
 
-/// Output blocks along one direction, counted in the output before it is cropped.
+/// The blocks of the output in one direction, counted before the output is cropped.
 struct axis_t {
-    JDIMENSION offset;   ///< the first that is kept
-    JDIMENSION whole;    ///< those in whole iMCUs, which alone change sides
-    JDIMENSION present;  ///< those that the picture has, or that its mirror images begin with
+    JDIMENSION offset;   ///< the first block of the crop
+    JDIMENSION whole;    ///< blocks in whole iMCUs; only these can change sides
+    JDIMENSION present;  ///< blocks of the picture, or blocks before its mirror images
     bool mirrors;
     bool reflects;
 };
 
-/// Where an output block comes from along one direction.
+/// The source of a block of the output in one direction.
 struct place_t {
     JDIMENSION source;
     bool mirrored;
-    bool plain;  ///< only its mean is wanted
+    bool plain;  ///< only the mean of the block is copied
 };
 
 axis_t axis_of(JDIMENSION full, JDIMENSION kept, JDIMENSION imcu, JDIMENSION factor,
@@ -48,7 +48,7 @@ place_t place_of(axis_t const& axis, JDIMENSION block) {
     return {mirrored ? axis.whole - 1 - at : at, mirrored, beyond && !axis.reflects};
 }
 
-/// Writes a block as it stands in the output. The two mustn't overlap.
+/// Copies a block and transforms it. `from` and `to` must not overlap.
 void move_block(JCOEF const* from, JCOEF* to, bool transposes, bool mirrors_x, bool mirrors_y) {
     int const row_step = transposes ? 1 : DCTSIZE;
     int const column_step = transposes ? DCTSIZE : 1;
@@ -94,7 +94,7 @@ void fill_workspace(jpeg_decompress_struct* source, jvirt_barray_ptr from, jvirt
     }
 }
 
-/// Mirrors the first `whole` blocks of each row where they lie.
+/// Mirrors the first `whole` blocks of each row in place.
 void mirror_rows(jpeg_decompress_struct* source, jvirt_barray_ptr array, JDIMENSION height,
                  JDIMENSION whole) {
     for (JDIMENSION y = 0; y < height; ++y) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The text form of a crop.
+// Parses the text form of a crop.
 #include <charconv>
 #include <string_view>
 

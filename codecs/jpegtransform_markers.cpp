@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which marker segments go from a JPEG to the one made of it.
+// Copies marker segments from the source of an operation to its result.
 #include <cstring>
 
 #include "codecs/jtransform.h"
@@ -8,7 +8,7 @@ namespace libgr {
 
 namespace {
 
-constexpr unsigned int saved_marker_length = 65535;  // bytes of a segment
+constexpr unsigned int saved_marker_length = 65535;  // bytes
 constexpr int icc_marker = JPEG_APP0 + 2;
 constexpr int adobe_marker = JPEG_APP0 + 14;
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The operations as data, and where each block of an output comes from: what the steps of a
-// lossless transform share.
+// The table of lossless operations, and sizes that the steps of a transform share.
 #pragma once
 
 #include "codecs/jtransform.h"
 
 namespace libgr {
 
-/// An operation is a transposition, or none, and then mirrors of what that gives.
+/// An operation transposes the picture or not, and then mirrors the result.
 struct jxform_row_t {
     JXFORM_CODE code;
     bool transposes;
@@ -15,7 +14,7 @@ struct jxform_row_t {
     bool mirrors_y;
 };
 
-/// Row i is that of code i.
+/// Indexed by code.
 inline constexpr jxform_row_t jxform_table[] = {
     {JXFORM_NONE, false, false, false},    {JXFORM_FLIP_H, false, true, false},
     {JXFORM_FLIP_V, false, false, true},   {JXFORM_TRANSPOSE, true, false, false},
@@ -23,7 +22,7 @@ inline constexpr jxform_row_t jxform_table[] = {
     {JXFORM_ROT_180, false, true, true},   {JXFORM_ROT_270, true, false, true},
 };
 
-/// The operation's row, and null for one that isn't carried out.
+/// Returns the row of an operation, or null for an operation that is not implemented.
 constexpr jxform_row_t const* row_of(JXFORM_CODE code) {
     for (jxform_row_t const& row : jxform_table) {
         if (row.code == code) {
@@ -33,21 +32,23 @@ constexpr jxform_row_t const* row_of(JXFORM_CODE code) {
     return nullptr;
 }
 
-/// Blocks of one component of the output, not counting those that only fill up its last iMCUs.
+/// The blocks of one component of the output, without those that only complete its last iMCUs.
 struct block_grid_t {
     JDIMENSION width;
     JDIMENSION height;
-    JDIMENSION h_factor;  ///< blocks of an iMCU
+    JDIMENSION h_factor;  ///< blocks in an iMCU
     JDIMENSION v_factor;
 };
 block_grid_t grid_of(jpeg_decompress_struct const& source, jpeg_transform_info const& info,
                      int component);
 
-/// The output before it is cropped, in samples.
+/// A size in samples.
 struct sample_size_t {
     JDIMENSION width;
     JDIMENSION height;
 };
+
+/// Returns the size of the output before it is cropped.
 sample_size_t uncropped_size(jpeg_decompress_struct const& source, jxform_row_t const& row);
 
 }  // namespace libgr

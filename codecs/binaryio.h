@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reading and writing a file's fields and pixel bytes through a stream.
+// Functions that read and write little-endian fields and pixels through a stream.
 #pragma once
 
 #include <concepts>
@@ -12,7 +12,7 @@
 
 namespace libgr {
 
-/// One little-endian field of a file; the bytes that a file no longer has are 0.
+/// Reads a little-endian field. Bytes after the end of the file are 0.
 template <std::unsigned_integral T>
 T read_field(std::istream& stream) {
     unsigned char bytes[sizeof(T)] = {};
@@ -24,6 +24,7 @@ T read_field(std::istream& stream) {
     return static_cast<T>(value);
 }
 
+/// Writes a little-endian field.
 template <std::unsigned_integral T>
 void write_field(std::ostream& stream, T field) {
     for (unsigned int i = 0; i < sizeof(T); ++i) {
@@ -31,16 +32,20 @@ void write_field(std::ostream& stream, T field) {
     }
 }
 
-/// Opens a file to be read. Whether it could; a pipe or a device can't, with EINVAL, since it might
-/// never end or keep the program waiting.
+/// Records that a file of `size` bytes ends within its header. Always returns false.
+bool reject_header(std::uint64_t size);
+
+/// Opens a file for reading. Returns false and sets errno on failure. Pipes and devices fail with
+/// EINVAL, because reading them may never end.
 bool open_file(std::ifstream& stream, char const* path);
 
-/// Bytes from the read position to the end of the file; 0 where the stream has failed or can't
-/// seek. The position stays.
+/// Returns the number of bytes from the read position to the end of the file, or 0 if the stream
+/// has failed or cannot seek. The read position does not change.
 std::uint64_t bytes_left(std::istream& stream);
 
-/// Makes `pixels` a block of its own of `size` bytes, all 0, and reads as many as the file still
-/// has. With `size` 0 it becomes empty. False, with `pixels` as it was, when there is no memory.
+/// Allocates a new block of `size` bytes for `pixels` and reads it. Bytes after the end of the file
+/// are 0. If `size` is 0, `pixels` becomes empty. Returns false, with `pixels` unchanged, if there
+/// is not enough memory.
 bool read_pixels(image_bytes_t& pixels, std::istream& stream, std::uint64_t size);
 
 /// Writes all bytes of `pixels`.
