@@ -177,8 +177,7 @@ class ViewWindow : public wenk::glutyAPI4 {
     unsigned long current_index = 0;
     std::set<std::string> too_large;  ///< paths that the current change of picture skips
     unsigned long image_count = 0;
-    libgr::direction2l_t startsize =
-        libgr::datum2l;  ///< window size that the first picture was fitted into
+    libgr::direction2l_t startsize = libgr::datum2l;  ///< the window's until the first `reshape`
     libgr::direction2l_t oldwinsize = libgr::datum2l;
     libgr::direction2l_t pixelratio = libgr::direction2l(1, 1);
 };

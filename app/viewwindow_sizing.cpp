@@ -145,7 +145,8 @@ void ViewWindow::reshape(int width, int height) {
     if (!(oldwinsize != 0)) {
         zanolib::trace(std::cout, "oldwinsize is ZERO.");
         // A window manager may change the start size after the first picture was fitted.
-        if (zanolib::g_option.resizetype == RESIZE_IMAGE && size != 0 && size != startsize) {
+        if (zanolib::g_option.resizetype == RESIZE_IMAGE && size != 0 && startsize != 0 &&
+            size != startsize) {
             residue(false);
         }
     } else if (zanolib::g_option.resizetype == RESIZE_IMAGE) {
@@ -155,6 +156,7 @@ void ViewWindow::reshape(int width, int height) {
         scene.Scale(scale, 0.0f);
     }
     oldwinsize = size;
+    startsize = libgr::datum2l;  // a window that loses its size later keeps the view
     zanolib::trace(std::cout, "newwinsize is ", oldwinsize);
 }
 
