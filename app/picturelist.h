@@ -42,7 +42,7 @@ enum class walk_t {
 bool is_picture_name(std::string const& name);
 
 /// Appends the pictures of the directory `path`, sorted by the bytes of their paths. If `path` is
-/// not a directory, appends `path` if it has the name of a picture, even if there is no such file.
+/// not a directory, appends `path` if it has the name of a picture. The file need not exist.
 /// "" is the current directory. Subdirectories are not searched.
 ///
 /// Returns false if there was nothing to append.

@@ -108,12 +108,14 @@ class ViewWindow : public wenk::glutyAPI4 {
     /// resizetype: to the stored view if there is one (`residue_resume`), otherwise to the
     /// picture's size (`residue_new`). Changes the window's size only if `resize` is true.
     ///
-    /// The return values tell if the view is complete; no caller needs them.
+    /// `residue_resume` returns false if there is no stored view. No caller uses the other results.
     bool residue(bool resize);
     bool residue_resume(bool resize);
     bool residue_new(bool resize);
+    /// Returns the result of `limited_window_size` (app/sizing.h) for the window and the options.
     libgr::direction2l_t residue_calc_window_size(libgr::direction2l_t const& target,
                                                   libgr::direction2l_t const& current) const;
+    /// Requests the window size `target`. Adapts the scene if the window has this size already.
     bool residue_set_window_size(libgr::direction2l_t const& target,
                                  libgr::direction2l_t const& current, bool resize);
     /// Adapts the scene's projection to the window's size.

@@ -38,7 +38,7 @@ enum special_key_t {
 
 }  // namespace
 
-/// A row of the key table, and the actions that are too long for it or stand in several rows.
+/// A row of the key table, and the actions that are too long for a row or are used by several rows.
 struct ViewWindow::key_row_t {
     using action_t = void (*)(ViewWindow& self, int key);
 

@@ -129,7 +129,7 @@ class ViewWindowTest : public testing::Test {
         m_glfw.calls.clear();
         for (std::string const& call : made) {
             std::string const words = words_for(call);
-            if (!words.empty() && (parts.empty() || parts.back() != words)) {
+            if (!words.empty() && std::ranges::find(parts, words) == parts.end()) {
                 parts.push_back(words);
             }
         }
