@@ -85,9 +85,9 @@ bool is_gl_report(std::string const& line) {
                                [&](char const* start) { return line.starts_with(start); });
 }
 
-/// A test is a session of steps. Its file in sessions/ has a line for each step: the calls in
-/// words, those to OpenGL first, and the view if it has changed. Lines that the step printed follow
-/// it.
+/// A test is a session of steps. Its file in sessions/ has a line for each step: the different
+/// calls in words, those to OpenGL first, and the view if it has changed. The lines that the viewer
+/// printed follow after ">".
 class ViewWindowTest : public testing::Test {
   protected:
     ViewWindowTest() {
