@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the program begins and ends.
+// The main function.
 #include <unistd.h>
 
 #include <clocale>
@@ -16,9 +16,8 @@
 
 namespace {
 
-/// Handles the one exception that is left uncaught on purpose: there is no memory for something
-/// small. Ends the program with one line and without destructors, since those may need memory, too.
-/// Any other exception is a fault of the program.
+/// The terminate handler. If memory ran out, prints a line and ends the process without calling
+/// destructors, which could need memory. For all other reasons, aborts.
 [[noreturn]] void end_without_memory() noexcept {
     try {
         if (std::current_exception() != nullptr) {
@@ -37,7 +36,7 @@ namespace {
 
 int main(int argc, char** argv) {
     std::set_terminate(end_without_memory);
-    std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit of file sizes fails instead
+    std::signal(SIGXFSZ, SIG_IGN);  // so that a write() beyond RLIMIT_FSIZE fails with EFBIG
     std::setlocale(LC_ALL, "");
     libutils::escape_names_on_terminals();
     if (!zanoview2::native::start()) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The windowing library's calls in the application's types.
+// Calls GLFW.
 #include "app/nativewindow.h"
 
 #define GLFW_INCLUDE_NONE
@@ -19,12 +19,12 @@ namespace {
 
 constexpr int max_window_side = static_cast<int>(libutils::limits::window_side.value);
 
-/// Waits until something that a window manager does has happened, at most a tenth of a second.
+/// Waits until the condition is true, at most 0.1 seconds.
 template <typename Condition>
-void await(Condition has_happened) {
+void await(Condition is_true) {
     using namespace std::chrono_literals;
     auto const deadline = std::chrono::steady_clock::now() + 100ms;
-    while (!has_happened() && std::chrono::steady_clock::now() < deadline) {
+    while (!is_true() && std::chrono::steady_clock::now() < deadline) {
         std::this_thread::sleep_for(1ms);
     }
 }
@@ -67,7 +67,7 @@ libgr::direction2l_t work_area() {
     return size;
 }
 
-libgr::direction2l_t possible_window_size(libgr::direction2l_t const& size) {
+libgr::direction2l_t clamped_window_size(libgr::direction2l_t const& size) {
     return libgr::direction2l(std::clamp(size.x, 1, max_window_side),
                               std::clamp(size.y, 1, max_window_side));
 }
@@ -76,8 +76,8 @@ void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
     if (size.x > max_window_side || size.y > max_window_side) {
         libutils::report_limit(libutils::limits::window_side);
     }
-    libgr::direction2l_t const asked = possible_window_size(size);
-    glfwSetWindowSize(window, asked.x, asked.y);
+    libgr::direction2l_t const clamped = clamped_window_size(size);
+    glfwSetWindowSize(window, clamped.x, clamped.y);
 }
 
 void set_window_position(GLFWwindow* window, libgr::position2l_t const& position) {
@@ -89,7 +89,7 @@ void set_title(GLFWwindow* window, std::string const& title) {
 }
 
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size) {
-    libgr::direction2l_t const wanted = possible_window_size(size);
+    libgr::direction2l_t const wanted = clamped_window_size(size);
     await([&] { return !(window_size(window) != wanted); });
 }
 

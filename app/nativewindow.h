@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The calls that the application makes on the windowing library itself: sizes, places, titles.
-//
-// Every function that takes a window needs it to be up; all run on the main thread.
+// Sizes, positions, titles and other properties of a GLFW window.
 #pragma once
 
 #include <string>
@@ -10,46 +8,51 @@
 
 struct GLFWwindow;
 
+/// Call all functions from the main thread, `start` first. Windows belong to the caller, who
+/// creates them with GLFW. They must be visible.
 namespace zanoview2::native {
 
-/// Starts the windowing library; false when there is no display to start on.
+/// Initializes GLFW. Returns false on failure, for example if there is no display.
 bool start();
-/// Ends the windowing library; every window that still stands goes with it.
+/// Destroys all windows and terminates GLFW.
 void stop();
 
-/// The window's size in screen coordinates.
+/// Returns the window's size in screen coordinates.
 libgr::direction2l_t window_size(GLFWwindow* window);
-/// The size of what OpenGL draws into, in pixels.
+/// Returns the framebuffer's size in pixels.
 libgr::direction2l_t framebuffer_size(GLFWwindow* window);
-/// The place of the window's upper left corner on the virtual screen.
+/// Returns the position of the window's upper left corner in screen coordinates.
 libgr::position2l_t window_position(GLFWwindow* window);
-/// The size of the primary monitor's area that no panel covers; 0, 0 without a monitor.
+/// Returns the size, in screen coordinates, of the primary monitor without its panels, or 0, 0 if
+/// there is no monitor.
 libgr::direction2l_t work_area();
 
-/// Returns the nearest size that a window can have: each side from 1, because a side of 0 ends an X
-/// program, to the limit window-side (utils/limits.h).
-libgr::direction2l_t possible_window_size(libgr::direction2l_t const& size);
+/// Returns the nearest size that a window can have. A side is at least 1, because the X server
+/// rejects 0 with an error that ends the program, and at most the limit window-side
+/// (utils/limits.h).
+libgr::direction2l_t clamped_window_size(libgr::direction2l_t const& size);
 
-/// Requests a window size in screen coordinates, or the nearest that a window can have. Prints an
-/// error line if a side exceeds the limit window-side. A window manager may grant the size later or
-/// not at all.
+/// Requests a window size in screen coordinates, clamped by `clamped_window_size`. Prints an error
+/// line if a side exceeds the limit window-side. A window manager may change the size later than
+/// this call, or not at all.
 void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
+/// Requests a position of the window's upper left corner, in screen coordinates.
 void set_window_position(GLFWwindow* window, libgr::position2l_t const& position);
-/// Sets the title, which is UTF-8. Control characters are shown escaped.
+/// Sets the title, which is in UTF-8. Control characters are escaped.
 void set_title(GLFWwindow* window, std::string const& title);
 
-/// Waits until the window has the size that was just asked for, at most a tenth of a second: a
-/// window manager answers late, and what is fitted into the window needs the size it will have.
+/// Waits until the window has the size that was requested, at most 0.1 seconds. Call it before a
+/// picture is fitted into the window, since window managers change the size after the request.
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
 
-/// Iconifies the window. Under a window manager, waits until the window is iconified, at most a
-/// tenth of a second: a request to restore it that arrives earlier is lost, and the window stays
-/// iconified. Without a window manager, takes one reply of the X server at most.
+/// Iconifies the window. If a window manager manages it, waits until it is iconified, at most 0.1
+/// seconds: a window manager ignores an earlier request to restore it. Otherwise waits for at most
+/// one reply of the X server.
 void iconify(GLFWwindow* window);
-/// Brings the window up again.
+/// Restores an iconified window.
 void restore(GLFWwindow* window);
 
-/// True while a Shift key is held down.
+/// Returns true if a Shift key is down.
 bool is_shift_down(GLFWwindow* window);
 
 }  // namespace zanoview2::native

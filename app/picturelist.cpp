@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Scanning of directories, and paging over entries that may not load.
+// Scans directories, and moves in the list of pictures.
 #include "app/picturelist.h"
 
 #include <dirent.h>
@@ -8,7 +8,7 @@
 #include <iterator>
 #include <memory>
 
-#include "options/option.h"
+#include "options/trace.h"
 #include "scene/viewobj.h"
 #include "utils/diagnostics.h"
 
@@ -27,33 +27,29 @@ picture_list_t scan(DIR* directory, std::string const& path) {
     while (dirent const* entry = readdir(directory)) {
         std::string const name = entry->d_name;
         if (!is_picture_name(name)) {
-            if (zanolib::g_option.verbose) {
-                std::cout << "skip: " << libutils::putname(name) << std::endl;
-            }
+            zanolib::report("skip: ", libutils::putname(name));
             continue;
         }
-        if (zanolib::g_option.debug) {
-            std::cout << "file add: " << libutils::putname(name) << std::endl;
-        }
+        zanolib::trace(std::cout, "file add: ", libutils::putname(name));
         found.push_back(base + name);
     }
     return found;
 }
 
-/// Tries entries from `place` on toward the end.
-bool search_up(picture_list_t& list, picture_place_t& place, picture_stage_t& stage) {
+/// Loads the first entry that can be loaded, from `place` to the end.
+bool load_forward(picture_list_t& list, picture_place_t& place, picture_loader_t& loader) {
     for (; place.entry != list.end(); ++place.entry, ++place.index) {
-        if (stage.add(*place.entry)) {
+        if (loader.load(*place.entry)) {
             return true;
         }
     }
     return false;
 }
 
-/// Tries entries from `place` on toward the beginning, the very first one excluded.
-bool search_down(picture_list_t& list, picture_place_t& place, picture_stage_t& stage) {
+/// Loads the first entry that can be loaded, from `place` backward to the second entry.
+bool load_backward(picture_list_t& list, picture_place_t& place, picture_loader_t& loader) {
     for (; place.entry != list.begin(); --place.entry, --place.index) {
-        if (stage.add(*place.entry)) {
+        if (loader.load(*place.entry)) {
             return true;
         }
     }
@@ -67,21 +63,15 @@ bool is_picture_name(std::string const& name) {
 }
 
 void report_skipped(std::string const& path) {
-    if (zanolib::g_option.verbose) {
-        std::cout << libutils::putname(path)
-                  << ": skipped: " << libutils::putname(libutils::failure_reason()) << std::endl;
-    }
+    zanolib::report(libutils::putname(path),
+                    ": skipped: ", libutils::putname(libutils::failure_reason()));
 }
 
 bool append_pictures(picture_list_t& list, std::string const& given) {
     std::string const path = given.empty() ? "." : given;
-    if (zanolib::g_option.verbose) {
-        std::cout << "srchpath: " << libutils::putname(path) << std::endl;
-    }
+    zanolib::report("srchpath: ", libutils::putname(path));
     if (directory_t const directory{opendir(path.c_str())}) {
-        if (zanolib::g_option.debug) {
-            std::cout << "dir: " << libutils::putname(path) << std::endl;
-        }
+        zanolib::trace(std::cout, "dir: ", libutils::putname(path));
         picture_list_t found = scan(directory.get(), path);
         if (found.empty()) {
             return false;
@@ -96,34 +86,32 @@ bool append_pictures(picture_list_t& list, std::string const& given) {
         report_skipped(path);
         return false;
     }
-    if (zanolib::g_option.debug) {
-        std::cout << "file add: " << libutils::putname(path) << std::endl;
-    }
+    zanolib::trace(std::cout, "file add: ", libutils::putname(path));
     list.push_back(path);
     return true;
 }
 
-bool walk_initial(picture_list_t& list, picture_place_t& place, picture_stage_t& stage) {
+bool walk_initial(picture_list_t& list, picture_place_t& place, picture_loader_t& loader) {
     place = {list.begin(), 0};
-    return search_up(list, place, stage);
+    return load_forward(list, place, loader);
 }
 
 walk_t walk_forward(picture_list_t& list, picture_place_t& place, unsigned long n,
-                    picture_stage_t& stage) {
+                    picture_loader_t& loader) {
     picture_place_t working = place;
     for (; n > 0 && working.entry != list.end(); --n) {
         ++working.entry;
         ++working.index;
     }
     if (working.entry == list.end()) {
-        return walk_t::refused;
+        return walk_t::no_move;
     }
-    stage.remove();
-    if (!search_up(list, working, stage)) {
+    loader.unload();
+    if (!load_forward(list, working, loader)) {
         --working.entry;
         --working.index;
-        if (!search_down(list, working, stage)) {
-            return walk_t::stranded;
+        if (!load_backward(list, working, loader)) {
+            return walk_t::nothing_loads;
         }
     }
     place = working;
@@ -131,47 +119,47 @@ walk_t walk_forward(picture_list_t& list, picture_place_t& place, unsigned long 
 }
 
 walk_t walk_backward(picture_list_t& list, picture_place_t& place, unsigned long n,
-                     picture_stage_t& stage) {
+                     picture_loader_t& loader) {
     if (list.empty() || place.entry == list.begin()) {
-        return walk_t::refused;
+        return walk_t::no_move;
     }
     picture_place_t working = place;
     for (; n > 0 && working.entry != list.begin(); --n) {
         --working.entry;
         --working.index;
     }
-    stage.remove();
-    if (!search_down(list, working, stage)) {
+    loader.unload();
+    if (!load_backward(list, working, loader)) {
         working = {list.begin(), 0};
-        if (!search_up(list, working, stage)) {
-            return walk_t::stranded;
+        if (!load_forward(list, working, loader)) {
+            return walk_t::nothing_loads;
         }
     }
     place = working;
     return walk_t::moved;
 }
 
-walk_t walk_first(picture_list_t& list, picture_place_t& place, picture_stage_t& stage) {
+walk_t walk_first(picture_list_t& list, picture_place_t& place, picture_loader_t& loader) {
     if (list.empty()) {
-        return walk_t::refused;
+        return walk_t::no_move;
     }
-    stage.remove();
+    loader.unload();
     picture_place_t working{list.begin(), 0};
-    if (!search_up(list, working, stage)) {
-        return walk_t::stranded;
+    if (!load_forward(list, working, loader)) {
+        return walk_t::nothing_loads;
     }
     place = working;
     return walk_t::moved;
 }
 
-walk_t walk_last(picture_list_t& list, picture_place_t& place, picture_stage_t& stage) {
+walk_t walk_last(picture_list_t& list, picture_place_t& place, picture_loader_t& loader) {
     if (list.empty()) {
-        return walk_t::refused;
+        return walk_t::no_move;
     }
-    stage.remove();
+    loader.unload();
     picture_place_t working{std::prev(list.end()), list.size() - 1};
-    if (!search_down(list, working, stage) && !stage.add(*working.entry)) {
-        return walk_t::stranded;
+    if (!load_backward(list, working, loader) && !loader.load(*working.entry)) {
+        return walk_t::nothing_loads;
     }
     place = working;
     return walk_t::moved;

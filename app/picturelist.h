@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The list of picture paths: what enters it, and the rules by which paging walks it.
+// The list of picture paths, and the rules for moving in it.
 #pragma once
 
 #include <list>
@@ -7,33 +7,34 @@
 
 namespace zanoview2 {
 
-/// The paths of the pictures in paging order, as the user gave them or joined from a directory.
+/// The paths of pictures in paging order. The paths are as the user gave them, or
+/// "<directory>/<name>" for the files of a directory.
 using picture_list_t = std::list<std::string>;
 
-/// A place in a picture_list_t: the entry, or the list's end, and its index counted from 0.
+/// A place in a picture_list_t.
 struct picture_place_t {
-    picture_list_t::iterator entry;
-    unsigned long index;
+    picture_list_t::iterator entry;  ///< the entry, or the list's end
+    unsigned long index;             ///< the number of entries before it
 };
 
-/// Where pictures are shown while paging walks the list. The application puts its scene behind
-/// it; tests put numbers there.
-class picture_stage_t {
+/// Loads and unloads the pictures on the way through a list. At most one picture is loaded at a
+/// time.
+class picture_loader_t {
   public:
-    /// Tries to load one picture; true when it is on the stage now.
-    virtual bool add(std::string const& path) = 0;
-    /// Takes the present picture off the stage, if there is one.
-    virtual void remove() = 0;
+    /// Loads a picture. Returns false on failure, and then no picture is loaded.
+    virtual bool load(std::string const& path) = 0;
+    /// Unloads the picture, if one is loaded.
+    virtual void unload() = 0;
 
   protected:
-    ~picture_stage_t() = default;
+    ~picture_loader_t() = default;
 };
 
-/// How a walk ended.
+/// The result of a walk.
 enum class walk_t {
-    refused,  ///< no move that fits: neither stage nor place was touched
-    moved,    ///< a picture loaded, and the place is its entry
-    stranded  ///< the old picture is gone, no entry that was tried loads, the place is unchanged
+    no_move,       ///< there is nowhere to go; nothing was loaded or unloaded
+    moved,         ///< the picture at the new place is loaded
+    nothing_loads  ///< the old picture was unloaded, no other one loads, the place is the old one
 };
 
 /// Returns true if a name has the extension of a picture; see ViewObject::has_picture_extension.
@@ -43,27 +44,33 @@ bool is_picture_name(std::string const& name);
 /// reason that is recorded (utils/diagnostics.h).
 void report_skipped(std::string const& path);
 
-/// Appends the pictures of the directory `path`, sorted by the bytes of their full paths, or, when
-/// it is no directory, `path` itself if it has a picture's name (it need not exist). An empty
-/// `path` is the current directory. Returns false, with `list` as it was, when nothing was found.
+/// Appends the pictures of the directory `path`, sorted by the bytes of their paths. If `path` is
+/// not a directory, appends `path` if it has the name of a picture. The file need not exist.
+/// "" is the current directory. Subdirectories are not searched.
+///
+/// Returns false if there was nothing to append.
 bool append_pictures(picture_list_t& list, std::string const& path);
 
-/// Finds the first entry that loads, from the beginning on. On failure `place` is the list's end.
-bool walk_initial(picture_list_t& list, picture_place_t& place, picture_stage_t& stage);
+/// Loads the first picture of the list that can be loaded. Returns false if there is none, and then
+/// `place` is the list's end.
+bool walk_initial(picture_list_t& list, picture_place_t& place, picture_loader_t& loader);
 
-/// Moves `n` entries forward. A step that ends at or past the list's end is refused. Entries that
-/// don't load are skipped forward; when the end is reached the search turns round and goes back to
-/// the second entry.
+/// Moves `n` entries forward, or not at all if fewer than `n` entries follow.
+///
+/// Entries that don't load are skipped. If none loads up to the end of the list, tries the entries
+/// before them, backward to the second one of the list. The first entry is never tried.
 walk_t walk_forward(picture_list_t& list, picture_place_t& place, unsigned long n,
-                    picture_stage_t& stage);
+                    picture_loader_t& loader);
 
-/// Moves `n` entries back, clamped at the first one. Entries that don't load are skipped backward
-/// down to the second entry; after that the search goes forward from the first entry to the end.
+/// Moves `n` entries backward, or to the first entry if fewer precede.
+///
+/// Entries that don't load are skipped. If none loads down to the second one of the list, tries all
+/// entries from the first one on.
 walk_t walk_backward(picture_list_t& list, picture_place_t& place, unsigned long n,
-                     picture_stage_t& stage);
+                     picture_loader_t& loader);
 
-/// Goes to the first, or the last, entry that loads. An empty list is refused.
-walk_t walk_first(picture_list_t& list, picture_place_t& place, picture_stage_t& stage);
-walk_t walk_last(picture_list_t& list, picture_place_t& place, picture_stage_t& stage);
+/// Moves to the first entry, or to the last one, that loads.
+walk_t walk_first(picture_list_t& list, picture_place_t& place, picture_loader_t& loader);
+walk_t walk_last(picture_list_t& list, picture_place_t& place, picture_loader_t& loader);
 
 }  // namespace zanoview2

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Window sizes and picture scales.
+// Calculates window sizes and picture scales.
 #include "app/sizing.h"
 
 #include <cmath>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The arithmetic by which window and picture adapt to each other, from numbers to numbers.
+// Calculates window sizes and picture scales.
 #pragma once
 
 #include <optional>
@@ -9,30 +9,35 @@
 
 namespace zanoview2 {
 
-/// The window size, in pixels, for a picture that wants `target` while the window has `current`.
+/// Returns the size, in pixels, that a window changes to for a picture.
 ///
-/// Each axis goes by itself: it changes only as `options.resize_magnify` and
-/// `options.resize_shrink` allow, and `options.sizelimit` bounds it: 1 by `window` (the window's
-/// present size in screen coordinates) less `maxmargin`, 2 by `maxsize`, anything else not at all.
+/// `target` is the wanted size and `current` the framebuffer's size, both in pixels. `window` is
+/// the window's size in screen coordinates. Width and height are independent of each other. Each
+/// one
+/// - grows only if `options.resize_magnify` is set, and shrinks only if `options.resize_shrink` is;
+/// - is limited, if it changes, by `options.sizelimit`: 1 to `window` less `options.maxmargin`, 2
+/// to
+///   `options.maxsize`, and other values not at all.
 libgr::direction2l_t limited_window_size(libgr::direction2l_t const& target,
                                          libgr::direction2l_t const& current,
                                          libgr::direction2l_t const& window,
                                          zanolib::option_t const& options);
 
-/// The size that a picture of `image` pixels wants for its window: `ratio` times its own,
-/// truncated, and the nearest int where it doesn't fit into one.
+/// Returns `ratio` times the size of a picture, rounded toward 0. Results out of the range of int
+/// become its nearest value.
 libgr::direction2l_t wanted_window_size(libgr::direction2l_t const& image, float ratio);
 
-/// The scale that makes a picture of `image` pixels take the share `ratio` of its tighter side of
-/// `window`; none when there is nothing to fit, because a size is 0.
+/// Returns the largest scale at which a picture of `image` pixels fits into the part `ratio` of
+/// each side of `window`. Returns nothing if a size is 0.
 std::optional<float> fitting_scale(libgr::direction2l_t const& image,
                                    libgr::direction2l_t const& window, float ratio);
 
-/// The scale that brings a view stored in a window of `saved` pixels into one of `window` pixels.
+/// Returns the scale that fits a view of a window with `saved` pixels into one with `window`
+/// pixels.
 float resuming_scale(libgr::direction2l_t const& saved, libgr::direction2l_t const& window);
 
-/// The scale that a picture gets when the window's height changes; exactly 1 when it doesn't, and
-/// for a height of 0, which would leave a matrix that nothing brings back.
+/// Returns the factor by which a picture is scaled when the window's height changes. Returns 1 if
+/// it doesn't, or if a height is 0: a picture of scale 0 could never be enlarged again.
 float reshaping_scale(int height, int old_height);
 
 }  // namespace zanoview2

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the application comes up, and what all its commands share.
+// Start, drawing, and the commands that write files.
 #include "app/viewwindow.h"
 
 #include <cerrno>
@@ -25,7 +25,7 @@ void cut_exe_suffix(char* name) {
     }
 }
 
-/// Prints why the file that a key asked for could not be saved. `error` is a value of errno.
+/// Prints why a file was not saved. `error` is a value of errno.
 void report_unsaved(std::string const& path, int error) {
     libutils::refuse(libutils::putname(path), ": can't be saved: ", std::strerror(error));
 }
@@ -73,9 +73,9 @@ void ViewWindow::init() {
 
     startsize = get_window_size();
     load_first_picture();
-    // The scene needs its projection before the first drawing, and no size event comes if the
-    // window kept the size that it was created with. `oldwinsize` stays 0, so that the first event
-    // doesn't scale the picture, which has been fitted already.
+    // There is no size event if the window has kept the size that it was created with, so that the
+    // scene needs its projection from here. `oldwinsize` stays 0: if there is an event, it must not
+    // scale the picture, which is fitted already.
     scene.Reshape(static_cast<unsigned long>(startsize.x), static_cast<unsigned long>(startsize.y));
     wenk::glfwyMGR4::getSingleton()->KeyRepeat(true);
 }
@@ -131,7 +131,7 @@ void ViewWindow::menu_file_savejpeg() {
     if (current == imagelist.end()) {
         return;
     }
-    // Where the front buffer can't be read the back one is, and it needs the frame anew.
+    // The snapshot reads the back buffer if the front buffer can't be read.
     display();
     if (!scene.saveImage(current->c_str())) {
         int const error = errno;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The application object: one window, one scene, the list of pictures and every command.
+// The viewer: its window, its scene, its list of pictures and its commands.
 #pragma once
 
 #include <array>
@@ -18,38 +18,54 @@ struct GLFWwindow;
 
 namespace zanoview2 {
 
-/// The application's own messages: their lines in the message file, counted from 0.
+/// The lines of the viewer's message file, counted from 0.
 enum e_message_local_t : unsigned {
-    MESSAGE_APPLICATION_NAME = 0,  ///< the application's name in the title bar
-    MESSAGE_NO_PICTURE = 1         ///< what stands behind it while no picture is shown
+    MESSAGE_APPLICATION_NAME = 0,  ///< the program's name in the title bar
+    MESSAGE_NO_PICTURE = 1         ///< the text in the title bar if there is no picture
 };
 
-/// The text of a message, from the catalogue that was loaded at start; valid until a further load.
+/// Returns a text of the message file, or "message not loaded.". It is valid for the rest of the
+/// program.
 char const* getmsg(e_message_local_t id);
 
-/// The drag of one mouse button. While it is active the button is down, and x and y are the cursor
-/// position already taken into account, in framebuffer pixels from the upper left corner.
+/// A drag with one mouse button.
 struct drag_t {
-    bool active = false;
-    float x = 0.0f;
-    float y = 0.0f;
+    bool active = false;  ///< true if the button is down
+    float x = 0.0f;       ///< last cursor position, in framebuffer pixels from the left
+    float y = 0.0f;       ///< and from the top
 };
 
-/// The viewer. It is constructed before its window exists; the window manager calls `init` once
-/// the window is up and its OpenGL context current, and from then on one operation an event.
-/// Everything runs on the main thread, with the context current. It owns its scene, which may be
-/// destroyed after the windowing library has gone.
+/// The viewer:
 ///
-/// At most one picture is in the scene. A picture that doesn't load is skipped without a word, and
-/// one that OpenGL has no memory for is skipped with a line on the error stream.
+/// ```cpp
+/// #include "app/nativewindow.h"
+/// #include "window/glfwymgr4.h"
+/// char program[] = "viewer", file[] = "a.jpg";
+/// char* argv[] = {program, file, nullptr};
+/// int argc = 2;
+/// zanoview2::native::start();
+/// zanoview2::ViewWindow viewer(&argc, argv);  // creates no window yet
+/// wenk::glfwyMGR4* const manager = wenk::glfwyMGR4::getSingleton();
+/// manager->addWindow(&viewer, "viewer");  // creates the window and calls init()
+/// manager->MainLoop();  // calls the event functions until the user quits
+/// zanoview2::native::stop();
+/// ```
+///
+/// All members run on the main thread. After `init`, the window's OpenGL context must be current,
+/// as it is in the event functions. The viewer may be destroyed after GLFW was terminated.
+///
+/// The scene has at most one picture. A picture that can't be loaded is skipped. One that OpenGL
+/// has no memory for is skipped with a line on the error stream.
 class ViewWindow : public wenk::glutyAPI4 {
   public:
-    /// Reads the message file and the options (built-in values, the user's default file, the
-    /// command line) and makes the list of pictures from the arguments that are left; with none,
-    /// the current directory. Prints the help and ends the process with status 0 under "-h".
+    /// Reads the message file, the user default file and the options of the command line. All other
+    /// arguments are pictures or directories of pictures. Without them, shows the current
+    /// directory. `argv[0]` gives the names of the message file and of the user default file.
+    ///
+    /// After the option "-h", prints the help and ends the process with status 0.
     ViewWindow(int* argc, char** argv);
 
-    // What the window reports.
+    // Events. Positions are in screen coordinates from the window's upper left corner.
     void reshape(int width, int height) override;
     void display() override;
     void keyboard(unsigned char key, int x, int y) override;
@@ -60,81 +76,91 @@ class ViewWindow : public wenk::glutyAPI4 {
     void mousewheel(int wheel, int direction, int x, int y) override;
     void drop(int count, char const** paths) override;
 
-    // The list of pictures.
-    /// Adds a picture, or the pictures of a directory; false when there was nothing to add.
+    // Paging.
+    /// Appends a picture, or the pictures of a directory, to the list. Returns false if there are
+    /// none.
     bool setImagePath(char const* path);
-    /// Empties list and scene.
+    /// Removes all pictures from the list and the scene.
     void clear();
-    /// Puts the first picture that loads into the scene; false when none does.
+    /// Loads the first picture into the scene that can be loaded. Returns false if there is none.
     bool initial_load();
-    /// Pages by `n` entries, in list and scene; false when no picture was taken out of the scene.
+    /// Loads another picture into the scene, by the rules of app/picturelist.h. Return false if the
+    /// scene was left unchanged.
     bool next_image(unsigned long n);
     bool back_image(unsigned long n);
     bool first_image();
     bool last_image();
-    /// Pages and draws the new picture at once.
+    /// Change to another picture, adapt the window to it, and draw it before they return.
     void forward(unsigned long n);
     void backward(unsigned long n);
-    /// Pages and requests a redisplay.
+    /// Change to another picture, adapt the window to it, and request a redisplay.
     void first();
     void last();
-    /// Makes the picture's GL resources anew; the window goes down and up again.
+    /// Creates the picture's GL resources again. Iconifies and restores the window.
     void reload();
-    /// Sets the window's title: path, place and the application's name.
+    /// Sets the window's title to the picture's path, its number and the program's name.
     void update_title();
-    /// "path (place/count)"; empty while there is no picture.
+    /// Returns "path (number/count)", or "" if there is no picture. Numbers count from 1.
     std::string getCurrentTitleName() const;
 
-    // Window and picture adapting to each other, in framebuffer pixels.
-    /// Adapts window and view to a new picture, as the options say. With `resize` false the window
-    /// is left alone.
+    // Sizes, all in framebuffer pixels.
+    /// Adapts the window and the view to a new picture, by the options resetview, reproduce and
+    /// resizetype: to the stored view if there is one (`residue_resume`), otherwise to the
+    /// picture's size (`residue_new`). Changes the window's size only if `resize` is true.
+    ///
+    /// `residue_resume` returns false if there is no stored view. No caller uses the other results.
     bool residue(bool resize);
     bool residue_resume(bool resize);
     bool residue_new(bool resize);
+    /// Returns the result of `limited_window_size` (app/sizing.h) for the window and the options.
     libgr::direction2l_t residue_calc_window_size(libgr::direction2l_t const& target,
                                                   libgr::direction2l_t const& current) const;
+    /// Requests the window size `target`. Adapts the scene if the window has this size already.
     bool residue_set_window_size(libgr::direction2l_t const& target,
                                  libgr::direction2l_t const& current, bool resize);
-    /// Sets the scene up for the window's present size.
+    /// Adapts the scene's projection to the window's size.
     void set_shape();
-    /// Fits the picture into the window.
+    /// Moves the picture to the window's centre without a turn, and fits it into the window.
     void go_center();
-    /// The picture's size as it stands on the screen: turned by the file's orientation.
+    /// Returns the picture's size after its turn by the Exif orientation, or 0, 0.
     libgr::direction2l_t getCurrentImageSize() const;
-    /// Both multiply onto the picture's matrix.
+    /// Multiply the picture's matrix by a scale or by another matrix.
     void setScale(float scale);
     void setMatrix(libgr::matrix3w_t const& matrix);
     libgr::direction2l_t get_window_size() const;
     libgr::matrix3w_t const& getMatrix() const;
 
-    // Commands behind keys. All but menu_edit_writedefault need a picture. A view or a snapshot
-    // that can't be saved is reported with its path and the reason on the error stream. The other
-    // two commands fail without a message.
+    // Commands. The first three do nothing if there is no picture.
+    /// Stores the view in the view state file (app/zvwfile.h). On failure, prints the file's path
+    /// and the reason on the error stream.
     void menu_edit_save_zvwfile();
+    /// Deletes the view state file. Prints nothing on failure.
     void menu_edit_delete_zvwfile();
+    /// Draws the scene and stores it as a JPEG file beside the picture. Failures are printed as for
+    /// the view.
     void menu_file_savejpeg();
+    /// Stores the options in the user default file. Prints nothing on failure.
     void menu_edit_writedefault();
-    /// Moves the picture one step for an arrow key, given by its GLFW number.
+    /// Moves the picture by 10 pixels. `key` is an arrow key's number in GLFW.
     void cursor_move(int key);
-    /// Blows the window up to the monitor's work area, or puts it back.
+    /// Makes the window as large as the monitor's work area, or gives it its old size and position.
     void toggle_work_area();
 
   private:
-    /// The scene as the stage of the list walk.
-    class stage_t;
-
+    class scene_loader_t;
     struct key_row_t;
+    static std::array<key_row_t, 26> const key_rows;
 
-    void serve_key(key_row_t const* begin, key_row_t const* end, int key);
+    void handle_key(int key);
     unsigned long paging_step() const;
     void set_zoom(int digit);
-    void go_to(bool (ViewWindow::*end)());
+    void go_to_end(bool (ViewWindow::*end)());
     bool add_to_scene(std::string const& path);
     void skip(std::string const& path);
-    bool settle(walk_t walk);
+    bool finish_walk(walk_t walk);
     template <typename Step>
     bool change_picture(Step const& step);
-    void announce(std::string const& path) const;
+    void report_picture(std::string const& path) const;
     void load_first_picture();
     template <typename Step>
     void page(Step const& step);
@@ -153,9 +179,9 @@ class ViewWindow : public wenk::glutyAPI4 {
     picture_list_t::iterator current = imagelist.end();
     unsigned long current_index = 0;
     std::set<std::string> skipped;    ///< paths that this walk has reported
-    std::set<std::string> too_large;  ///< paths that the running change of picture has to skip
+    std::set<std::string> too_large;  ///< paths that the current change of picture skips
     unsigned long image_count = 0;
-    libgr::direction2l_t startsize = libgr::datum2l;  ///< the first picture was fitted into it
+    libgr::direction2l_t startsize = libgr::datum2l;  ///< the window's until the first `reshape`
     libgr::direction2l_t oldwinsize = libgr::datum2l;
     libgr::direction2l_t pixelratio = libgr::direction2l(1, 1);
 };

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-// Keys, buttons, wheel and dropped files, each by its table.
+// Handles keys, mouse buttons, the wheel and dropped files.
 #include <algorithm>
 #include <array>
 #include <iostream>
 
 #include "app/nativewindow.h"
 #include "app/viewwindow.h"
-#include "options/option.h"
+#include "options/trace.h"
 #include "window/glfwymgr4.h"
 
 namespace zanoview2 {
 
 namespace {
 
-// The window's size and place from before it was blown up to the work area; a zero width or height
-// means that nothing is kept.
+// The window's size and position before it covered the work area. A width or height of 0 means that
+// they are not known.
 int winwidth = 0;
 int winheight = 0;
 int winx = 0;
@@ -22,6 +22,7 @@ int winy = 0;
 
 constexpr unsigned covering_work_area = 2;  // the bit of the option wintype
 
+// The codes of the keys that have no character. They are GLFW's, and greater than all characters.
 enum special_key_t {
     KEY_INSERT = 260,
     KEY_RIGHT = 262,
@@ -37,19 +38,67 @@ enum special_key_t {
 
 }  // namespace
 
-/// What one key does, and whether the window is to be drawn again after it.
+/// A row of the key table, and the actions that are too long for a row or are used by several rows.
 struct ViewWindow::key_row_t {
-    int first;  ///< the first and the last code of the keys that this row serves
+    using action_t = void (*)(ViewWindow& self, int key);
+
+    static void turn_right(ViewWindow& self, int) { self.scene.Rotate(-5.0f, 0.0f); }
+    static void turn_left(ViewWindow& self, int) { self.scene.Rotate(5.0f, 0.0f); }
+    static void enlarge(ViewWindow& self, int) { self.scene.Zoom(0.25f, 0.0f); }
+    static void shrink(ViewWindow& self, int) { self.scene.Zoom(-0.25f, 0.0f); }
+    static void page_forward(ViewWindow& self, int) { self.forward(self.paging_step()); }
+    static void page_backward(ViewWindow& self, int) { self.backward(self.paging_step()); }
+    static void exit(ViewWindow&, int) { wenk::glfwyMGR4::getSingleton()->Exit(); }
+    static void iconify(ViewWindow& self, int) {
+        native::iconify(self.window());
+        native::restore(self.window());
+    }
+    template <void (ViewWindow::*command)()>
+    static void call(ViewWindow& self, int) {
+        (self.*command)();
+    }
+
+    char const* name;  ///< in the documents; "" for a key that they don't list
+    int first;         ///< the first and the last code of its keys: a character or a special_key_t
     int last;
-    void (*act)(ViewWindow& self, int key);
-    bool redisplay;
+    action_t act;
+    bool redisplay;  ///< true if the window is drawn again after `act`
 };
 
-void ViewWindow::serve_key(key_row_t const* begin, key_row_t const* end, int key) {
-    auto const* const row = std::find_if(begin, end, [key](key_row_t const& candidate) {
-        return candidate.first <= key && key <= candidate.last;
-    });
-    if (row == end) {
+// README.md and the manual page list the same keys. keys_test compares them with this table.
+constinit std::array<ViewWindow::key_row_t, 26> const ViewWindow::key_rows{{
+    {"Backspace", 8, 8, key_row_t::page_backward, false},
+    {"Enter", 13, 13, key_row_t::call<&ViewWindow::go_center>, true},
+    {"Escape", 27, 27, key_row_t::exit, false},
+    {"Space", ' ', ' ', key_row_t::page_forward, false},
+    {"", '*', '*', key_row_t::turn_right, true},  // only the keypad has this key
+    {"-", '-', '-', [](ViewWindow& self, int) { self.scene.clrRotate(); }, true},
+    {"/", '/', '/', key_row_t::turn_left, true},
+    {"0 to 9", '0', '9', [](ViewWindow& self, int digit) { self.set_zoom(digit - '0'); }, true},
+    {"R", 'R', 'R', key_row_t::iconify, false},
+    {"W", 'W', 'W', key_row_t::call<&ViewWindow::menu_edit_writedefault>, false},
+    {"\\", '\\', '\\', key_row_t::turn_right, true},
+    {"d", 'd', 'd', key_row_t::call<&ViewWindow::menu_edit_delete_zvwfile>, false},
+    {"f", 'f', 'f', key_row_t::call<&ViewWindow::toggle_work_area>, true},
+    {"g", 'g', 'g', [](ViewWindow& self, int) { self.scene.toggleSmooth(); }, true},
+    {"q", 'q', 'q', key_row_t::exit, false},
+    {"r", 'r', 'r', key_row_t::call<&ViewWindow::reload>, false},
+    {"s", 's', 's', key_row_t::call<&ViewWindow::menu_file_savejpeg>, false},
+    {"w", 'w', 'w', key_row_t::call<&ViewWindow::menu_edit_save_zvwfile>, false},
+    {"", 127, 127, key_row_t::call<&ViewWindow::menu_edit_delete_zvwfile>, false},  // no GLFW key
+    {"Insert", KEY_INSERT, KEY_INSERT, key_row_t::call<&ViewWindow::menu_edit_save_zvwfile>, false},
+    {"arrows", KEY_RIGHT, KEY_UP, [](ViewWindow& self, int key) { self.cursor_move(key); }, true},
+    {"Page Up", KEY_PAGE_UP, KEY_PAGE_UP, key_row_t::enlarge, true},
+    {"Page Down", KEY_PAGE_DOWN, KEY_PAGE_DOWN, key_row_t::shrink, true},
+    {"Home", KEY_HOME, KEY_HOME, key_row_t::call<&ViewWindow::first>, false},
+    {"End", KEY_END, KEY_END, key_row_t::call<&ViewWindow::last>, false},
+    {"F5", KEY_F5, KEY_F5, key_row_t::call<&ViewWindow::reload>, false},
+}};
+
+void ViewWindow::handle_key(int key) {
+    auto const serves = [key](key_row_t const& row) { return row.first <= key && key <= row.last; };
+    auto const* const row = std::find_if(key_rows.begin(), key_rows.end(), serves);
+    if (row == key_rows.end()) {
         return;
     }
     row->act(*this, key);
@@ -59,53 +108,11 @@ void ViewWindow::serve_key(key_row_t const* begin, key_row_t const* end, int key
 }
 
 void ViewWindow::keyboard(unsigned char key, int, int) {
-    constexpr auto turn_right = [](ViewWindow& self, int) { self.scene.Rotate(-5.0f, 0.0f); };
-    constexpr auto exit = [](ViewWindow&, int) { wenk::glfwyMGR4::getSingleton()->Exit(); };
-    constexpr auto delete_view = [](ViewWindow& self, int) { self.menu_edit_delete_zvwfile(); };
-    static constexpr std::array<key_row_t, 19> rows{{
-        {8, 8, [](ViewWindow& self, int) { self.backward(self.paging_step()); }, false},
-        {13, 13, [](ViewWindow& self, int) { self.go_center(); }, true},
-        {27, 27, exit, false},
-        {' ', ' ', [](ViewWindow& self, int) { self.forward(self.paging_step()); }, false},
-        {'*', '*', turn_right, true},
-        {'-', '-', [](ViewWindow& self, int) { self.scene.clrRotate(); }, true},
-        {'/', '/', [](ViewWindow& self, int) { self.scene.Rotate(5.0f, 0.0f); }, true},
-        {'0', '9', [](ViewWindow& self, int digit) { self.set_zoom(digit - '0'); }, true},
-        {'R', 'R',
-         [](ViewWindow& self, int) {
-             native::iconify(self.window());
-             native::restore(self.window());
-         },
-         false},
-        {'W', 'W', [](ViewWindow& self, int) { self.menu_edit_writedefault(); }, false},
-        {'\\', '\\', turn_right, true},
-        {'d', 'd', delete_view, false},
-        {'f', 'f', [](ViewWindow& self, int) { self.toggle_work_area(); }, true},
-        {'g', 'g', [](ViewWindow& self, int) { self.scene.toggleSmooth(); }, true},
-        {'q', 'q', exit, false},
-        {'r', 'r', [](ViewWindow& self, int) { self.reload(); }, false},
-        {'s', 's', [](ViewWindow& self, int) { self.menu_file_savejpeg(); }, false},
-        {'w', 'w', [](ViewWindow& self, int) { self.menu_edit_save_zvwfile(); }, false},
-        {127, 127, delete_view, false},
-    }};
-    serve_key(rows.data(), rows.data() + rows.size(), key);
+    handle_key(key);
 }
 
 void ViewWindow::specialkey(int key, int, int) {
-    constexpr auto reload_picture = [](ViewWindow& self, int) { self.reload(); };
-    static constexpr std::array<key_row_t, 7> rows{{
-        {KEY_INSERT, KEY_INSERT, [](ViewWindow& self, int) { self.menu_edit_save_zvwfile(); },
-         false},
-        {KEY_RIGHT, KEY_UP, [](ViewWindow& self, int arrow) { self.cursor_move(arrow); }, true},
-        {KEY_PAGE_UP, KEY_PAGE_UP, [](ViewWindow& self, int) { self.scene.Zoom(0.25f, 0.0f); },
-         true},
-        {KEY_PAGE_DOWN, KEY_PAGE_DOWN, [](ViewWindow& self, int) { self.scene.Zoom(-0.25f, 0.0f); },
-         true},
-        {KEY_HOME, KEY_HOME, [](ViewWindow& self, int) { self.first(); }, false},
-        {KEY_END, KEY_END, [](ViewWindow& self, int) { self.last(); }, false},
-        {KEY_F5, KEY_F5, reload_picture, false},
-    }};
-    serve_key(rows.data(), rows.data() + rows.size(), key);
+    handle_key(key);
 }
 
 unsigned long ViewWindow::paging_step() const {
@@ -114,9 +121,7 @@ unsigned long ViewWindow::paging_step() const {
 
 void ViewWindow::set_zoom(int digit) {
     float const value = static_cast<float>(digit) * 0.5f;
-    if (zanolib::g_option.debug) {
-        std::cout << "zoom value: " << value << std::endl;
-    }
+    zanolib::trace(std::cout, "zoom value: ", value);
     scene.clrZoom();
     scene.Zoom(-value, 0.0f);
 }
@@ -178,9 +183,7 @@ void ViewWindow::toggle_work_area() {
 void ViewWindow::mouse(int button, int state, int x, int y) {
     int const px = x * pixelratio.x;
     int const py = y * pixelratio.y;
-    if (zanolib::g_option.debug) {
-        std::cout << "mouse: button=" << button << ", state=" << state << std::endl;
-    }
+    zanolib::trace(std::cout, "mouse: button=", button, ", state=", state);
     std::array<drag_t*, 3> const drags{&move_drag, &zoom_drag, &rotate_drag};
     if (button < 0 || button >= static_cast<int>(drags.size())) {
         return;
@@ -199,7 +202,7 @@ void ViewWindow::motion(int x, int y) {
     }
     auto const px = static_cast<float>(x * pixelratio.x);
     auto const py = static_cast<float>(y * pixelratio.y);
-    auto const serve = [&](drag_t& drag, auto&& act) {
+    auto const follow = [&](drag_t& drag, auto&& act) {
         if (drag.active) {
             act(px - drag.x, py - drag.y);
             drag.x = px;
@@ -207,20 +210,18 @@ void ViewWindow::motion(int x, int y) {
             request_redisplay();
         }
     };
-    // The window's y axis points down, the scene's up.
-    serve(move_drag,
-          [this](float dx, float dy) { scene.Move(libgr::direction3(dx, -dy, 0.0f), 0.0f); });
-    serve(zoom_drag, [this](float, float dy) { scene.Zoom(dy * -0.01f, 0.0f); });
-    serve(rotate_drag, [this](float dx, float) { scene.Rotate(dx * 0.25f, 0.0f); });
+    // The window's y axis points down, and the scene's points up.
+    follow(move_drag,
+           [this](float dx, float dy) { scene.Move(libgr::direction3(dx, -dy, 0.0f), 0.0f); });
+    follow(zoom_drag, [this](float, float dy) { scene.Zoom(dy * -0.01f, 0.0f); });
+    follow(rotate_drag, [this](float dx, float) { scene.Rotate(dx * 0.25f, 0.0f); });
 }
 
 void ViewWindow::mousewheel(int wheel, int direction, int, int) {
     if (wheel != 0) {
         return;
     }
-    if (zanolib::g_option.debug) {
-        std::cout << "wheel: number=" << wheel << ", direction=" << direction << std::endl;
-    }
+    zanolib::trace(std::cout, "wheel: number=", wheel, ", direction=", direction);
     if (direction == 1 || direction == -1) {
         scene.Zoom(static_cast<float>(direction) * -0.25f, 0.0f);
         request_redisplay();

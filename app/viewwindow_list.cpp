@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The list of pictures as the window pages through it.
+// Paging: the list of pictures, the scene and the title.
 #include <iostream>
 #include <sstream>
 
 #include "app/nativewindow.h"
 #include "app/viewwindow.h"
 #include "options/message.h"
-#include "options/option.h"
+#include "options/trace.h"
 #include "utils/allocator.h"
 #include "utils/diagnostics.h"
 #include "window/glfwymgr4.h"
 
 namespace zanoview2 {
 
-class ViewWindow::stage_t final : public picture_stage_t {
+class ViewWindow::scene_loader_t final : public picture_loader_t {
   public:
-    explicit stage_t(ViewWindow& owner) : m_owner(owner) {}
+    explicit scene_loader_t(ViewWindow& owner) : m_owner(owner) {}
 
-    bool add(std::string const& path) override { return m_owner.add_to_scene(path); }
-    void remove() override { m_owner.scene.delImage(); }
+    bool load(std::string const& path) override { return m_owner.add_to_scene(path); }
+    void unload() override { m_owner.scene.delImage(); }
 
   private:
     ViewWindow& m_owner;
@@ -32,10 +32,8 @@ bool ViewWindow::setImagePath(char const* path) {
     return true;
 }
 
-void ViewWindow::announce(std::string const& path) const {
-    if (zanolib::g_option.verbose) {
-        std::cout << "\ndisplay image: " << libutils::putname(path) << std::endl;
-    }
+void ViewWindow::report_picture(std::string const& path) const {
+    zanolib::report("\ndisplay image: ", libutils::putname(path));
 }
 
 /// Reports a picture that a walk skips. A walk may try a picture twice.
@@ -58,28 +56,28 @@ bool ViewWindow::add_to_scene(std::string const& path) {
 }
 
 bool ViewWindow::initial_load() {
-    stage_t stage(*this);
+    scene_loader_t loader(*this);
     picture_place_t place{};
     image_count = imagelist.size();
-    bool const loaded = walk_initial(imagelist, place, stage);
+    bool const loaded = walk_initial(imagelist, place, loader);
     current = place.entry;
     current_index = place.index;
     if (loaded) {
-        announce(*current);
+        report_picture(*current);
     }
     return loaded;
 }
 
-/// Ends a walk: where nothing loaded, the old picture comes back.
-bool ViewWindow::settle(walk_t walk) {
-    if (walk == walk_t::refused) {
+/// Loads the old picture again if a walk found no other. Returns false if the walk didn't move.
+bool ViewWindow::finish_walk(walk_t walk) {
+    if (walk == walk_t::no_move) {
         return false;
     }
     if (current == imagelist.end()) {
         return true;
     }
-    announce(*current);
-    if (walk == walk_t::stranded) {
+    report_picture(*current);
+    if (walk == walk_t::nothing_loads) {
         add_to_scene(*current);
     }
     return true;
@@ -87,7 +85,7 @@ bool ViewWindow::settle(walk_t walk) {
 
 namespace {
 
-/// Walks with the window's place in the list, which follows only a walk that moved.
+/// Calls `walk` with the window's place in the list.
 template <typename Walk>
 walk_t walk_from(picture_list_t::iterator& current, unsigned long& index, Walk walk) {
     picture_place_t place{current, index};
@@ -100,36 +98,36 @@ walk_t walk_from(picture_list_t::iterator& current, unsigned long& index, Walk w
 }  // namespace
 
 bool ViewWindow::next_image(unsigned long n) {
-    stage_t stage(*this);
-    return settle(walk_from(current, current_index, [&](picture_place_t& place) {
-        return walk_forward(imagelist, place, n, stage);
+    scene_loader_t loader(*this);
+    return finish_walk(walk_from(current, current_index, [&](picture_place_t& place) {
+        return walk_forward(imagelist, place, n, loader);
     }));
 }
 
 bool ViewWindow::back_image(unsigned long n) {
-    stage_t stage(*this);
-    return settle(walk_from(current, current_index, [&](picture_place_t& place) {
-        return walk_backward(imagelist, place, n, stage);
+    scene_loader_t loader(*this);
+    return finish_walk(walk_from(current, current_index, [&](picture_place_t& place) {
+        return walk_backward(imagelist, place, n, loader);
     }));
 }
 
 bool ViewWindow::first_image() {
-    stage_t stage(*this);
-    return settle(walk_from(current, current_index, [&](picture_place_t& place) {
-        return walk_first(imagelist, place, stage);
+    scene_loader_t loader(*this);
+    return finish_walk(walk_from(current, current_index, [&](picture_place_t& place) {
+        return walk_first(imagelist, place, loader);
     }));
 }
 
 bool ViewWindow::last_image() {
-    stage_t stage(*this);
-    return settle(walk_from(current, current_index, [&](picture_place_t& place) {
-        return walk_last(imagelist, place, stage);
+    scene_loader_t loader(*this);
+    return finish_walk(walk_from(current, current_index, [&](picture_place_t& place) {
+        return walk_last(imagelist, place, loader);
     }));
 }
 
-/// Puts the picture that `step` leads to into the scene, adapts window and title to it and makes
-/// its GL resources. If there is no memory for them, starts again without that picture. Returns
-/// false if `step` does.
+/// Calls `step`, which loads another picture into the scene. Then adapts the window and the title
+/// to it, and makes its GL resources. If there is no memory for them, does all this again without
+/// that picture. Returns false if `step` does.
 template <typename Step>
 bool ViewWindow::change_picture(Step const& step) {
     picture_place_t const start{current, current_index};
@@ -159,7 +157,7 @@ void ViewWindow::load_first_picture() {
     change_picture([this] { return initial_load(); });
 }
 
-/// Pages by `step`; the picture is on the screen when it returns.
+/// Changes to the picture that `step` loads, and shows it at once.
 template <typename Step>
 void ViewWindow::page(Step const& step) {
     bool const changed = change_picture([&] {
@@ -184,8 +182,8 @@ void ViewWindow::backward(unsigned long n) {
     page([=, this] { return back_image(n); });
 }
 
-/// Goes to an end of the list and has the picture there drawn with the next pass of the loop.
-void ViewWindow::go_to(bool (ViewWindow::*end)()) {
+/// Goes to an end of the list, and requests a redisplay.
+void ViewWindow::go_to_end(bool (ViewWindow::*end)()) {
     change_picture([=, this] {
         scene.free_graph();
         (this->*end)();
@@ -196,11 +194,11 @@ void ViewWindow::go_to(bool (ViewWindow::*end)()) {
 }
 
 void ViewWindow::first() {
-    go_to(&ViewWindow::first_image);
+    go_to_end(&ViewWindow::first_image);
 }
 
 void ViewWindow::last() {
-    go_to(&ViewWindow::last_image);
+    go_to_end(&ViewWindow::last_image);
 }
 
 void ViewWindow::reload() {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How window and picture adapt to each other at a change of picture and at a resize.
+// Adapts the window and the picture to each other.
 #include <iostream>
 #include <optional>
 #include <utility>
@@ -9,7 +9,7 @@
 #include "app/viewwindow.h"
 #include "app/zvwfile.h"
 #include "geometry/textstream.h"
-#include "options/option.h"
+#include "options/trace.h"
 
 namespace zanoview2 {
 
@@ -61,12 +61,9 @@ bool ViewWindow::residue_resume(bool resize) {
 bool ViewWindow::residue_new(bool resize) {
     switch (zanolib::g_option.resizetype) {
         case RESIZE_WINDOW: {
-            // The stored size, not the one on the screen: a turned picture gets the window of the
-            // unturned one.
+            // The size in the file, before the turn by the Exif orientation.
             libgr::direction2l_t const img = scene.getCurrentImageSize();
-            if (zanolib::g_option.verbose) {
-                std::cout << "imagesize: " << img << std::endl;
-            }
+            zanolib::report("imagesize: ", img);
             libgr::direction2l_t const target =
                 wanted_window_size(img, zanolib::g_option.window_ratio_of_image);
             if (!(target != 0)) {
@@ -93,16 +90,14 @@ libgr::direction2l_t ViewWindow::residue_calc_window_size(
 
 bool ViewWindow::residue_set_window_size(libgr::direction2l_t const& target,
                                          libgr::direction2l_t const& present, bool resize) {
-    if (zanolib::g_option.verbose) {
-        std::cout << "set window size to: " << target << std::endl;
-    }
-    if (!(native::possible_window_size(target) != present)) {
+    zanolib::report("set window size to: ", target);
+    if (!(native::clamped_window_size(target) != present)) {
         set_shape();
         return false;
     }
     if (resize) {
-        // Pixels where the windowing library expects screen coordinates: on a display with two
-        // pixels a coordinate the window comes out at double the size.
+        // The size is in pixels, but GLFW takes screen coordinates. The window becomes twice as
+        // large on a display with two pixels for each screen coordinate.
         native::set_window_size(window(), target);
     }
     return true;
@@ -148,26 +143,21 @@ void ViewWindow::reshape(int width, int height) {
     }
     scene.Reshape(static_cast<unsigned long>(size.x), static_cast<unsigned long>(size.y));
     if (!(oldwinsize != 0)) {
-        if (zanolib::g_option.debug) {
-            std::cout << "oldwinsize is ZERO." << std::endl;
-        }
-        // The window manager granted the start size after the first picture was fitted.
-        if (zanolib::g_option.resizetype == RESIZE_IMAGE && size != 0 && size != startsize) {
+        zanolib::trace(std::cout, "oldwinsize is ZERO.");
+        // A window manager may change the start size after the first picture was fitted.
+        if (zanolib::g_option.resizetype == RESIZE_IMAGE && size != 0 && startsize != 0 &&
+            size != startsize) {
             residue(false);
         }
     } else if (zanolib::g_option.resizetype == RESIZE_IMAGE) {
-        // Only the height counts: a window that grows wider shows more of what is beside the
-        // picture.
+        // The picture's scale depends on the height only. A wider window has more room beside it.
         float const scale = reshaping_scale(size.y, oldwinsize.y);
-        if (zanolib::g_option.debug) {
-            std::cout << "re-shape scale factor is " << scale << std::endl;
-        }
+        zanolib::trace(std::cout, "re-shape scale factor is ", scale);
         scene.Scale(scale, 0.0f);
     }
     oldwinsize = size;
-    if (zanolib::g_option.debug) {
-        std::cout << "newwinsize is " << oldwinsize << std::endl;
-    }
+    startsize = libgr::datum2l;  // a window that loses its size later keeps the view
+    zanolib::trace(std::cout, "newwinsize is ", oldwinsize);
 }
 
 }  // namespace zanoview2

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads the property that window managers set on the windows that they manage.
+// Detects a window manager by a property that it sets on its windows.
 #include "app/windowmanager.h"
 
 #include <X11/Xlib.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reading, writing and removing view state files.
+// Reads, writes and deletes view state files.
 #include "app/zvwfile.h"
 
 #include <unistd.h>
@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "geometry/textstream.h"
-#include "options/option.h"
+#include "options/trace.h"
 #include "utils/diagnostics.h"
 #include "utils/path.h"
 #include "utils/replacefile.h"
@@ -30,12 +30,8 @@ bool zvwfile_t::load(char const* picture) {
     }
     std::istringstream text(std::string(buffer.begin(), buffer.end()));
     text >> size >> matrix;
-    if (zanolib::g_option.debug) {
-        std::cout << size << std::endl;
-    }
-    if (zanolib::g_option.verbose) {
-        std::cout << libutils::putname(path) << ": zvwfile loaded." << std::endl;
-    }
+    zanolib::trace(std::cout, size);
+    zanolib::report(libutils::putname(path), ": zvwfile loaded.");
     return true;
 }
 
@@ -44,15 +40,13 @@ bool zvwfile_t::save(char const* picture) const {
     std::ostringstream text;
     text << size << '\n' << matrix << '\n';
     if (!text) {
-        errno = ENOMEM;  // a stream catches the exception of its allocation
+        errno = ENOMEM;  // the stream caught std::bad_alloc
         return false;
     }
     if (!libutils::replace_file(path, text.view())) {
         return false;
     }
-    if (zanolib::g_option.verbose) {
-        std::cout << libutils::putname(path) << ": zvwfile saved." << std::endl;
-    }
+    zanolib::report(libutils::putname(path), ": zvwfile saved.");
     return true;
 }
 

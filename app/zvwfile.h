@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The view state file: how a picture was viewed, in a small text file beside it.
+// The view state file, which stores how a picture was viewed.
 #pragma once
 
 #include <string>
@@ -10,24 +10,27 @@
 
 namespace zanoview2 {
 
-/// The path of a picture's view state file, which ends in ".zvw"; see libutils::path_beside.
-/// Pictures of one directory that differ only in their extension share one file.
+/// Returns the path of a picture's view state file: the picture's path with ".zvw" in place of its
+/// extension (see `libutils::path_beside` in utils/path.h). Pictures of one directory whose names
+/// differ only in the extension share one file.
 std::string make_zvwpath(char const* picture);
 
-/// A stored view. The file holds two values in their text form, `dir2l` and `mtx3w`, in five lines;
-/// what stands around the numbers is not looked at when it is read.
+/// The view of a picture.
+///
+/// Its file has five lines with two values in the text form of geometry/textstream.h, `dir2l` and
+/// `mtx3w`. Reading uses only the numbers.
 struct zvwfile_t {
-    libgr::direction2l_t size = libgr::datum2l;  ///< the framebuffer when the view was stored
-    libgr::matrix3w_t matrix = libgr::Imtx;      ///< the picture's view matrix
+    libgr::direction2l_t size = libgr::datum2l;  ///< size of the framebuffer, in pixels
+    libgr::matrix3w_t matrix = libgr::Imtx;      ///< the view matrix
 
-    /// Reads the file beside `picture`. False, with the record untouched, when it can't be opened,
-    /// is no plain file or is too long for one; true otherwise, also when its content is damaged: a
-    /// value that can't be read stays as it is.
+    /// Reads the view state file of `picture`. Returns false, with unchanged members, if it can't
+    /// be opened, isn't a regular file or has more than 1 MiB. Values that can't be read don't
+    /// change, and are not an error.
     bool load(char const* picture);
-    /// Writes the file beside `picture`, replacing it. Returns false and sets errno on failure, and
-    /// then an old file is unchanged.
+    /// Replaces the view state file of `picture`. Returns false and sets errno on failure, and then
+    /// an existing file doesn't change.
     bool save(char const* picture) const;
-    /// Removes the file beside `picture`; false when it couldn't be removed.
+    /// Deletes the view state file of `picture`. Returns false on failure.
     bool del(char const* picture) const;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The command line: how an option's text becomes the value of its field.
+// Parses options and their values.
 #include <strings.h>
 
 #include <algorithm>
@@ -7,6 +7,7 @@
 #include <iostream>
 
 #include "options/optionrow.h"
+#include "options/trace.h"
 
 namespace zanolib {
 
@@ -21,12 +22,13 @@ void set_field(option_entity_t const& row, T value) {
     *static_cast<T*>(row.target) = value;
 }
 
-/// A list of numbers with any one character between two of them.
+/// Reads a list of numbers that are separated by one character each, which can be any.
 class number_list_t {
   public:
     explicit number_list_t(char const* text) : m_next(text) {}
 
-    /// Reads the next number, 0 when the text has none there. False behind the text's end.
+    /// Reads the next number, or 0 if the text has none at this place. Returns false at the text's
+    /// end.
     bool read(long& number) {
         if (!m_is_first) {
             if (m_next[0] == '\0') {
@@ -46,22 +48,20 @@ class number_list_t {
     bool m_is_first = true;
 };
 
-/// Sets a flag by what stands behind its name; false when that makes it no flag.
-bool set_flag(option_entity_t const& row, char const* behind) {
-    bool const is_bare = behind[0] == '\0';
-    bool const has_sign = (behind[0] == '+' || behind[0] == '-') && behind[1] == '\0';
+/// Sets a flag by the text after its name. Returns false if the text is not "", "+" or "-".
+bool set_flag(option_entity_t const& row, char const* suffix) {
+    bool const is_bare = suffix[0] == '\0';
+    bool const has_sign = (suffix[0] == '+' || suffix[0] == '-') && suffix[1] == '\0';
     if (!is_bare && !has_sign) {
         return false;
     }
-    set_field(row, behind[0] != '-');
-    if (g_option.debug) {
-        char const* const state = is_bare ? " is set." : behind[0] == '+' ? " is '+'." : " is '-'.";
-        std::cerr << "option " << row.name << state << std::endl;
-    }
+    set_field(row, suffix[0] != '-');
+    char const* const state = is_bare ? " is set." : suffix[0] == '+' ? " is '+'." : " is '-'.";
+    trace(std::cerr, "option ", row.name, state);
     return true;
 }
 
-// The fields have 32 bits: of wider numbers the low bits count.
+// The fields have 32 bits. Wider numbers are cut to their low bits.
 
 void set_pair(option_entity_t const& row, char const* text) {
     number_list_t numbers(text);
@@ -98,7 +98,7 @@ void set_value(option_entity_t const& row, char const* text) {
             set_field(row, static_cast<std::uint32_t>(std::strtol(text, nullptr, 0)));
             break;
         case OPTION_TYPE_PERCENT: {
-            // The bits of the float, not its value: the user default file holds them, too.
+            // The number is the float's bits. Existing user default files depend on this form.
             auto const bits = static_cast<std::uint32_t>(std::strtoul(text, nullptr, 0));
             std::memcpy(row.target, &bits, sizeof bits);
             break;
@@ -121,7 +121,7 @@ void set_value(option_entity_t const& row, char const* text) {
     }
 }
 
-/// Steps over the leading options and moves what is left to the front.
+/// Applies the leading options, and moves the elements after them to the front.
 void option_parse_argument(int* count, char*** arguments) {
     if (*count <= 0) {
         return;
@@ -130,7 +130,7 @@ void option_parse_argument(int* count, char*** arguments) {
     char** const end = begin + *count;
     char** next = begin;
     while (next != end) {
-        // Behind the last element there need not be a null.
+        // The array need not end in a null pointer.
         char const* option[] = {next[0], end - next > 1 ? next[1] : nullptr};
         int const used = option_each_analyze(option);
         if (used == no_match) {
@@ -155,12 +155,12 @@ int option_each_analyze(char const** arguments) {
         if (strncasecmp(text + 1, row.name, row.length) != 0) {
             continue;
         }
-        char const* const behind = text + 1 + row.length;
+        char const* const suffix = text + 1 + row.length;
         if (row.type == OPTION_TYPE_BOOL) {
-            if (set_flag(row, behind)) {
+            if (set_flag(row, suffix)) {
                 return flag_elements;
             }
-        } else if (behind[0] == '\0') {
+        } else if (suffix[0] == '\0') {
             if (arguments[1] != nullptr) {
                 set_value(row, arguments[1]);
             }
@@ -172,7 +172,7 @@ int option_each_analyze(char const** arguments) {
 
 void option_enter_argument(int* argc, char*** argv) {
     option_init_once();
-    // The user default file must not bring the help up.
+    // Only the command line can ask for the help, not the user default file.
     g_option.h = false;
     int count = *argc - 1;
     char** arguments = *argv + 1;

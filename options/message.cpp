@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The search for the message file, and its lines.
+// Finds the message file and splits it into lines.
 #include "options/message.h"
 
 #include <algorithm>
@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "options/option.h"
+#include "options/trace.h"
 #include "utils/diagnostics.h"
 #include "utils/path.h"
 #include "utils/smallfile.h"
@@ -28,8 +29,8 @@ unsigned long count_lines(std::vector<char> const& buffer) {
     return static_cast<unsigned long>(std::count(buffer.begin(), buffer.end(), '\n'));
 }
 
-/// Ends each line with a NUL, in place of CR, LF or CR LF. A lone CR ends a line that `lines` does
-/// not count, so that the last lines are then missing.
+/// Splits the text into `lines` lines, and replaces their ends with NULs. A CR without an LF ends a
+/// line, too, but `lines` is the number of LFs. The last lines of a text with lone CRs are missing.
 void make_message_table(std::vector<char const*>& table, std::vector<char>& buffer,
                         unsigned long lines) {
     table.resize(lines);
@@ -46,8 +47,8 @@ void make_message_table(std::vector<char const*>& table, std::vector<char>& buff
     }
 }
 
-/// Tries the working directory, then the program's directory or, when it is empty, the search along
-/// PATH, then the site directory. True with the file's path; else `path` is the one last tried.
+/// Loads the file from the working directory, from `dir` (from PATH if it is empty) or from the
+/// site directory. On failure, `path` is the last path that was tried.
 bool load_from_places(std::string& path, std::string const& name, std::string const& dir) {
     path = name;
     if (load_message(s_msgbuf, path.c_str())) {
@@ -55,18 +56,14 @@ bool load_from_places(std::string& path, std::string const& name, std::string co
     }
     if (dir.empty()) {
         path = libutils::searchpath(name, nullptr);
-        if (g_option.debug) {
-            std::cout << libutils::putname(dir) << ": dirpath." << std::endl;
-        }
+        trace(std::cout, libutils::putname(dir), ": dirpath.");
     } else {
         path = dir + name;
     }
     if (load_message(s_msgbuf, path.c_str())) {
         return true;
     }
-    if (g_option.debug) {
-        std::cout << libutils::putname(path) << ": warning can't load message file." << std::endl;
-    }
+    trace(std::cout, libutils::putname(path), ": warning can't load message file.");
     path = site_directory + name;
     return load_message(s_msgbuf, path.c_str());
 }
@@ -77,9 +74,7 @@ std::string init_message(char const* dir, char const* prog) {
     std::setlocale(LC_ALL, "");
     char const* const lang = std::getenv("LANG");
     std::string const suffix = lang != nullptr ? std::string(".") + lang : "";
-    if (g_option.debug) {
-        std::cerr << "init_message() entering." << std::endl;
-    }
+    trace(std::cerr, "init_message() entering.");
     s_tablebuf.clear();
     std::string path;
     if (!load_from_places(path, prog + suffix + ".msg", dir)) {
@@ -93,13 +88,9 @@ std::string init_message(char const* dir, char const* prog) {
             return "";
         }
     }
-    if (g_option.debug) {
-        std::cerr << "path: " << libutils::putname(path) << std::endl;
-    }
+    trace(std::cerr, "path: ", libutils::putname(path));
     make_message_table(s_tablebuf, s_msgbuf, count_lines(s_msgbuf));
-    if (g_option.debug) {
-        std::cerr << "init_message() leaving." << std::endl;
-    }
+    trace(std::cerr, "init_message() leaving.");
     return path;
 }
 

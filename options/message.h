@@ -1,26 +1,41 @@
 // SPDX-License-Identifier: MIT
-// The texts that depend on the language: lines of a file beside the program, by line number.
+// Texts in the user's language, from a message file.
 #pragma once
 
 #include <string>
 
+/// Loads "viewer.<LANG>.msg" or "viewer.msg", and reads its first line:
+///
+/// ```cpp
+/// std::string const file = zanolib::init_message("/usr/bin/", "viewer");
+/// char const* const name = zanolib::getmsg(zanolib::e_message_t{0});
+/// std::string const title = zanolib::make_title("a.jpg", name);  // "a.jpg - <name>"
+/// ```
+///
+/// A message file is plain text in UTF-8, one message a line, at most 1 MiB. Lines end in LF or CR
+/// LF. The last line needs a line end, too. Everything here is for one thread.
 namespace zanolib {
 
-/// A line of the message file, counted from 0.
+/// The number of a line in the message file. The first line has the number 0.
 enum e_message_t : unsigned {};
 
-/// Loads "<prog>.<LANG>.msg", or else "<prog>.msg", from the working directory, from `dir` (which
-/// ends in its separator; when it is empty, by a search along PATH) or from the site directory.
-/// Sets the locale from the environment. Returns the path of the file that was loaded; without one,
-/// a line on the error stream and the empty string.
+/// Loads a message file. Sets the locale from the environment.
+///
+/// Searches for "<prog>.<LANG>.msg", with the value of the variable LANG, and then for
+/// "<prog>.msg". Each is searched for in the working directory, in `dir` and in `site_directory`
+/// (options/option.h). `dir` ends in a slash. If it is empty, the directories of PATH are searched
+/// in its place.
+///
+/// Returns the path of the file. If there is none, prints an error line and returns "".
 std::string init_message(char const* dir, char const* prog);
 
-/// Line `id` of the loaded file, without its line end, or "message not loaded." when there is none.
-/// Valid until a further load.
+/// Returns a line of the loaded file without its line end, or "message not loaded." if the file has
+/// fewer lines. The text is valid until the next call of `init_message`.
 char const* getmsg(e_message_t id);
 
-/// The form of the window's title: `a`, " - ", `b`.
+/// Returns the title of a window: `a`, " - " and `b`.
 std::string make_title(char const* a, char const* b);
+/// Stores the same title in `out`.
 void make_title2(std::string& out, char const* a, char const* b);
 
 }  // namespace zanolib

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The settings, their table, and the help that lists it.
+// The option table and the help.
 #include "options/option.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ constexpr option_value_t pair(std::int32_t x, std::int32_t y) {
     return {.number = 0, .real = 0.0f, .pair = {x, y}, .spare = 0};
 }
 
-/// The help's column of formats, by `e_option_type_t`. One of them is wider than the column.
+/// The help's column of formats, by `e_option_type_t`. The third one is too wide by a character.
 constexpr std::array<char const*, 7> format_texts = {
     " bool   ", " enum   ", " percent  ", " ulong  ", " float  ", " XXXxYYY", " R,G,B  ",
 };

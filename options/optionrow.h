@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the folder's own files do with one option.
+// Parses, reads and prepares single rows of the option table; private to options/.
 #pragma once
 
 #include <cstring>
@@ -8,15 +8,17 @@
 
 namespace zanolib {
 
-/// Applies the option `arguments[0]` with its value `arguments[1]`, which is null when there is
-/// none; the field then stays as it was. Returns how many elements belong to the option: 0 when it
-/// is none, 1 for a flag, else 2. The table's lengths must be filled.
+/// Applies the option `arguments[0]` with the value `arguments[1]`. Without a value, which is then
+/// a null pointer, the setting doesn't change.
+///
+/// Returns the number of elements that the option takes: 1 for a flag, 2 for other options, and 0
+/// if the text is not an option. Call `option_init` or `option_init_once` first.
 int option_each_analyze(char const** arguments);
 
-/// Fills the lengths of all rows where nobody has yet.
+/// Calls `option_init` if no call has been made yet.
 void option_init_once();
 
-/// The field of a row, read as a value of its type.
+/// Returns the setting of a row. `T` is the C++ type of its field in option_t.
 template <typename T>
 T option_field(option_entity_t const& row) {
     T value;

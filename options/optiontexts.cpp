@@ -13,7 +13,7 @@ namespace {
 
 using row_t = zanolib::option_entity_t;
 
-/// The form of an option's value, by `e_option_type_t`. A capital letter stands for a number.
+/// The form of an option's value, by `e_option_type_t`. A capital letter is a placeholder.
 constexpr std::array<char const*, 7> value_forms = {"",      "N",   "BITS",   "N",
                                                     "FLOAT", "XxY", "R,G,B,A"};
 
@@ -21,7 +21,7 @@ bool is_flag(row_t const& row) {
     return row.type == zanolib::OPTION_TYPE_BOOL;
 }
 
-/// Returns the built-in value as the command line takes it. A flag's is "on" or "off".
+/// Returns the built-in value in the form of the command line, or "on" or "off" for a flag.
 std::string built_in(row_t const& row) {
     using zanolib::option_field;
     std::ostringstream out;
@@ -88,8 +88,8 @@ void put_man(std::ostream& out, row_t const& row) {
     out << ".\n";
 }
 
-// The completions offer an option's built-in value, which shows the value's form. A flag is offered
-// by its name, and with "-" after it.
+// The completions offer an option's built-in value, which shows the form of its values. They offer
+// a flag with and without "-" after its name.
 
 void put_bash(std::ostream& out, row_t const& row) {
     out << "        [-" << row.name << "]=" << (is_flag(row) ? "" : built_in(row)) << "\n";
@@ -184,7 +184,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (present != text) {
-        std::cerr << argv[3] << ": differs from what the option table makes; make it again with "
+        std::cerr << argv[3] << ": is not up to date with the option table; to write it again, run "
                   << argv[0] << " " << argv[1] << " " << argv[2] << " > " << argv[3] << "\n";
         return 1;
     }

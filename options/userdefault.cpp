@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user default file: all options, one a line, in the form of the command line.
+// Reads and writes the user default file.
 #include "options/userdefault.h"
 
 #include <strings.h>
@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "options/optionrow.h"
+#include "options/trace.h"
 #include "utils/diagnostics.h"
 #include "utils/replacefile.h"
 #include "utils/smallfile.h"
@@ -31,8 +32,8 @@ std::string user_default_path(char const* prog, char const* dir) {
     return path + "." + prog;
 }
 
-/// Returns true if `words` is the colour option with a value that doesn't begin with a number, as
-/// `option_save` writes it.
+/// Returns true if `words` is the colour option with a value that doesn't start with a number.
+/// `option_save` writes colours in this form.
 bool is_saved_color(std::vector<char const*> const& words) {
     auto const is_named = [&](option_entity_t const& row) {
         return row.type == OPTION_TYPE_COLOR && words[0][0] == '-' &&
@@ -57,14 +58,14 @@ void apply_line(std::string line) {
     std::vector<char const*> arguments;
     libutils::makecharptrarray(arguments, tokens);
     if (is_saved_color(arguments)) {
-        // A NUL or a blank among the saved bytes cuts the value short. All four must become 0.
+        // A NUL or a blank among the four bytes cuts the value, but all four must become 0.
         arguments[1] = "0,0,0,0";
     }
-    arguments.push_back(nullptr);  // an option alone on its line has no value
+    arguments.push_back(nullptr);  // in place of the value, for a line with only a name
     option_each_analyze(arguments.data());
 }
 
-/// Writes what stands behind the name: a sign for a flag, else a blank and the value.
+/// Writes the text after the name: a sign for a flag, otherwise a blank and the value.
 void put_value(std::ostream& out, option_entity_t const& row) {
     switch (row.type) {
         case OPTION_TYPE_BOOL:
@@ -86,8 +87,7 @@ void put_value(std::ostream& out, option_entity_t const& row) {
             break;
         }
         case OPTION_TYPE_COLOR: {
-            // As characters, which the parser doesn't take for numbers: a saved colour comes back
-            // as 0,0,0,0.
+            // Raw characters, not numbers. Reading them back gives 0,0,0,0.
             auto const color = option_field<libgr::color3aub_t>(row);
             out << " " << color.r << "," << color.g << "," << color.b << "," << color.a;
             break;
@@ -100,22 +100,15 @@ void put_value(std::ostream& out, option_entity_t const& row) {
 void option_load_user_default(char const* prog, char const* dir) {
     option_init_once();
     std::string const path = user_default_path(prog, dir);
-    if (g_option.verbose) {
-        std::cout << "load user default: " << libutils::putname(path) << std::endl;
-    }
+    report("load user default: ", libutils::putname(path));
     option_load(path.c_str());
 }
 
 void option_save_user_default(char const* prog, char const* dir) {
-    if (g_option.debug) {
-        std::cout << "prog: " << libutils::putname(prog) << ", dir: " << libutils::putname(dir)
-                  << std::endl;
-    }
+    trace(std::cout, "prog: ", libutils::putname(prog), ", dir: ", libutils::putname(dir));
     option_init_once();
     std::string const path = user_default_path(prog, dir);
-    if (g_option.verbose) {
-        std::cout << "save user default: " << libutils::putname(path) << std::endl;
-    }
+    report("save user default: ", libutils::putname(path));
     option_save(path.c_str());
 }
 
@@ -139,8 +132,8 @@ bool option_save(char const* path) {
         put_value(text, row);
         text << "\n";
     }
-    // A stream that ran out of memory would cut the text. A file that can't be written is not
-    // reported. A link is kept, since users keep the files of their home directory elsewhere.
+    // The text is incomplete if the stream ran out of memory. Links are kept, since some users keep
+    // the files of their home directory elsewhere.
     if (text) {
         libutils::replace_file(libutils::follow_links(path), text.view());
     }

@@ -1,22 +1,25 @@
 // SPDX-License-Identifier: MIT
-// The user default file: all options, one a line, in the form of the command line.
+// Reads and writes the user default file, which has one option a line.
 #pragma once
 
 namespace zanolib {
 
-/// Reads "$HOME/.<prog>" into `g_option`, or "<dir>.<prog>" when HOME isn't set, `dir` ending in
-/// its separator. A missing file is silent.
+/// Reads the user default file into `g_option`. The file is "$HOME/.<prog>", or "<dir>/.<prog>" if
+/// HOME isn't set. Nothing is printed if there is no file.
 void option_load_user_default(char const* prog, char const* dir);
 
-/// Writes the options in force to the same file, replacing it. A failure is silent.
+/// Replaces the same file with the current settings. Nothing is printed on failure. A symbolic link
+/// is kept, and the file that it leads to is replaced.
 void option_save_user_default(char const* prog, char const* dir);
 
-/// Applies the first option of each line to `g_option`; other lines are ignored. True also when
-/// there is no such file, false when it is too long for a file of options (above 1 MiB).
+/// Applies the first option of each line to `g_option`. Ignores lines without an option. Returns
+/// false only if the file has more than 1 MiB, and true if it can't be opened.
 bool option_load(char const* path);
 
-/// Writes one line for each row of the option table. Each of the four bytes of a colour is written
-/// as one raw character, which doesn't read back. True also when the file can't be created.
+/// Writes one line for each row of the option table. Always returns true, also on failure.
+///
+/// The four bytes of a colour are written as raw characters, which `option_load` reads as 0,0,0,0.
+/// Existing files depend on this form.
 bool option_save(char const* path);
 
 }  // namespace zanolib

@@ -7,7 +7,7 @@
 #include <new>
 
 #include "image/pixelconvert.h"
-#include "options/option.h"
+#include "options/trace.h"
 #include "utils/bits.h"
 #include "utils/diagnostics.h"
 #include "utils/limits.h"
@@ -120,11 +120,9 @@ void multi_square_image_t::clear() {
 
 bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsigned long maxsize,
                           bool use_window) {
-    if (g_option.debug) {
-        std::cerr << "rectangle_to_squares()" << std::endl;
-        std::cerr << "inimg: " << in.m_width << ", " << in.m_height << std::endl;
-        std::cerr << "maxsize: " << maxsize << std::endl;
-    }
+    trace(std::cerr, "rectangle_to_squares()");
+    trace(std::cerr, "inimg: ", in.m_width, ", ", in.m_height);
+    trace(std::cerr, "maxsize: ", maxsize);
     if (in.compressed) {
         return refuse(": compressed format not supported.");
     }

@@ -11,7 +11,7 @@
 #include "gl/grerror.h"
 #include "gl/matrixmgr.h"
 #include "image/repeatedges.h"
-#include "options/option.h"
+#include "options/trace.h"
 
 namespace zanolib {
 
@@ -70,9 +70,9 @@ bool multi_texture_object_t::isResident() const {
     for (std::size_t n = 0; n < m_texobjs.size(); ++n) {
         if (m_texobjs[n].isPreload()) {
             resident = m_texobjs[n].isResident() && resident;
-        } else if (g_option.debug) {
-            std::cerr << "multi_texture_object_t::isResident()"
-                      << "m_texobjs[" << n << "] is not loaded." << std::endl;
+        } else {
+            trace(std::cerr, "multi_texture_object_t::isResident()m_texobjs[", n,
+                  "] is not loaded.");
         }
     }
     return resident;
@@ -80,11 +80,9 @@ bool multi_texture_object_t::isResident() const {
 
 void multi_texture_object_t::draw_image(libgr::position2_t const& btm_lft,
                                         libgr::position2_t const& top_rit) const {
-    if (g_option.debug) {
-        std::cerr << "multi_texture_object_t::draw_image()" << std::endl;
-        std::cerr << "btm_lft: " << btm_lft << std::endl;
-        std::cerr << "top_rit: " << top_rit << std::endl;
-    }
+    trace(std::cerr, "multi_texture_object_t::draw_image()");
+    trace(std::cerr, "btm_lft: ", btm_lft);
+    trace(std::cerr, "top_rit: ", top_rit);
     libgr::direction2_t const side = (top_rit - btm_lft) * (1.0f / m_size);
     libgr::grPrintError("before-glenable-tex2d");
     glEnable(GL_TEXTURE_2D);

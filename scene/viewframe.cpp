@@ -9,6 +9,7 @@
 #include "gl/grcalls.h"
 #include "gl/grerror.h"
 #include "options/option.h"
+#include "options/trace.h"
 #include "scene/framegeometry.h"
 
 namespace zanolib {
@@ -67,9 +68,7 @@ void ViewFrame::setFrameType(e_frametype_t type) {
     if (type == m_frametype) {
         return;
     }
-    if (g_option.debug) {
-        std::cout << "frametype: " << static_cast<unsigned int>(type) << std::endl;
-    }
+    trace(std::cout, "frametype: ", static_cast<unsigned int>(type));
     m_frametype = type;
 }
 
@@ -133,14 +132,10 @@ void ViewFrame::begin_programs() {
     glBindProgramARB(GL_VERTEX_PROGRAM_ARB, s_vertex_program);
     libgr::position3_t light{};
     libgr::grGetLightPos(GL_LIGHT0, light);
-    if (g_option.debug) {
-        std::cout << light << std::endl;
-    }
+    trace(std::cout, light);
     glProgramLocalParameter4fARB(GL_VERTEX_PROGRAM_ARB, 0, light.x, light.y, light.z, 1.0f);
     libgr::grProgramLocalParameterARB(GL_VERTEX_PROGRAM_ARB, 1, libgr::Transpose(mv));
-    if (g_option.debug) {
-        std::cout << mv << std::endl;
-    }
+    trace(std::cout, mv);
     libgr::grProgramLocalParameterARB(GL_VERTEX_PROGRAM_ARB, 5,
                                       libgr::Transpose(libgr::Invert(mv)));
     libgr::grProgramLocalParameterARB(GL_VERTEX_PROGRAM_ARB, 9, libgr::Transpose(proj));

@@ -18,7 +18,7 @@
 #include "glext/glextloader.h"
 #include "image/pixelconvert.h"
 #include "image/samples.h"
-#include "options/option.h"
+#include "options/trace.h"
 #include "utils/diagnostics.h"
 #include "utils/path.h"
 
@@ -37,17 +37,13 @@ libgr::image_object_t* make_codec() {
 }
 
 void debug_line(std::string const& line) {
-    if (g_option.debug) {
-        std::cerr << libutils::putname(line) << std::endl;
-    }
+    trace(std::cerr, libutils::putname(line));
 }
 
 GLint tile_limit() {
     GLint most = 0;
     glGetIntegerv(GL_MAX_TEXTURE_SIZE, &most);
-    if (g_option.debug) {
-        std::cerr << "max_tex_size: " << most << std::endl;
-    }
+    trace(std::cerr, "max_tex_size: ", most);
     return std::clamp(most, 1, max_tile_side);
 }
 

@@ -18,6 +18,7 @@
 #include "gl/grcalls.h"
 #include "gl/grerror.h"
 #include "options/option.h"
+#include "options/trace.h"
 #include "scene/viewmatrix.h"
 #include "utils/diagnostics.h"
 
@@ -73,9 +74,7 @@ void ViewScene::obj_t::free_graph() {
 }
 
 void ViewScene::Init(char const* datapath) {
-    if (g_option.debug) {
-        std::cout << "gl_init" << std::endl;
-    }
+    trace(std::cout, "gl_init");
     // Without a depth test, the picture covers the frame because it is drawn later.
     for (GLenum const test : std::initializer_list<GLenum>{
              GL_DEPTH_TEST, GL_LIGHTING, GL_ALPHA_TEST, GL_STENCIL_TEST, GL_BLEND}) {
@@ -152,9 +151,7 @@ bool ViewScene::make_graph(char const* datapath) {
     bool all_made = true;
     unsigned long count = 0;
     for (auto place = m_objlist.begin(); place != m_objlist.end(); ++count) {
-        if (g_option.debug) {
-            std::cout << "ViewScene::make_graph() count= " << count << std::endl;
-        }
+        trace(std::cout, "ViewScene::make_graph() count= ", count);
         if (place->make_graph(datapath)) {
             ++place;
         } else {
@@ -213,10 +210,9 @@ void ViewScene::clrRotate() {
     }
     libgr::rotation3_t const inverse = half_turn_back(getMatrix());
     libgr::matrix3w_t const turn = libgr::getRotateMatrix(inverse);
-    if (g_option.debug) {
-        std::cout << "inv_rot: " << inverse << std::endl;
-        std::cout << "inv_mtx: " << std::endl << turn << std::endl;
-    }
+    trace(std::cout, "inv_rot: ", inverse);
+    trace(std::cout, "inv_mtx: ");
+    trace(std::cout, turn);
     append(turn);
 }
 
@@ -290,9 +286,7 @@ void ViewScene::Display() const {
 }
 
 void ViewScene::Reshape(unsigned long width, unsigned long height) {
-    if (g_option.debug) {
-        std::cout << "ViewScene::Reshape()" << std::endl;
-    }
+    trace(std::cout, "ViewScene::Reshape()");
     GLint limit[2] = {0, 0};
     glGetIntegerv(GL_MAX_VIEWPORT_DIMS, limit);
     auto const clamp = [](unsigned long side, GLint most) {
@@ -307,9 +301,7 @@ void ViewScene::Reshape(unsigned long width, unsigned long height) {
     if (has_current()) {
         offset = parity_offset(window, getCurrentImageSize());
     }
-    if (g_option.verbose) {
-        std::cout << "viewofs: " << offset << std::endl;
-    }
+    report("viewofs: ", offset);
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
     // glOrtho would fail for an empty window.

@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
-"""Failing system calls, full disks and lost screens: the program goes on or ends in order, and
-every file that was good stays good. The variable FAULTS is the number of calls of a kind and
-step that fail; with 0 each of them does."""
+"""The viewer keeps all good files when system calls fail, disks are full or the screen is lost. The
+variable FAULTS is the number of calls of each kind that fail in each step; 0 is all of them."""
 import itertools
 import os
 import pty
@@ -10,12 +9,12 @@ import signal
 import subprocess
 import unittest
 
-from viewerdriver import PROGRAM, Viewer, ViewerTest, run, wait_for, write_bmp
+from viewerdriver import MOST_SECONDS, PROGRAM, Viewer, ViewerTest, run, wait_for, write_bmp
 
 NAMES = "a.bmp", "a.jpg", "a.png", "a.tga"
 KINDS = "open read write mmap ftruncate rename fsync close malloc SIGTERM".split()
 SAMPLE = int(os.environ.get("FAULTS", 6))
-# The steps of a session: the keys, and how many of the calls that a step makes are made to fail.
+# The steps of a session: the keys, and how many of its calls fail in turn.
 SAVES, SHOWS = "swW", "<swW   swW"
 STEPS = ("", SAMPLE), (SAVES, 0), (SHOWS, SAMPLE)
 ALL_FURTHER = 10**6
@@ -27,7 +26,7 @@ OLD = {"a.zvw": b"dir2l(150, 200)\nmtx3w(\t1.0, 0.0, 0.0, 0.0,\n\t0.0, 1.0, 0.0,
 
 
 def spread(total, sample):
-    """Numbers from 1 to `total`, both included, evenly spread if there are more than `sample`."""
+    """Returns the numbers from 1 to `total`, or `sample` of them with the first and the last one."""
     if sample == 0 or total <= sample:
         return list(range(1, total + 1))
     return [1 + i * (total - 1) // (sample - 1) for i in range(sample)]
@@ -39,7 +38,7 @@ def read(path):
 
 
 class Session:
-    """The program with the preloaded library of tests/support/faults, which presses the keys."""
+    """The viewer with the preloaded library of tests/support/faults, which presses the keys."""
 
     def __init__(self, folder, fault="none 0 0", names=NAMES):
         self.process = subprocess.Popen(
@@ -51,7 +50,7 @@ class Session:
         self.start_calls = self.reply()
 
     def reply(self):
-        """The number of calls that the step made, or None if the program has ended."""
+        """Returns the number of calls in the step, or None if the program has ended."""
         line = self.process.stdout.readline()
         return int(line) if line else None
 
@@ -61,8 +60,8 @@ class Session:
         return self.reply()
 
     def end(self):
-        """Lets the program end by a key. Its status and what it wrote on the error stream."""
-        errors = self.process.communicate(timeout=60)[1]
+        """Ends the program by a key. Returns its status and its error stream."""
+        errors = self.process.communicate(timeout=MOST_SECONDS)[1]
         return self.process.returncode, errors
 
 
@@ -102,7 +101,7 @@ class FailingCalls(FaultTest):
         return content.endswith(b"\xff\xd9")
 
     def check(self, old, fault):
-        """Compares the directory with the files that were there before."""
+        """Checks that every file is the old one or a complete new one."""
         found, expected = self.files(), {**self.pictures, **old}
         self.assertLessEqual(expected.keys(), found.keys(), fault)
         for name, content in found.items():
@@ -119,14 +118,14 @@ class FailingCalls(FaultTest):
             self.assertEqual(status, -15 if kind == "SIGTERM" else 0, f"{fault}: {errors}")
 
     def try_start(self, kind, fault):
-        """The fault comes before the window waits for its first event."""
+        """Runs the program with a fault before its first wait for events."""
         session = Session(self.folder.name, fault)
         if session.start_calls is not None:
             session.step()
         self.check_end(session, kind, fault)
 
     def try_step(self, session, kind, fault, keys):
-        """Returns the session, or a new one if the fault ended it."""
+        """Returns the session, or a new one if the program has ended."""
         if session.step(fault, keys) is not None:
             return session
         self.check_end(session, kind, fault)
@@ -142,7 +141,7 @@ class FailingCalls(FaultTest):
                 for n in spread(total, sample):
                     variants = list(itertools.product((1, ALL_FURTHER), (self.good, {})))
                     if not keys or kind in ("malloc", "SIGTERM"):
-                        # Most of these need a new process.
+                        # Most of these end the process.
                         variants = [variants[n % (2 if keys == SAVES else 4)]]
                     for number, old in variants:
                         fault = f"{kind} {n} {number}"
@@ -160,7 +159,7 @@ class FailingCalls(FaultTest):
 
 
 class Machine(FaultTest):
-    """A real window and real keys on a machine that lacks something."""
+    """A real window and real keys, without rights, disk space, names or a screen."""
 
     def setUp(self):
         super().setUp()
@@ -172,7 +171,7 @@ class Machine(FaultTest):
     def unsaved(self, reason, *paths):
         return "".join(f"{path}: can't be saved: {reason}\n" for path in paths)
 
-    def test_a_failed_save_tells_why_and_keeps_the_old_file(self):
+    def test_prints_why_a_save_failed_and_keeps_the_old_file(self):
         no_rights = "--inh-caps=-dac_override", "--bounding-set=-dac_override"
         rows = (("File too large", 0o755, ("prlimit", "--fsize=100", PROGRAM)),
                 ("Permission denied", 0o555,
@@ -187,14 +186,14 @@ class Machine(FaultTest):
             os.chmod(self.folder.name, 0o755)
             self.assertEqual(self.files(), self.old, reason)
 
-    def test_a_full_disk_keeps_the_old_files(self):
+    def test_keeps_the_old_files_if_the_disk_is_full(self):
         session = Session(self.folder.name, names=("a.bmp",))
         session.step("write 1 1000000")
         reason = "No space left on device"
         self.assertEqual(session.end(), (0, 2 * self.unsaved(reason, "a.zvw.jpg", "a.zvw")))
         self.assertEqual(self.files(), self.old)
 
-    def test_names_that_no_file_can_have_and_links(self):
+    def test_replaces_links_and_reports_names_that_are_too_long(self):
         longest = self.path("n" * 251)
         os.rename(self.picture, longest + ".bmp")
         errors = self.unsaved("File name too long", longest + ".zvw.jpg")
@@ -214,7 +213,7 @@ class Machine(FaultTest):
         self.assertFalse(os.path.islink(self.path("a.zvw")))
         self.assertRegex(read(self.path("a.zvw")), VIEW)
 
-    def test_without_home_the_options_are_beside_the_program(self):
+    def test_saves_options_beside_the_program_without_home(self):
         for name in "zanoview3", "zanoview3.msg":
             os.symlink(os.path.join(os.path.dirname(PROGRAM), name), self.path(name))
         with Viewer("-frametype", "0", self.picture,
@@ -222,12 +221,12 @@ class Machine(FaultTest):
             viewer.key("shift+w")
         self.assertIn(b"-frametype 0\n", read(self.path(".zanoview3")))
 
-    def test_a_signal_and_a_lost_screen_end_the_program_at_once(self):
+    def test_ends_at_once_on_a_signal_or_without_its_screen(self):
         server = self.new_screen()
         for end, status, errors in ((subprocess.Popen.terminate, -signal.SIGTERM, "$"),
                                     (lambda _: server.kill(), 1, "(?s)X.*$")):
             viewer = Viewer(self.picture)
-            self.addCleanup(viewer.home.cleanup)
+            self.addCleanup(viewer.close)
             viewer.key("w")
             wait_for("the view file", lambda: VIEW.fullmatch(read(self.path("a.zvw"))))
             self.old["a.zvw"] = read(self.path("a.zvw"))
@@ -236,7 +235,7 @@ class Machine(FaultTest):
             self.assertEqual(viewer.process.returncode, status)
             self.assertEqual(self.files(), self.old)
 
-    def test_names_reach_no_terminal_raw(self):
+    def test_escapes_names_on_terminals(self):
         bad, shown = "\x1b[2J\nforged\u009b\x7f", "\\x1b[2J\\x0aforged\\xc2\\x9b\\x7f"
         os.mkdir(self.path(bad))
         self.put({f"{bad}/{bad}a.bmp": self.old["a.bmp"], f"{bad}/{bad}b.jpg": b"\xff\xd8",
@@ -244,7 +243,7 @@ class Machine(FaultTest):
         master, slave = pty.openpty()
         viewer = Viewer("-verbose", "-debug", "-frametype", "0", self.path(bad),
                         self.path(bad + "gone.png"), stream=slave)
-        self.addCleanup(viewer.home.cleanup)
+        self.addCleanup(viewer.close)
         viewer.await_title(f"{shown}a.bmp (1/3)")
         viewer.key("w", "s", "space", "End", "shift+w", "q")
         os.close(slave)
@@ -254,8 +253,8 @@ class Machine(FaultTest):
                 output += part
         except OSError:  # the other side is closed
             os.close(master)
-        self.assertEqual(viewer.process.wait(30), 0)
-        # A sanitizer colours its report on leaks of the OpenGL driver.
+        self.assertEqual(viewer.process.wait(MOST_SECONDS), 0)
+        # The report of a sanitizer on leaks of the OpenGL driver has colours.
         output = output.partition(b"\r\n====")[0]
         self.assertNotRegex(output, rb"\x1b|\x7f|\xc2|\nforged")
         for line in ("b.jpg: jpeg decompress fail, stop.", "gone.png: image file not found.",

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Counts the OpenGL names that the viewer holds. Takes the place of glext/procaddress.cpp in a
-// viewer for tests, and hands out its own functions for generating and deleting names. The counts
-// are 64-bit integers in the file ZANOVIEW3_GL_NAMES, in the order of the rows, display lists last.
+// Counts the OpenGL names of the viewer. Replaces glext/procaddress.cpp in a viewer for tests, and
+// wraps the functions that generate and delete names. The counts are 64-bit integers in the file
+// ZANOVIEW3_GL_NAMES, in the order of the rows, with display lists last.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr std::size_t lists = 4;  // the rows come before the display lists
+constexpr std::size_t lists = 4;  // the number of the kind of display lists, after the rows
 std::int64_t* counts = nullptr;
 std::array<std::set<GLuint>, lists + 1> live;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Paging rules, as numbers: a list, and a stage that loads only what it is told to.
+// The rules of paging, and the pictures of a directory.
 #include "app/picturelist.h"
 
 #include <gtest/gtest.h>
@@ -9,38 +9,40 @@
 #include <iterator>
 #include <map>
 
+#include "options/option.h"
 #include "tests/support/files/testfiles.h"
 
 namespace {
 
 using namespace zanoview2;
 
-/// Loads every entry but the ones in `broken`, and writes down what was asked of it.
-struct stand_in_stage_t final : picture_stage_t {
-    std::string broken;  ///< one letter an entry
-    std::string log;     ///< a letter for each try, "-" for each removal, each behind a blank
+/// Loads all entries except those in `broken`, and records the calls.
+struct fake_loader_t final : picture_loader_t {
+    std::string broken;  ///< a letter for each entry
+    std::string log;     ///< after a blank, the entry for each load, "unload" for each unload
 
-    bool add(std::string const& path) override {
+    bool load(std::string const& path) override {
         log += " " + path;
         return broken.find(path) == std::string::npos;
     }
-    void remove() override { log += " -"; }
+    void unload() override { log += " unload"; }
 };
 
 walk_t walk(std::string const& move, picture_list_t& list, picture_place_t& place, unsigned long n,
-            picture_stage_t& stage) {
+            picture_loader_t& loader) {
     if (move == "initial") {
-        return walk_initial(list, place, stage) ? walk_t::moved : walk_t::stranded;
+        return walk_initial(list, place, loader) ? walk_t::moved : walk_t::nothing_loads;
     }
-    return move == "forward"    ? walk_forward(list, place, n, stage)
-           : move == "backward" ? walk_backward(list, place, n, stage)
-           : move == "first"    ? walk_first(list, place, stage)
-                                : walk_last(list, place, stage);
+    return move == "forward"    ? walk_forward(list, place, n, loader)
+           : move == "backward" ? walk_backward(list, place, n, loader)
+           : move == "first"    ? walk_first(list, place, loader)
+                                : walk_last(list, place, loader);
 }
 
-TEST(PictureList, WalksByTheRules) {
-    std::map<walk_t, std::string> const names{
-        {walk_t::moved, "moved"}, {walk_t::refused, "refused"}, {walk_t::stranded, "stranded"}};
+TEST(PictureList, SkipsEntriesThatDoNotLoad) {
+    std::map<walk_t, std::string> const names{{walk_t::moved, "moved"},
+                                              {walk_t::no_move, "no_move"},
+                                              {walk_t::nothing_loads, "nothing_loads"}};
     std::ifstream in(WALKS);
     int rows = 0;
     for (std::string row; std::getline(in, row);) {
@@ -50,24 +52,24 @@ TEST(PictureList, WalksByTheRules) {
         ++rows;
         std::istringstream words(row);
         std::string entries, move, expected;
-        stand_in_stage_t stage;
+        fake_loader_t loader;
         picture_place_t place{};
         unsigned long n = 0;
-        words >> std::quoted(entries) >> std::quoted(stage.broken) >> place.index >> move >> n;
+        words >> std::quoted(entries) >> std::quoted(loader.broken) >> place.index >> move >> n;
         std::getline(words >> std::ws, expected);
         picture_list_t list;
         for (char const entry : entries) {
             list.emplace_back(1, entry);
         }
         place.entry = std::next(list.begin(), static_cast<long>(place.index));
-        std::string const outcome = names.at(walk(move, list, place, n, stage));
-        EXPECT_EQ(outcome + " " + std::to_string(place.index) + ":" + stage.log, expected) << row;
+        std::string const outcome = names.at(walk(move, list, place, n, loader));
+        EXPECT_EQ(outcome + " " + std::to_string(place.index) + ":" + loader.log, expected) << row;
         EXPECT_EQ(std::distance(list.begin(), place.entry), static_cast<long>(place.index)) << row;
     }
     EXPECT_EQ(rows, 25);
 }
 
-TEST(PictureList, TakesPicturesByNameSortedInsideTheirDirectory) {
+TEST(PictureList, AppendsThePicturesOfADirectorySortedByName) {
     temp_dir_t const directory;
     std::string const base = directory.path() + "/";
     for (char const* name :
@@ -85,16 +87,34 @@ TEST(PictureList, TakesPicturesByNameSortedInsideTheirDirectory) {
     }
     EXPECT_EQ(list, expected);
 
-    // A file need not exist, but must be named like a picture; a directory may have nothing to
-    // give.
+    // A file need not exist, but it needs the name of a picture.
     for (std::string const& path :
          {std::string("a.gif"), std::string("-verbose"), base + "sub.bmp"}) {
         EXPECT_FALSE(append_pictures(list, path)) << path;
     }
     EXPECT_EQ(list, expected);
-    EXPECT_TRUE(append_pictures(list, base) && append_pictures(list, "gone.PNG"));
+    EXPECT_TRUE(append_pictures(list, base));
+    EXPECT_TRUE(append_pictures(list, "gone.PNG"));
     EXPECT_EQ(list.back(), "gone.PNG");
     EXPECT_EQ(*std::prev(list.end(), 2), base + "sub.bmp");
+}
+
+TEST(PictureList, PrintsFilesUnderVerboseAndDebug) {
+    temp_dir_t const directory;
+    write_file(directory.file("a.jpg"), "");
+    capture_t capture;
+    picture_list_t list;
+    zanolib::g_option.verbose = true;
+    append_pictures(list, directory.path());
+    std::string const printed = capture.out();
+    EXPECT_TRUE(printed.starts_with("srchpath: " + directory.path() + "\nskip: ")) << printed;
+    EXPECT_NE(printed.find("skip: ..\n"), std::string::npos) << printed;
+    zanolib::g_option = {};
+    zanolib::g_option.debug = true;
+    append_pictures(list, directory.path());
+    append_pictures(list, "b.jpg");
+    zanolib::g_option = {};
+    EXPECT_EQ(capture.out(), "dir: " + directory.path() + "\nfile add: a.jpg\nfile add: b.jpg\n");
 }
 
 }  // namespace

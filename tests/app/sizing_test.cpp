@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The sizing policy as numbers.
+// Window sizes and picture scales.
 #include "app/sizing.h"
 
 #include <gtest/gtest.h>
@@ -9,14 +9,15 @@ namespace {
 using namespace zanoview2;
 using libgr::direction2l;
 
-TEST(Sizing, LimitsEachAxisByItself) {
+TEST(Sizing, LimitsWidthAndHeightIndependently) {
     struct row_t {
         bool magnify, shrink;
         unsigned sizelimit;
         int wanted_x, wanted_y, x, y;
     };
-    // The window stands at 800 by 600; the margin is 10 by 32, the largest size 1280 by 960. The
-    // margin is taken from the window itself, so that under 1 it can't grow.
+    // The window has 800 by 600 pixels, the margin is 10 by 32 and the largest size 1280 by 960.
+    // The margin is subtracted from the window's size, so that the window can't grow with
+    // sizelimit 1.
     row_t const rows[] = {
         {true, true, 0, 4800, 360, 4800, 360},  {true, false, 0, 4800, 360, 4800, 600},
         {false, true, 0, 4800, 360, 800, 360},  {false, false, 0, 4800, 360, 800, 600},
@@ -34,7 +35,7 @@ TEST(Sizing, LimitsEachAxisByItself) {
     }
 }
 
-TEST(Sizing, ScalesBetweenPictureAndWindow) {
+TEST(Sizing, FitsPicturesAndWindows) {
     EXPECT_FLOAT_EQ(*fitting_scale(direction2l(4000, 3000), direction2l(800, 600), 0.875f), 0.175f);
     EXPECT_FLOAT_EQ(*fitting_scale(direction2l(100, 100), direction2l(800, 600), 0.875f), 5.25f);
     EXPECT_FALSE(fitting_scale(direction2l(0, 0), direction2l(800, 600), 0.875f));

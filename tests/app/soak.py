@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Changes the picture many times, with random keys, drags, wheel turns and sizes in between, and
-fails if the viewer crashes, reports an OpenGL error, or keeps memory, descriptors or OpenGL names.
+"""Changes the picture many times, with random keys, drags, wheel turns and sizes in between. Fails if
+the viewer crashes, hangs, reports an OpenGL error, or leaks memory, descriptors or OpenGL names.
 
 soak.py CHANGES [DIRECTORY]    DIRECTORY has further pictures; only copies of them are opened."""
 import os
@@ -13,7 +13,7 @@ import sys
 import tempfile
 import time
 
-from viewerdriver import Viewer, run, write_bmp, xdotool
+from viewerdriver import Viewer, run, start_screen, write_bmp, xdotool
 
 SEED = 20
 COUNTED = os.environ["ZANOVIEW3_COUNTED"]
@@ -22,13 +22,14 @@ KINDS = ".jpg", ".jpeg", ".png", ".bmp", ".tga"
 CHANGES = ("space",) * 24 + ("shift+space",) * 6 + ("BackSpace", "shift+BackSpace") * 2 + ("End",)
 KEYS = ("Left Right Up Down Prior Next 0 1 2 3 9 asterisk slash minus Return g f w d s r F5 W "
         "Insert Delete R x").split()
-WINDOW = object()  # stands for the window's number in words for xdotool
+WINDOW = object()  # replaced by the window's number in words for xdotool
 MEGABYTE = 1 << 20
 MOST_GROWTH = 16 * MEGABYTE
+MOST_CPU_SECONDS = 60  # for a step: the CPU time doesn't depend on the load of the machine
 
 
 def make_pictures(folder, dice, directory):
-    """Fills the folder with good pictures and with three damaged copies of each."""
+    """Fills the folder with good pictures and three damaged copies of each."""
     for path in sorted(directory.rglob("*")) if directory else ():
         if path.suffix.lower() in KINDS:
             shutil.copy(path, folder / f"{len(os.listdir(folder)):03}{path.suffix}")
@@ -58,7 +59,7 @@ def make_pictures(folder, dice, directory):
 
 
 def interaction(dice):
-    """The words for xdotool of one key, drag, turn of the wheel or change of the window's size."""
+    """Returns words for xdotool: a key, a drag, a turn of the wheel or a change of the window's size."""
     kind = dice.randrange(8)
     if kind < 4:
         return "key", dice.choice(KEYS)
@@ -84,14 +85,19 @@ class Soak:
         words = [window if word == WINDOW else word for word in words]
         self.titles.append(xdotool("windowfocus", window, *words, "getwindowname", window,
                                    check=False))
-        asleep, end = 0, time.monotonic() + 60
+        asleep, start = 0, self.state_and_seconds()[1]
         while asleep < 3:
             time.sleep(0.004)
             code = self.viewer.process.poll()
             assert code is None, f"ended with status {code}: {self.viewer.end()[1][-2000:]}"
-            assert time.monotonic() < end, f"hangs after {self.titles[-1]}"
-            state = (self.proc / "stat").read_text().rpartition(")")[2].split()[0]
+            state, seconds = self.state_and_seconds()
+            assert seconds - start < MOST_CPU_SECONDS, f"hangs after {self.titles[-1]}"
             asleep = asleep + 1 if state == "S" else 0
+
+    def state_and_seconds(self):
+        """Returns the state of the viewer's process, like "S", and its CPU time."""
+        state, *numbers = (self.proc / "stat").read_text().rpartition(")")[2].split()
+        return state, (int(numbers[10]) + int(numbers[11])) / os.sysconf("SC_CLK_TCK")
 
     def measure(self):
         """Goes to the first picture. Returns the resident set in bytes, the descriptors, and the
@@ -114,7 +120,7 @@ def soak(changes, directory):
         os.environ["ZANOVIEW3_GL_NAMES"] = str(names)
         print(f"{len(os.listdir(folder))} files, seed {SEED}\n"
               f"changes  resident MB  descriptors  {'  '.join(NAMES)}")
-        # A bump-mapped frame has the most OpenGL names.
+        # This photo frame has the most OpenGL names.
         viewer = Viewer("-frametype", "2", str(folder), executable=COUNTED)
         try:
             run_changes(Soak(viewer, names), changes, dice, len(os.listdir(folder)))
@@ -124,7 +130,7 @@ def soak(changes, directory):
             found = re.findall(r".*Error \d+: .*", errors)
             assert not found, f"{len(found)} OpenGL errors, the first: {found[0]}"
         finally:
-            viewer.process.kill()
+            viewer.close()
 
 
 def run_changes(user, changes, dice, files):
@@ -149,7 +155,7 @@ def run_changes(user, changes, dice, files):
             change += jumps
     later = [resident for change, resident in samples if change > 100]
     third = len(later) // 3
-    if third:  # the least of several, since freed memory returns to the system late
+    if third:  # the minimum of several, since memory returns to the system late
         growth = min(later[-third:]) - min(later[:third])
         print(f"growth of the resident set after 100 changes: {growth / MEGABYTE:.1f} MB")
         assert growth < MOST_GROWTH
@@ -159,4 +165,5 @@ def run_changes(user, changes, dice, files):
 
 
 if __name__ == "__main__":
+    start_screen()
     soak(int(sys.argv[1]), pathlib.Path(sys.argv[2]) if len(sys.argv) > 2 else None)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The search for the message file and the cut into lines.
+// The message file: its directories, its names and its lines.
 #include "options/message.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The file that is loaded, and its lines, each with a bar behind it.
+/// Loads a message file. Returns its path and its lines, each followed by a bar.
 std::string load(std::string const& dir, char const* prog = "p") {
     std::string text = zanolib::init_message(dir.c_str(), prog) + ": ", line;
     for (unsigned id = 0;
@@ -21,7 +21,7 @@ std::string load(std::string const& dir, char const* prog = "p") {
     return text;
 }
 
-/// Three directories: the working one, the program's, and one of PATH.
+/// Has three directories: the working directory, the program's, and one in PATH.
 struct Message : testing::Test {
     Message() {
         std::filesystem::current_path(working.path());
@@ -40,7 +40,7 @@ struct Message : testing::Test {
     capture_t capture;
 };
 
-TEST_F(Message, LinesEndInLfOrCrLf) {
+TEST_F(Message, SplitsLinesAtLfOrCrLf) {
     using row_t = std::pair<std::string, char const*>;
     for (auto const& [bytes, loaded] :
          {row_t{"one\ntwo\n", "p.msg: one|two|"}, row_t{"one\r\n\r\ntwo\r\n", "p.msg: one||two|"},
@@ -52,13 +52,13 @@ TEST_F(Message, LinesEndInLfOrCrLf) {
     }
     write_file("p.msg", std::string((1 << 20) + 1, '\n'));
     std::filesystem::create_symlink("/dev/null", "p.xx_YY.msg");
-    EXPECT_EQ(load("d/"), ": ") << "too long, and no file";
+    EXPECT_EQ(load("d/"), ": ") << "one file is too long, the other isn't a regular file";
     EXPECT_EQ(capture.out() + capture.err(),
               "p.msg: exceeds limit small-file (1048576 bytes).\n"
               "/usr/site/share/zanolib/p.msg: can't load message file.\n");
 }
 
-TEST_F(Message, SuffixedFilesAndNearPlacesWin) {
+TEST_F(Message, PrefersTheLanguageAndThenTheWorkingDirectory) {
     std::string const dir = program.path() + "/";
     for (std::string const& file : {dir + "p.msg", std::string("p.msg"), dir + "p.xx_YY.msg",
                                     std::string("p.xx_YY.msg"), std::string("p..msg")}) {
@@ -70,7 +70,7 @@ TEST_F(Message, SuffixedFilesAndNearPlacesWin) {
     EXPECT_EQ(load(dir), "p.msg: p.msg|");
 }
 
-TEST_F(Message, DebugTellsTheSearch) {
+TEST_F(Message, PrintsTheSearchUnderDebug) {
     zanolib::g_option.debug = true;
     load("d/");
     std::string const site = "/usr/site/share/zanolib/", failed = "can't load message file.\n";
@@ -83,7 +83,7 @@ TEST_F(Message, DebugTellsTheSearch) {
                                                  found + "\ninit_message() leaving.\n");
 }
 
-TEST_F(Message, TheProgramsOwnFilesHoldBothTexts) {
+TEST_F(Message, LoadsBothTextsOfTheProgramsFiles) {
     std::string const own = ZV_DATA_DIR "/zanoview3";
     for (auto const& [lang, loaded] :
          {std::pair{"ja_JP.UTF-8", ".ja_JP.UTF-8.msg: zanoview3|画像なし|"},

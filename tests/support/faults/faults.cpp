@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-// A library to preload into the viewer: it presses keys and makes system calls fail.
+// A library that is preloaded into the viewer. It presses keys and makes system calls fail.
 //
-// The variable FAULT and then each line on standard input has the form "kind first number keys".
-// During the step that follows, `number` calls of the kind fail, the first of them after first - 1
-// that succeed. The keys are passed to the program's key callback, one for each wait for events.
-// The first step is the program's start, without keys. After each step the number of calls of the
-// kind is printed on a line. At the end of the input, q is pressed.
+// The variable FAULT describes the first step, the program's start, and each line on standard input
+// the next one: "kind first number keys". In a step, the calls of the kind from the `first` one on
+// fail, `number` of them. glfwWaitEvents passes one of the keys to the program's key callback. At
+// the end of a step, the number of calls of the kind is printed on a line. At the end of the input,
+// q is pressed.
 //
-// Calls count if the program itself made them, or the libraries that decode and encode for it.
-// Those of the windowing library and of the OpenGL driver do not, since they may end the process
-// for lack of memory.
+// Only calls of the program, libjpeg, libpng and zlib count. GLFW and the OpenGL driver may end the
+// process if they get no memory.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <link.h>
@@ -38,7 +37,7 @@ struct kind_t {
 constexpr kind_t open_kind{"open", EMFILE}, read_kind{"read", EIO}, write_kind{"write", ENOSPC},
     mmap_kind{"mmap", ENOMEM}, truncate_kind{"ftruncate", ENOSPC}, rename_kind{"rename", EIO},
     sync_kind{"fsync", EIO}, close_kind{"close", EDQUOT}, malloc_kind{"malloc", ENOMEM},
-    terminate_kind{"SIGTERM", 0};  // the signal arrives during the n-th write
+    terminate_kind{"SIGTERM", 0};  // sent during a write
 
 struct {
     std::array<char, 16> kind;
@@ -99,9 +98,9 @@ _Unwind_Reason_Code look_at_frame(_Unwind_Context* context, void* found) {
     return owner == owner_t::BETWEEN ? _URC_NO_REASON : _URC_END_OF_STACK;
 }
 
-/// Returns true if the call is of the program, be it through the C and C++ libraries.
+/// Returns true if the program made the call, directly or through the C and C++ libraries.
 bool is_of_program(void* caller) {
-    // The unwinder allocates memory itself, under a lock, once code has been generated at run time.
+    // The unwinder allocates memory under a lock if the process has generated code.
     [[gnu::tls_model("initial-exec")]] thread_local bool s_is_unwinding = false;
     owner_t owner = owner_of(reinterpret_cast<std::uintptr_t>(caller));
     if (owner == owner_t::BETWEEN && !s_is_unwinding) {
@@ -112,7 +111,7 @@ bool is_of_program(void* caller) {
     return owner == owner_t::PROGRAM;
 }
 
-/// Counts a call. Returns true, with errno set, if it is to fail.
+/// Counts a call. Returns true and sets errno if the call must fail.
 bool fails(kind_t const& kind, void* caller) {
     if (kind.name != s_step.kind.data() || !is_of_program(caller)) {
         return false;
@@ -123,7 +122,7 @@ bool fails(kind_t const& kind, void* caller) {
     return is_hit;
 }
 
-/// The function that would have been called without this library.
+/// Returns the function of the same name in the libraries.
 template <typename function_t>
 function_t* next(char const* name, function_t*) {
     return reinterpret_cast<function_t*>(dlsym(RTLD_NEXT, name));
@@ -144,7 +143,7 @@ void take_step(char const* line) {
     }
 }
 
-/// Reports the step and reads the next one.
+/// Prints the result of the step and reads the next one.
 void next_step() {
     std::array<char, 128> line{};
     int const length = std::snprintf(line.data(), line.size(), "%ld\n", s_step.count);
@@ -189,7 +188,7 @@ int open(char const* path, int flags, ...) {
     return fails(open_kind, __builtin_return_address(0)) ? -1 : NEXT(open)(path, flags, mode);
 }
 
-// The C++ library opens the files of streams with it.
+// The C++ library opens files with it.
 FILE* fopen64(char const* path, char const* mode) {
     return fails(open_kind, __builtin_return_address(0)) ? nullptr : NEXT(fopen64)(path, mode);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A stand-in for GLFW: the functions that the system calls, over one scripted state.
+// The functions of GLFW that the project calls.
 #include "tests/support/glfw/fakeglfw.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 namespace {
 
 GLFWwindow& live(GLFWwindow* window) {
-    EXPECT_FALSE(window->destroyed) << window->name << " is used after its end";
+    EXPECT_FALSE(window->destroyed) << window->name << " is used after it was destroyed";
     return *window;
 }
 
@@ -82,7 +82,7 @@ void glfwWaitEvents() {
     }
     for (GLFWwindow& window : glfw.windows) {
         if (std::exchange(window.should_close, true) && !window.destroyed) {
-            throw std::runtime_error("the program goes on waiting behind its last event");
+            throw std::runtime_error("the program waits again after the last event");
         }
     }
 }
@@ -96,7 +96,7 @@ int glfwWindowShouldClose(GLFWwindow* window) {
     return live(window).should_close ? GLFW_TRUE : GLFW_FALSE;
 }
 
-// Functions that are recorded and do no more, that bind an event, and that ask for two numbers.
+// Functions that are only recorded, that set a callback, and that return two numbers.
 #define RECORD(function)                           \
     void function(GLFWwindow* window) {            \
         record_call(#function, live(window).name); \
@@ -148,7 +148,7 @@ void glfwSetWindowPos(GLFWwindow* window, int x, int y) {
 }
 
 int glfwGetWindowAttrib(GLFWwindow*, int) {
-    return GLFW_TRUE;  // iconified, as it was told to be
+    return GLFW_TRUE;  // iconified
 }
 
 GLFWmonitor* glfwGetPrimaryMonitor() {

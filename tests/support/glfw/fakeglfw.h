@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A stand-in for GLFW: no screen, no context; tests script the events and read the calls.
+// A fake of GLFW without a screen or an OpenGL context. Tests send events and read the calls.
 #pragma once
 
 #define GLFW_INCLUDE_NONE
@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-/// One window, open to the test. A destroyed window's record stays.
+/// The state of a window. It can still be read after the window was destroyed.
 struct GLFWwindow {
     std::string name;  ///< "w1", "w2" and so on in the order of creation, as the calls name it
     std::string title;
@@ -31,11 +31,13 @@ struct GLFWwindow {
     GLFWdropfun drop = nullptr;
 };
 
-/// The library's whole state behind glfwInit, with a work area of 1920 by 1056. A test makes one
-/// first; GLFW's functions act on it until its block ends. A size that the program sets arrives,
-/// with its event, within the call. glfwWaitEvents never blocks: it returns for an empty event that
-/// was posted, or runs the next step of the script. When the script has run out it sets the close
-/// flag of all windows; a program that waits with open windows after that gets an exception.
+/// The state of GLFW after glfwInit. Create it before other calls; GLFW's functions use it until it
+/// is destroyed. The work area is 1920 by 1056.
+///
+/// glfwSetWindowSize changes the size and calls the size callback before it returns. glfwWaitEvents
+/// never blocks: it returns if an empty event was posted, or runs the next function of `script`. At
+/// the script's end, it sets the close flag of all windows. If the program then waits again with
+/// open windows, it throws.
 struct fake_glfw_t {
     fake_glfw_t() { current = this; }
     fake_glfw_t& operator=(fake_glfw_t&&) = delete;
@@ -45,16 +47,16 @@ struct fake_glfw_t {
     bool empty_event = false;
     std::deque<std::function<void()>> script;
 
-    /// One line for each call that is no mere question: "glfwSetWindowSize(w1, 800, 600)".
+    /// A line for each call that changes something, like "glfwSetWindowSize(w1, 800, 600)".
     std::vector<std::string> calls;
     std::deque<GLFWwindow> windows;
 
-    /// The calls since the last time, one a line; only those that begin with `prefix`.
+    /// Returns and forgets the calls, a line for each one that starts with `prefix`.
     std::string take_calls(std::string const& prefix = "");
 
     GLFWwindow& window(std::size_t index = 0) { return windows.at(index); }
 
-    /// Reports an event as it stands, like `fire(&GLFWwindow::scroll, 0.0, 1.0)`.
+    /// Calls a callback of the first window, for example `fire(&GLFWwindow::scroll, 0.0, 1.0)`.
     template <typename F, typename... T>
     void fire(F GLFWwindow::*event, T... arguments) {
         if (window().*event != nullptr) {
@@ -62,7 +64,7 @@ struct fake_glfw_t {
         }
     }
 
-    // Events of the first window that change its state before the program hears of them.
+    // Change the state of the first window and call its callback.
     void fire_key(int key, int action, int mods = 0);
     void fire_cursor(double x, double y);
     void fire_size(int width, int height);
@@ -71,7 +73,7 @@ struct fake_glfw_t {
     static inline fake_glfw_t* current = nullptr;
 };
 
-/// Puts a line among the calls; tests do so with what is reported to them.
+/// Adds a line to the calls. Tests add the calls of their own callbacks.
 template <typename... T>
 void record_call(char const* function, T const&... arguments) {
     std::ostringstream line;
