@@ -10,6 +10,7 @@ test_packages="libgtest-dev zlib1g-dev libbenchmark-dev python3 openbox x11-util
 # What the tests of the installation need: checkers, an SVG renderer, the shells with completions.
 test_packages="$test_packages lintian desktop-file-utils appstream librsvg2-bin bash-completion zsh fish"
 fuzz_packages="clang libclang-rt-dev libgtest-dev zlib1g-dev"
+check_packages="clang clang-format clang-tidy librsvg2-bin imagemagick"
 
 say() { printf '==> %s\n' "$*"; }
 
@@ -74,7 +75,12 @@ preset_dir() {
     case $1 in release) echo "$build_dir" ;; *) echo "$build_dir-$1" ;; esac
 }
 
-configure() { (cd "$root" && cmake --preset "$1" -B "$(preset_dir "$1")" --log-level=WARNING); }
+# configure <preset>: A warning is an error if $warnings_as_errors is ON, and as before if it is not
+# set.
+configure() (
+    cd "$root" && cmake --preset "$1" -B "$(preset_dir "$1")" --log-level=WARNING \
+        ${warnings_as_errors:+"-DCMAKE_COMPILE_WARNING_AS_ERROR=$warnings_as_errors"}
+)
 
 # build <preset> [target...]
 build() {
