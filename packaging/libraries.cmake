@@ -5,7 +5,7 @@ include(CMakePackageConfigHelpers)
 set(libraries utils geometry image metadata codecs glext gl options window scene)
 # Headers that only their library's own sources include.
 set(excluded)
-foreach(header claims.h jpeglimits.h jtransformops.h glucalls.h optionrow.h)
+foreach(header sizelimits.h jpeglimits.h jtransformops.h glucalls.h optionrow.h)
   list(APPEND excluded PATTERN ${header} EXCLUDE)
 endforeach()
 
