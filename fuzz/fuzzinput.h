@@ -39,7 +39,7 @@ class input_t {
     /// is a line feed, removes nothing and returns an empty string.
     std::string line() {
         std::size_t const end = m_rest.substr(0, 64).find('\n');
-        std::string const text = end == m_rest.npos ? "" : m_rest.substr(0, end);
+        std::string text = end == m_rest.npos ? "" : m_rest.substr(0, end);
         m_rest.erase(0, end + 1);
         return text;
     }
@@ -87,7 +87,7 @@ inline std::string scratch_path(char const* name) {
 
 /// Writes a file of this name in a directory of this process. Returns its path.
 inline std::string scratch_file(char const* name, std::string const& bytes) {
-    std::string const path = scratch_path(name);
+    std::string path = scratch_path(name);
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush()) {
         std::abort();

@@ -157,6 +157,10 @@ STAND_INS = {
 
 
 class Readme(ViewerTest):
+    def setUp(self):
+        super().setUp()
+        self.new_screen()
+
     def check_kinds(self, viewer, files):
         """Pages through the pictures and returns what is shown of each file, by the file's name."""
         shown = {}
