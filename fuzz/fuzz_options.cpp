@@ -28,7 +28,7 @@ void enter_command_line(std::string const& text) {
     std::istringstream in(text);
     std::list<std::string> words = {"zanoview3"};
     for (std::string word; in >> word;) {
-        word = word.c_str();  // as far as a command line can hold it
+        word = word.c_str();  // an argument ends at its first null character
         if (word != "-h" && word != "-H" && word != "-h+" && word != "-H+") {  // they call exit
             words.push_back(word);
         }

@@ -100,14 +100,14 @@ inline std::string content_of(std::string const& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// Reports a finding if a property of the code does not hold.
-inline void require(bool holds) {
-    if (!holds) {
+/// Reports a finding if `condition` is false.
+inline void require(bool condition) {
+    if (!condition) {
         std::abort();
     }
 }
 
-/// Formats and drops what a target writes to std::cout and std::cerr.
+/// Formats the output of a target to std::cout and std::cerr, and discards it.
 class silence_t {
   public:
     silence_t() {

@@ -2,8 +2,8 @@
 """Checks the README against the program: every command runs, and every kind of picture is shown as
 its table says.
 
-The commands run in a copy of the source tree that has links in it. Stand-ins replace the package
-manager, what it installs, and the build; the build of the present preset is used.
+The commands run in a directory of links to the source tree and to the build under test. Small scripts
+replace the package manager and the build.
 """
 import os
 import pathlib
@@ -162,7 +162,7 @@ class Readme(ViewerTest):
         self.new_screen()
 
     def check_kinds(self, viewer, files):
-        """Pages through the pictures and returns what is shown of each file, by the file's name."""
+        """Pages through the pictures. Returns the colours of the four quarters, by file name."""
         shown = {}
         while "zz.bmp" not in shown:
             def new_name():

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The completions in interactive shells: a text, the Tab key, and what the command then gets."""
+"""The completions in interactive shells: a text, the Tab key, and the arguments of the command."""
 import os
 import pty
 import select
@@ -9,8 +9,8 @@ import unittest
 from installed import SOURCE, PackagingTest, main
 
 FOLDER = SOURCE / "packaging/completions"
-# A function in place of the program shows its arguments; brackets are put together so that the
-# shell's echo of the definition doesn't look like them.
+# A function in place of the program prints its arguments between brackets. The definition has the
+# brackets in parts, so that the shell's echo of it is not taken for the output.
 SHELLS = {
     "bash": (("bash", "--norc", "--noprofile", "-i"),
              f". /usr/share/bash-completion/bash_completion; . {FOLDER}/zanoview3.bash; "

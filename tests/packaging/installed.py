@@ -1,4 +1,4 @@
-"""What the tests of the installation share."""
+"""Helpers of the tests of the installation."""
 import os
 import pathlib
 import shutil

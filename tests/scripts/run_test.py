@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""scripts/run on machines of all kinds. Programs on PATH stand in for the package manager, the
-build, the screen and the viewer; the script itself is the real one."""
+"""scripts/run on machines of all kinds. Programs on PATH replace the package manager, the build, the
+screen and the viewer."""
 import os
 import pathlib
 import shutil
@@ -56,7 +56,7 @@ class Run(unittest.TestCase):
         path.chmod(0o755)
 
     def run_script(self, *words, without=(), **settings):
-        """Returns status, output, and what was called."""
+        """Returns the status, the output, and the calls of the replaced programs."""
         self.calls.write_text("")
         for name in without:
             (self.bin / name).unlink()
@@ -125,7 +125,7 @@ class Run(unittest.TestCase):
         self.assertIn("\n-winsize XXXxYYY x\n", self.run_script("-verbose", "-h", "a.jpg", DISPLAY=":5")[1])
         self.assertIn("\ndisplay image: a.jpg\n", self.run_script("-debug", "a.jpg", DISPLAY=":5")[1])
         status, output, _ = self.run_script("a.jpg", without=("apt-get",), DISPLAY=":5")
-        self.assertEqual((status, "install what these Debian packages contain: g++" in output), (0, True))
+        self.assertEqual((status, "libraries of these Debian packages: g++" in output), (0, True))
 
 
 if __name__ == "__main__":
