@@ -38,7 +38,10 @@ file(GLOB programs "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/bin/*"
 execute_process(COMMAND "@CMAKE_STRIP@" --remove-section=.comment ${programs}
   COMMAND_ERROR_IS_FATAL ANY)
 ]])
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+execute_process(COMMAND dpkg --print-architecture
+  OUTPUT_VARIABLE architecture OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+set(CPACK_DEBIAN_FILE_NAME zanoview3_${PROJECT_VERSION}-${debian_release}_${architecture}.deb)
+set(zv_debian_package "${CPACK_DEBIAN_FILE_NAME}" PARENT_SCOPE)  # the tests open it
 set(CPACK_DEBIAN_PACKAGE_RELEASE ${debian_release})
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
@@ -51,7 +54,7 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 moves, zooms and turns a picture to any angle, and finds it again exactly as
 it was left: the view of a picture can be stored in a small file beside it.
 .
-There is no menu, every command is a key. Photographs are shown upright by their
-Exif orientation, pictures of any size are drawn, and the program sleeps when
-nothing happens.")
+There is no menu, every command is a key. Photographs are shown upright by
+their Exif orientation, pictures of any size are drawn, and the program sleeps
+when nothing happens.")
 include(CPack)

@@ -2,16 +2,14 @@
 """The Debian package: its fields, and that it installs into a root directory and starts there."""
 import gzip
 import os
-import pathlib
 import shutil
+import unittest
 
-from installed import VERSION, PackagingTest, main, run
+from installed import VERSION, PackagingTest, run
 
 
 class DebianPackage(PackagingTest):
-    def setUp(self):
-        super().setUp()
-        self.package, = pathlib.Path(os.environ["PACKAGES"]).glob(f"*_{VERSION}-*.deb")
+    package = os.environ["PACKAGE"]
 
     def test_has_version_and_dependencies(self):
         fields = dict(line.split(": ", 1) for line in run("dpkg-deb", "-f", self.package).split("\n")
@@ -44,4 +42,4 @@ class DebianPackage(PackagingTest):
 
 
 if __name__ == "__main__":
-    main()
+    unittest.main(verbosity=2)

@@ -1,11 +1,8 @@
 """Helpers of the tests of the installation."""
 import os
 import pathlib
-import shutil
 import subprocess
-import sys
 import tempfile
-import unittest
 
 from viewerdriver import PROGRAM, Viewer, ViewerTest, wait_for, write_bmp
 
@@ -22,12 +19,6 @@ def run(*words, **how):
     return ended.stdout
 
 
-def main():
-    """Runs the file's tests. Exit status 77 tells ctest that some were skipped."""
-    result = unittest.main(verbosity=2, exit=False).result
-    sys.exit(77 if result.wasSuccessful() and result.skipped else not result.wasSuccessful())
-
-
 class PackagingTest(ViewerTest):
     """Tests have the temporary directories `folder`, and `shared` for all tests of a class."""
 
@@ -40,10 +31,6 @@ class PackagingTest(ViewerTest):
     def setUp(self):
         super().setUp()
         self.folder = pathlib.Path(self.folder.name)
-
-    def need(self, program):
-        if not shutil.which(program):
-            self.skipTest(f"{program} is not installed")
 
     def look(self, *command, frame="4", title="a.bmp (1/1) - zanoview3", expected=None, **start):
         """Starts the viewer in the folder of a picture and waits for the title, and for the expected

@@ -4,8 +4,9 @@ import os
 import pathlib
 import re
 import subprocess
+import unittest
 
-from installed import BUILD, SOURCE, VERSION, PackagingTest, main, run
+from installed import BUILD, SOURCE, VERSION, PackagingTest, run
 
 LIBRARIES = "utils geometry image metadata codecs glext gl options window scene".split()
 PROJECT = """cmake_minimum_required(VERSION 3.25)
@@ -115,4 +116,4 @@ class Libraries(PackagingTest):
 
 
 if __name__ == "__main__":
-    main()
+    unittest.main(verbosity=2)
