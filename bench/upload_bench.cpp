@@ -56,7 +56,9 @@ void upload_record(benchmark::State& state) {
 void bare_calls(benchmark::State& state) {
     need_context();
     unsigned char const* const pixels = picture().begin();
-    std::vector<GLuint> names(((width + tile - 1) / tile) * ((height + tile - 1) / tile));
+    std::size_t const columns = (width + tile - 1) / tile;
+    std::size_t const rows = (height + tile - 1) / tile;
+    std::vector<GLuint> names(columns * rows);
     for (auto _ : state) {
         glGenTextures(static_cast<GLsizei>(names.size()), names.data());
         auto name = names.begin();
