@@ -10,8 +10,8 @@
 
 #include "glext/glextloader.h"
 
-/// A context that is current on this thread for the lifetime of the object, all entry points
-/// resolved. Ends the process when there is no display.
+/// Creates a context, makes it current and resolves all entry points. The context lives as long as
+/// the object. Ends the process if there is no display.
 class bench_context_t {
   public:
     bench_context_t() {

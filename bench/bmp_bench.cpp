@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Loading a BMP costs a map, not a copy: beside it the bare map, and a read of the same bytes.
+// Compares the loading of a BMP with mmap alone, and with a read of the same bytes.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -26,7 +26,7 @@ void put32(std::string& bytes, std::size_t at, unsigned value) {
     }
 }
 
-/// A BMP of 24 megapixels, which goes with the process.
+/// A file with a BMP of 24 megapixels, removed at the end of the process.
 class big_bmp_t {
   public:
     big_bmp_t() : m_path("/tmp/zv_bench_" + std::to_string(getpid()) + ".bmp") {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Decoding 24 megapixels by the codecs, beside bare loops on libjpeg and libpng into memory of the
-// same layout.
+// Compares the codecs with direct calls of libjpeg and libpng into memory of the same layout, for
+// 24 megapixels.
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
@@ -45,7 +45,7 @@ libgr::image2d_t photograph() {
     return image;
 }
 
-/// The photograph as a file of the codec's kind, which goes with the process.
+/// A file of the codec's format with the photograph, removed at the end of the process.
 template <typename codec_t>
 class picture_file_t {
   public:

@@ -1,4 +1,4 @@
-# The flags that every target of the project is built with, and the two functions that make targets.
+# The flags of all targets, and functions that make the targets of a library and of a test.
 
 add_library(zv_flags INTERFACE)
 target_include_directories(zv_flags INTERFACE "${PROJECT_SOURCE_DIR}")
@@ -6,8 +6,8 @@ target_compile_options(zv_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wcast-qual -Wformat=2
   -Wnon-virtual-dtor -Woverloaded-virtual
   $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond;-Wlogical-op>)
-# Release builds check the buffer sizes of C library calls, and map relocations read-only, which
-# resolves all symbols at start. Debian requires both of a package.
+# Release builds check the buffer sizes of C library calls. They resolve all symbols at the start and
+# map relocations read-only. Debian requires both of a package.
 if(NOT ZV_SANITIZE AND NOT ZV_COVERAGE)
   target_compile_options(zv_flags INTERFACE
     $<$<CONFIG:Release,RelWithDebInfo>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
@@ -29,8 +29,8 @@ endif()
 
 # zv_library(<folder> SOURCES <file>... [LINK <library>...] [LINK_PRIVATE <library>...])
 #
-# Makes the static library zv_<folder> of one folder. Without sources it is an interface library.
-# The project's own flags don't reach those who use the installed library.
+# Makes the static library zv_<folder>. Without sources it is an interface library. Users of the
+# installed library don't get the flags of this project.
 function(zv_library folder)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
   if(ARG_SOURCES)
@@ -44,8 +44,8 @@ endfunction()
 
 # zv_test(<name> SOURCES <file>... [LINK <library>...] [LABELS <label>...] [ENVIRONMENT <setting>...])
 #
-# Makes one GoogleTest program of a test folder and registers it with ctest as one test. Tests that
-# need a screen carry the label "screen".
+# Makes a GoogleTest program and registers it as one test. Tests that need a screen have the label
+# "screen".
 function(zv_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})

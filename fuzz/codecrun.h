@@ -9,14 +9,14 @@
 #include "fuzz/fuzzinput.h"
 #include "image/pixelconvert.h"
 
-/// A larger picture takes too long for a fuzzer: only its first and its last row are read.
+/// Of a picture with more pixels, only the first and the last row are read, to save time.
 inline constexpr std::uint64_t largest_picture = 1 << 16;  // pixels
 
 inline bool is_large(libgr::image2d_t const& image) {
     return std::uint64_t{image.m_width} * image.m_height > largest_picture;
 }
 
-/// Reads every byte of the rows, so that one outside the record's storage is reported.
+/// Reads every byte of the rows, so that the sanitizers report a byte outside the storage.
 inline void read_pixels(libgr::image2d_t const& image) {
     if (!libgr::pixels_within(image) || image.rowbyte() == 0 || image.m_height == 0) {
         return;

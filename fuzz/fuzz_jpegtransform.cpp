@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Fuzzes the lossless transforms. The first line of the input is the request and the rest is the
-// file. The first two characters of the line choose the operation and what is copied, the letters
-// "p", "t", "g" and "s" set the flags, and the text after a blank is the crop: "50tg 40x30f+8-8".
+// Fuzzes the lossless transforms. The first line of the input is the request, such as
+// "50tg 40x30f+8-8", and the rest is the file. The first two characters of the line choose the
+// operation and the markers to copy, the letters "p", "t", "g" and "s" set the flags, and the text
+// after a blank is the crop.
 #include "codecs/jtransform.h"
 #include "fuzz/fuzzinput.h"
 #include "fuzz/jpegclaims.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Fuzzes the user default file and the command line with the same text. Settings that were read
 // must come back after they were saved.
+#include <cstring>
 #include <list>
 #include <sstream>
 #include <vector>
@@ -28,7 +29,7 @@ void enter_command_line(std::string const& text) {
     std::istringstream in(text);
     std::list<std::string> words = {"zanoview3"};
     for (std::string word; in >> word;) {
-        word = word.c_str();  // as far as a command line can hold it
+        word.resize(std::strlen(word.c_str()));  // an argument ends at its first null character
         if (word != "-h" && word != "-H" && word != "-h+" && word != "-H+") {  // they call exit
             words.push_back(word);
         }

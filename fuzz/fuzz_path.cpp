@@ -33,7 +33,7 @@ int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     require(locale != nullptr);
     input_t input(data, size);
     std::size_t const room = input.number(2) % 2048;
-    std::string const name = input.rest().c_str();
+    std::string const name = input.rest().substr(0, input.rest().find('\0'));
     write_part(libutils::basename, name, room);
     write_part(libutils::dirname, name, room);
     split_and_join(name);

@@ -39,7 +39,7 @@ class input_t {
     /// is a line feed, removes nothing and returns an empty string.
     std::string line() {
         std::size_t const end = m_rest.substr(0, 64).find('\n');
-        std::string const text = end == m_rest.npos ? "" : m_rest.substr(0, end);
+        std::string text = end == m_rest.npos ? "" : m_rest.substr(0, end);
         m_rest.erase(0, end + 1);
         return text;
     }
@@ -87,7 +87,7 @@ inline std::string scratch_path(char const* name) {
 
 /// Writes a file of this name in a directory of this process. Returns its path.
 inline std::string scratch_file(char const* name, std::string const& bytes) {
-    std::string const path = scratch_path(name);
+    std::string path = scratch_path(name);
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush()) {
         std::abort();
@@ -100,14 +100,14 @@ inline std::string content_of(std::string const& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// Reports a finding if a property of the code does not hold.
-inline void require(bool holds) {
-    if (!holds) {
+/// Reports a finding if `condition` is false.
+inline void require(bool condition) {
+    if (!condition) {
         std::abort();
     }
 }
 
-/// Formats and drops what a target writes to std::cout and std::cerr.
+/// Formats the output of a target to std::cout and std::cerr, and discards it.
 class silence_t {
   public:
     silence_t() {

@@ -151,7 +151,7 @@ void add_texts() {
     add("message", std::string("one\r\n\r\ntw\0o\rthree\n", 18));
 }
 
-/// One record that each operation accepts, for an operation's number and a description.
+/// Adds a record that the operation accepts, for each operation and format.
 void add_images() {
     struct {
         char format, bits;

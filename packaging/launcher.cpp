@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The installed command: executes the program from the directory that has its data files.
 //
-// The program looks for its data beside the path that it is started by. A command found along PATH,
-// or a link to it, is elsewhere. So this command resolves its own path (proc(5), /proc/pid/exe) and
-// starts the program by a path relative to it, which holds wherever both are installed.
+// The program reads its data from the directory of the path by which it is started. A command on
+// PATH and a link to it are in other directories. This command therefore resolves its own path
+// (proc(5), /proc/pid/exe) and starts the program by a path relative to it, which is independent of
+// the prefix.
 #include <unistd.h>
 
 #include <cerrno>
@@ -13,15 +14,16 @@
 
 namespace {
 
-/// Shortens `path` by its last component, the slash before it included. Returns the new length.
+/// Returns the length of `path` without its last component and the slash before it.
 std::size_t parent(char const* path, std::size_t length) {
     while (length > 0 && path[--length] != '/') {
     }
     return length;
 }
 
-int fail(char const* what, char const* path) {
-    std::fprintf(stderr, "zanoview3: %s %s: %s\n", what, path, std::strerror(errno));
+/// Prints the action that failed, the path and the reason. Returns the exit status.
+int fail(char const* action, char const* path) {
+    std::fprintf(stderr, "zanoview3: %s %s: %s\n", action, path, std::strerror(errno));
     return 1;
 }
 
@@ -35,7 +37,7 @@ int main(int argc, char** argv) {
     if (read < 0) {
         return fail("can't read", self);
     }
-    // The link's text has no symbolic link in it, so that ".." can be taken off as text.
+    // The resolved path contains no symbolic link, so that each ".." removes one component.
     std::size_t length = parent(path, static_cast<std::size_t>(read));
     for (; std::strncmp(program, "../", 3) == 0; program += 3) {
         length = parent(path, length);

@@ -1,9 +1,9 @@
-# The libraries for other programs: headers, archives, a CMake package with one component for each
-# library, and pkg-config files.
+# Installs the libraries: headers, archives, a CMake package with one component for each library, and
+# pkg-config files.
 include(CMakePackageConfigHelpers)
 
 set(libraries utils geometry image metadata codecs glext gl options window scene)
-# Headers that only their library's own sources include.
+# Headers that are not installed, because only sources of the same library include them.
 set(excluded)
 foreach(header jpeglimits.h jpegtransform_ops.h sizelimits.h glucalls.h optionrow.h)
   list(APPEND excluded PATTERN ${header} EXCLUDE)

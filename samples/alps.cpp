@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Mountains at a lake in the evening sun. For each column of the picture, a ray goes over the
-// terrain away from the camera, and paints the pixels that the ground newly covers.
+// Mountains at a lake in the evening sun. For each column of the picture, a ray follows the terrain
+// away from the camera and paints the pixels in which the ground becomes visible.
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -61,7 +61,7 @@ float trees(vec2 at, float height) {
     return highest;
 }
 
-/// A grid over the terrain of the heights below which there is shadow.
+/// The height of the shadow, at the points of a grid over the terrain.
 class shadows_t {
   public:
     shadows_t() : m_heights(static_cast<std::size_t>(columns) * rows) {
@@ -126,7 +126,7 @@ vec3 sky(float right, float up) {
     return mix(colour, lit * 1.05f, 0.85f * wisp);
 }
 
-/// The light that comes to the camera from a point of the ground.
+/// Returns the light that a point of the ground sends to the camera.
 vec3 land(vec2 at, float height, float tree, vec3 normal, float sun_share, float distance) {
     float const patch = cloud(at * 9.0f, 4);
     float const steep = 1.0f - normal.y;

@@ -121,7 +121,7 @@ class canvas_t {
     /// Compresses the light above 0.5 into the range up to 1.
     void soften_highlights();
 
-    /// Has `image` add noise of this standard deviation, in sRGB values from 0 to 1.
+    /// Sets the standard deviation, in sRGB values from 0 to 1, of the noise that `image` adds.
     void add_grain(float amount) { m_grain = amount; }
 
     /// Returns the picture as 8-bit sRGB, bottom row first, or an image without bytes if there is

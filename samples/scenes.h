@@ -6,10 +6,10 @@
 
 namespace samples {
 
-/// A landscape of `width` by two thirds of it.
+/// A landscape. Its height is two thirds of `width`.
 canvas_t alps(int width);
 
-/// Taller than wide: 900 by 1200.
+/// 900 by 1200 pixels.
 canvas_t balloons_at_sunrise();
 
 canvas_t aurora();

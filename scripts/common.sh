@@ -1,4 +1,4 @@
-# What the scripts share: packages, the build, a virtual screen.
+# Functions of the scripts: packages, the build, a virtual screen.
 #
 # BUILD_DIR names the build directory of the release preset. Other presets build beside it: asan in
 # $BUILD_DIR-asan.
@@ -7,9 +7,10 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages="g++ cmake ninja-build pkg-config libglfw3-dev libx11-dev libgl-dev libglu1-mesa-dev libgl1 libgl1-mesa-dri libjpeg-dev libpng-dev"
 screen_packages="xvfb xdotool imagemagick"
 test_packages="libgtest-dev zlib1g-dev libbenchmark-dev python3 openbox x11-utils $screen_packages"
-# What the tests of the installation need: checkers, an SVG renderer, the shells with completions.
+# The tests of the installation need checkers, an SVG renderer and the shells with completions.
 test_packages="$test_packages lintian desktop-file-utils appstream librsvg2-bin bash-completion zsh fish"
 fuzz_packages="clang libclang-rt-dev libgtest-dev zlib1g-dev"
+check_packages="clang clang-format clang-tidy librsvg2-bin imagemagick"
 
 say() { printf '==> %s\n' "$*"; }
 
@@ -23,8 +24,8 @@ case $build_dir in /*) ;; *) build_dir=$PWD/$build_dir ;; esac
 mkdir -p "$build_dir" 2>/dev/null && [ -w "$build_dir" ] ||
     fail "can't write to $build_dir: set BUILD_DIR to a directory for the build"
 
-# logged <file> <command...>: Runs a command with its output in $build_dir/<file>. If it fails,
-# prints the end of the output and where the rest is.
+# logged <file> <command...>: Runs a command with its output in $build_dir/<file>. If the command
+# fails, prints the end of the output and the path of the file.
 logged() {
     local log=$build_dir/$1
     shift
@@ -49,11 +50,11 @@ install_packages() {
 }
 
 # Installs the named Debian packages that are missing, as root or with sudo. On other systems,
-# prints what has to be there.
+# prints their names.
 need_packages() {
     if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
         [ -e "$build_dir/CMakeCache.txt" ] ||
-            say "not a Debian system: install what these Debian packages contain: $*"
+            say "not a Debian system: install the programs and libraries of these Debian packages: $*"
         return 0
     fi
     local package missing=()
@@ -74,7 +75,12 @@ preset_dir() {
     case $1 in release) echo "$build_dir" ;; *) echo "$build_dir-$1" ;; esac
 }
 
-configure() { (cd "$root" && cmake --preset "$1" -B "$(preset_dir "$1")" --log-level=WARNING); }
+# configure <preset>: A warning is an error if $warnings_as_errors is ON, and as before if it is not
+# set.
+configure() (
+    cd "$root" && cmake --preset "$1" -B "$(preset_dir "$1")" --log-level=WARNING \
+        ${warnings_as_errors:+"-DCMAKE_COMPILE_WARNING_AS_ERROR=$warnings_as_errors"}
+)
 
 # build <preset> [target...]
 build() {
@@ -107,7 +113,7 @@ glfw_knows_wayland() {
     pkg-config --atleast-version=3.4 glfw3 2>/dev/null || is_installed libglfw3-wayland
 }
 
-# Succeeds if there is a screen for GLFW. Turns to Xwayland if GLFW needs it.
+# Succeeds if there is a screen for GLFW. Selects Xwayland if GLFW needs it.
 have_screen() {
     [ -z "${DISPLAY:-}" ] || return 0
     [ -n "${WAYLAND_DISPLAY:-}" ] || return 1
@@ -123,7 +129,7 @@ have_screen() {
     return 1
 }
 
-# Starts a virtual screen and exports what programs need to find it. It ends with the script.
+# Starts a virtual screen and exports its DISPLAY. The screen ends with the script.
 start_screen() {
     local number_file
     number_file=$(mktemp)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Fails when a library includes upward, or a foreign header leaves the files that it stays behind."""
+"""Fails if a library includes a header of a higher one, or a file a foreign header it must not use."""
 import pathlib
 import re
 import sys
@@ -33,5 +33,5 @@ for folder in BELOW:
                 home = next((FOREIGN[f] for f in FOREIGN if other[1].startswith(f)), None)
                 if home and not re.fullmatch(home, name):
                     faults.append(f"{name} includes a foreign header: {line}")
-print("\n".join(faults) or "every include goes down")
+print("\n".join(faults) or "every include is allowed")
 sys.exit(bool(faults))

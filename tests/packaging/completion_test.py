@@ -1,16 +1,17 @@
 #!/usr/bin/env python3
-"""The completions in interactive shells: a text, the Tab key, and what the command then gets."""
+"""The completions in interactive shells: a text, the Tab key, and the arguments of the command."""
 import os
 import pty
 import select
+import sys
 import time
 import unittest
 
-from installed import SOURCE, PackagingTest, main
+from installed import SOURCE, PackagingTest
 
 FOLDER = SOURCE / "packaging/completions"
-# A function in place of the program shows its arguments; brackets are put together so that the
-# shell's echo of the definition doesn't look like them.
+# A function in place of the program prints its arguments between brackets. The definition has the
+# brackets in parts, so that the shell's echo of it is not taken for the output.
 SHELLS = {
     "bash": (("bash", "--norc", "--noprofile", "-i"),
              f". /usr/share/bash-completion/bash_completion; . {FOLDER}/zanoview3.bash; "
@@ -22,11 +23,11 @@ SHELLS = {
              f"source {FOLDER}/zanoview3.fish; "
              "function zanoview3; printf '<''%s>' $argv; echo '!''!'; end"),
 }
-ROWS = (("-wins", "-winsize"), ("-winsize ", "-winsize 800x600"), ("-framec", "-framecolor"),
-        ("-framecolor 2", "-framecolor 255,255,255,255"), ("-menu- -deb", "-menu- -debug"),
-        ("-frametype 4 ph", "-frametype 4 photo.JPG"), ("My", "My pics"),
-        ("My\\ pics/", "My pics/x y.tga"), ("photo.JPG My\\ pics/", "photo.JPG My pics/x y.tga"),
-        ("photo.JPG -wins", "photo.JPG -wins"))
+# What is typed before the Tab key, and the command's last argument.
+ROWS = (("-wins", "-winsize"), ("-winsize ", "800x600"), ("-framec", "-framecolor"),
+        ("-framecolor 2", "255,255,255,255"), ("-menu- -deb", "-debug"),
+        ("-frametype 4 ph", "photo.JPG"), ("My", "My pics"), ("My\\ pics/", "My pics/x y.tga"),
+        ("photo.JPG My\\ pics/", "My pics/x y.tga"), ("photo.JPG -wins", "-wins"))
 
 
 class Completion(PackagingTest):
@@ -41,20 +42,19 @@ class Completion(PackagingTest):
         text = b""
         while end not in text:
             self.assertTrue(select.select([self.terminal], [], [], deadline - time.monotonic())[0],
-                            f"{self.shell} gave {text}")
+                            f"the shell printed {text}")
             text += os.read(self.terminal, 4096)
-        return text
+        return text.decode().replace("\r", "").replace("\n", "")
 
-    def settle(self, wait=20):
-        """Waits, at most `wait` seconds, until the shell prints, and until it prints nothing more."""
+    def settle(self):
+        """Waits until the shell has printed something, and until it prints nothing more."""
+        wait = 20
         while select.select([self.terminal], [], [], wait)[0]:
             os.read(self.terminal, 4096)
             wait = 0.4
 
-    def check(self, shell):
-        self.need(shell)
-        self.shell = shell
-        words, setup = SHELLS[shell]
+    def test_completes(self):
+        words, setup = SHELLS[SHELL]
         child, self.terminal = pty.fork()
         if child == 0:
             os.chdir(self.folder)
@@ -66,32 +66,13 @@ class Completion(PackagingTest):
         os.write(self.terminal, (setup + "\r").encode())
         self.settle()
         for typed, expected in ROWS:
-            with self.subTest(shell=shell, typed=typed):
-                os.write(self.terminal, f"zanoview3 {typed}\t".encode())
-                self.settle()
-                os.write(self.terminal, b"\r")
-                shown = self.read(b"!!").decode().replace("\r", "").replace("\n", "")
+            with self.subTest(typed=typed):
+                os.write(self.terminal, f"zanoview3 {typed}\t\r".encode())
+                shown = self.read(b"!!")
                 words = shown[shown.index("<") + 1:shown.rindex(">")].split("><")
-                self.assertEqual([word.rstrip("/") for word in words if word], self.split(expected))
-                self.settle(wait=0.4)
-
-    @staticmethod
-    def split(expected):
-        """The words of a row; "My pics" is one of them."""
-        return [word.replace("\0", " ") for word in
-                expected.replace("My pics", "My\0pics").replace("x y", "x\0y").split()]
-
-    def test_bash(self):
-        if not os.path.exists("/usr/share/bash-completion/bash_completion"):
-            self.skipTest("bash-completion is not installed")
-        self.check("bash")
-
-    def test_zsh(self):
-        self.check("zsh")
-
-    def test_fish(self):
-        self.check("fish")
+                self.assertEqual([word.rstrip("/") for word in words if word][-1], expected)
 
 
 if __name__ == "__main__":
-    main()
+    SHELL = sys.argv.pop()
+    unittest.main(verbosity=2)

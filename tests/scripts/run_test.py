@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""scripts/run on machines of all kinds. Programs on PATH stand in for the package manager, the
-build, the screen and the viewer; the script itself is the real one."""
+"""scripts/run on machines of all kinds. Programs on PATH replace the package manager, the build, the
+screen and the viewer."""
 import os
 import pathlib
 import shutil
@@ -56,7 +56,7 @@ class Run(unittest.TestCase):
         path.chmod(0o755)
 
     def run_script(self, *words, without=(), **settings):
-        """Returns status, output, and what was called."""
+        """Returns the status, the output, and the calls of the replaced programs."""
         self.calls.write_text("")
         for name in without:
             (self.bin / name).unlink()
@@ -76,32 +76,28 @@ class Run(unittest.TestCase):
             self.assertNotIn(other, calls)
         self.assertIn(f"-B {self.build} ", calls)
 
-    def test_says_what_is_wrong(self):
+    def check_failure(self, texts, status=1, picture="a.jpg", without=(), **settings):
+        ended, output, calls = self.run_script(picture, without=without, **settings)
+        self.assertEqual(ended, status, output)
+        for text in texts:
+            self.assertIn(text, output)
+        self.assertLess(output.count("\n"), 30)
+        self.assertEqual("apt-get install" in calls, "APT_STATUS" in settings)
+
+    def test_reports_what_fails(self):
         build, nowhere = str(self.build), str(self.folder / "calls" / "below")
-        rows = (
-            ("apt-get fails", {"MISSING": "cmake", "APT_STATUS": "100", "DISPLAY": ":5"}, (), "a.jpg", 1,
-             ("noise 700", f"its output is in {build}/packages.log", "missing packages: cmake")),
-            ("the build fails", {"BUILD_STATUS": "2", "DISPLAY": ":5"}, (), "a.jpg", 1,
-             ("noise 700", f"its output is in {build}/build.log")),
-            ("no place to build", {"BUILD_DIR": nowhere}, (), "a.jpg", 1,
-             (f"can't write to {nowhere}: set BUILD_DIR",)),
-            ("dead screen", {"DISPLAY": ":77"}, (), "a.jpg", 1,
-             ("glfwInit() failed.\n==> no answer from the screen :77; for a virtual one: env -u DISPLAY",)),
-            ("no picture", {"DISPLAY": ":5"}, (), "a.gone", 1, ("no picture was shown",)),
-            ("no picture on a virtual screen", {}, (), "a.gone", 1, ("no picture was shown",)),
-            ("crash", {"DISPLAY": ":5"}, (), "a.crash", 42, ()),
-            ("crash on a virtual screen", {}, (), "a.crash", 42, ()),
-            ("no way to become root", {"MISSING": "xvfb", "USER_ID": "1000"}, ("sudo",), "a.jpg", 1,
-             ("missing packages, to be installed as root: apt-get install xvfb\n",)),
-        )
-        for name, settings, without, picture, expected, texts in rows:
-            with self.subTest(name):
-                status, output, calls = self.run_script(picture, without=without, **settings)
-                self.assertEqual(status, expected, output)
-                for text in texts:
-                    self.assertIn(text, output)
-                self.assertLess(output.count("\n"), 30)
-                self.assertEqual("apt-get install" in calls, name == "apt-get fails")
+        self.check_failure(("noise 700", f"its output is in {build}/packages.log", "missing packages: cmake"),
+                           MISSING="cmake", APT_STATUS="100", DISPLAY=":5")
+        self.check_failure(("noise 700", f"its output is in {build}/build.log"),
+                           BUILD_STATUS="2", DISPLAY=":5")
+        self.check_failure((f"can't write to {nowhere}: set BUILD_DIR",), BUILD_DIR=nowhere)
+        self.check_failure(("glfwInit() failed.\n==> no answer from the screen :77; for a virtual one: env -u",),
+                           DISPLAY=":77")
+        for screen in {"DISPLAY": ":5"}, {}:  # an empty one starts a virtual screen
+            self.check_failure(("no picture was shown",), picture="a.gone", **screen)
+            self.check_failure((), status=42, picture="a.crash", **screen)
+        self.check_failure(("missing packages, to be installed as root: apt-get install xvfb\n",),
+                           without=("sudo",), MISSING="xvfb", USER_ID="1000")
 
     def test_finds_a_screen(self):
         xwayland = subprocess.Popen(("/opt/Xwayland", "-c", "input()", "-rootless", ":6", "-auth", "key"),
@@ -125,7 +121,7 @@ class Run(unittest.TestCase):
         self.assertIn("\n-winsize XXXxYYY x\n", self.run_script("-verbose", "-h", "a.jpg", DISPLAY=":5")[1])
         self.assertIn("\ndisplay image: a.jpg\n", self.run_script("-debug", "a.jpg", DISPLAY=":5")[1])
         status, output, _ = self.run_script("a.jpg", without=("apt-get",), DISPLAY=":5")
-        self.assertEqual((status, "install what these Debian packages contain: g++" in output), (0, True))
+        self.assertEqual((status, "libraries of these Debian packages: g++" in output), (0, True))
 
 
 if __name__ == "__main__":
