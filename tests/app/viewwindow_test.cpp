@@ -247,6 +247,10 @@ TEST_F(ViewWindowTest, DragsInFramebufferPixels) {
 }
 
 TEST_F(ViewWindowTest, PagesAndKeepsTheOldPlaceIfNothingLoads) {
+    std::vector<std::string> eleven(11, "a.bmp");
+    eleven.back() = "c.bmp";
+    drop(eleven);
+    press({"Shift+Space", "Shift+Backspace"});
     drop({"a.bmp", "bad.bmp", "b.bmp", "c.bmp"});
     press({"Shift+Space", "Space", "Space", "Space", "Backspace", "Shift+Backspace"});
     press({"Shift+Backspace", "Backspace", "End", "Home"});
