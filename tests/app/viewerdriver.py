@@ -243,7 +243,8 @@ class ViewerTest(unittest.TestCase):
 
     def new_screen(self):
         """Starts a screen for this test only. Returns the server."""
-        self.addCleanup(os.environ.update, DISPLAY=os.environ["DISPLAY"])
+        display = os.environ.get("DISPLAY", "")
+        self.addCleanup(os.environ.update, DISPLAY=display)
         server = start_screen()
         self.addCleanup(server.terminate)
         return server
