@@ -132,7 +132,7 @@ bool convert_file(image2d_t& image, bmpimage2_t const& bmp, char const* file) {
     if (!is_uncompressed(libutils::itohl(header.biCompression))) {
         return false;
     }
-    bool const has_palette = bmp.palette.size() != 0;
+    bool const has_palette = !bmp.palette.empty();
     for (depth_row_t const& row : depth_rows) {
         if (row.depth != libutils::itohs(header.biBitCount)) {
             continue;

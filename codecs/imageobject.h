@@ -60,6 +60,6 @@ class image_object_t {
     unsigned long m_rightrotatecount = 0;
 };
 
-inline image_object_t::~image_object_t() {}
+inline image_object_t::~image_object_t() = default;
 
 }  // namespace libgr

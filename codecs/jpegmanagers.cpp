@@ -28,7 +28,7 @@ void src_init(j_decompress_ptr cinfo) {
 boolean src_fill_input_buff(j_decompress_ptr cinfo) {
     jpeg_memory_source_t& source = source_of(cinfo);
     ++source.fills;
-    if (source.data->size() == 0) {
+    if (source.data->empty()) {
         ERREXIT(cinfo, JERR_INPUT_EMPTY);
     }
     if (source.has_run_out() && source.in_header) {

@@ -103,7 +103,7 @@ bool describe(jpeg_bytes_t const& payload, void (marker_t::*set_buffer)(jpeg_byt
 
 /// Returns a text up to its first NUL, with control characters replaced.
 std::string printable(std::string const& text) {
-    std::string shown = text.c_str();
+    std::string shown = text.substr(0, text.find('\0'));
     std::ranges::replace_if(
         shown, [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
     return shown;

@@ -14,7 +14,7 @@ namespace libgr {
 namespace {
 
 constexpr unsigned int cube_map_side = 256;
-constexpr std::size_t cube_map_stride = cube_map_side * 3;
+constexpr std::size_t cube_map_stride = std::size_t{cube_map_side} * 3;
 
 using libutils::refuse;
 
@@ -42,12 +42,13 @@ direction3_t normal_of(unsigned char here, unsigned char right, unsigned char ab
 }
 
 constexpr int last_index = static_cast<int>(cube_map_side) - 1;
+constexpr std::size_t coordinate_count = std::size_t{cube_map_side} * 2 - 1;
 
 /// The coordinates for the indices -255 to 255. Negative indices give values down to -3.01.
 constexpr auto coordinates = [] {
-    std::array<float, 2 * last_index + 1> all{};
+    std::array<float, coordinate_count> all{};
     for (int n = -last_index; n <= last_index; ++n) {
-        all[static_cast<std::size_t>(n + last_index)] = static_cast<float>(n / 127.0 - 1.0);
+        all[static_cast<unsigned int>(n + last_index)] = static_cast<float>(n / 127.0 - 1.0);
     }
     return all;
 }();
@@ -55,7 +56,7 @@ constexpr auto coordinates = [] {
 /// Returns the direction, before normalization, of the texel at column `i` and row `j`. The photo
 /// frame depends on these values: face 3 has +1 in y, although it is the face -y.
 direction3_t face_direction(int face, int i, int j) {
-    auto const s = [](int n) { return coordinates[static_cast<std::size_t>(n + last_index)]; };
+    auto const s = [](int n) { return coordinates[static_cast<unsigned int>(n + last_index)]; };
     switch (face) {
         case 0:
             return direction3(1.0f, s(-j), s(-i));

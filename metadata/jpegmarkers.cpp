@@ -113,7 +113,7 @@ void sof0_marker_t::dump() const {
 
 bool dqt_marker_t::parse() {
     std::size_t const tables = size() / dqt_unit_size;
-    if (size() == 0 || size() % dqt_unit_size != 0 || tables > table.size()) {
+    if (empty() || size() % dqt_unit_size != 0 || tables > table.size()) {
         return report_broken();
     }
     n = static_cast<unsigned char>(tables);

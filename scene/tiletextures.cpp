@@ -91,7 +91,8 @@ void multi_texture_object_t::draw_image(libgr::position2_t const& btm_lft,
     libgr::grPrintError("after-gltexenv");
     for (std::size_t index = 0; index < m_texobjs.size(); ++index) {
         auto const c = static_cast<float>(index % m_cols);
-        auto const r = static_cast<float>(index / m_cols);
+        std::size_t const row = index / m_cols;
+        auto const r = static_cast<float>(row);
         float const tx = std::min(m_size.x - c, 1.0f);
         float const ty = std::min(m_size.y - r, 1.0f);
         libgr::grPrintError("before m_texobjs[n].Load().");

@@ -85,9 +85,10 @@ inline pixels_t pixels_of(std::string const& bytes) {
     cinfo.do_fancy_upsampling = FALSE;
     jpeg_start_decompress(&cinfo);
     pixels_t pixels{cinfo.output_width, static_cast<unsigned int>(cinfo.output_components)};
-    pixels.samples.resize(cinfo.output_height * pixels.width * pixels.components);
+    std::size_t const stride = std::size_t{pixels.width} * pixels.components;
+    pixels.samples.resize(cinfo.output_height * stride);
     while (cinfo.output_scanline < cinfo.output_height) {
-        JSAMPROW row = &pixels.samples[cinfo.output_scanline * pixels.width * pixels.components];
+        JSAMPROW row = &pixels.samples[cinfo.output_scanline * stride];
         jpeg_read_scanlines(&cinfo, &row, 1);
     }
     jpeg_destroy_decompress(&cinfo);

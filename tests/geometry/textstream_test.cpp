@@ -88,7 +88,7 @@ TEST(TextStream, ReadsAnySeparatorAndKeepsUnreadFields) {
 }
 
 TEST(TextStream, NestedReadersStopAtAWrongName) {
-    posture3w_t const given({1, 2, 3}, {4, 5, 6}, {7, 8, 9});
+    posture3w_t const given{{1, 2, 3}, {4, 5, 6}, {7, 8, 9}};
     std::istringstream pose(text(given));
     posture3w_t p{};
     EXPECT_TRUE(pose >> p);

@@ -55,7 +55,7 @@ TEST(Vector, CrossProductsAreRightHanded) {
 }
 
 TEST(Vector, RoundsToMultiplesTowardsZeroAndUpwards) {
-    position3_t const v(7.9f, -7.9f, 8);
+    position3_t const v{7.9f, -7.9f, 8};
     EXPECT_EQ(round_to_quotient(v, 2.0f), position3(6, -6, 8));
     EXPECT_EQ(roundup_to_quotient(v, 2.0f), position3(8, -6, 8));
     EXPECT_EQ(round_to_quotient(v, direction3(1, 4, 0.5f)), position3(7, -4, 8));

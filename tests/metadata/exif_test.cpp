@@ -73,7 +73,7 @@ std::pair<std::string, values_t> result_of(std::string const& payload) {
         EXPECT_EQ(std::ranges::count(text, '\n'), 1) << text;
         return std::pair(text.substr(0, text.size() - 1), values_of(app1.tiff_header));
     };
-    auto const result = parse_within('\xFF');
+    auto result = parse_within('\xFF');
     EXPECT_EQ(result, parse_within('\0')) << "bytes outside the payload were read";
     return result;
 }

@@ -27,7 +27,7 @@ std::string result_of(jpeg_bytes_t const& payload) {
     if (is_valid) {
         marker.dump();
     }
-    std::string const text = (is_valid ? "\n" : " -> ") + captured.err() + captured.out();
+    std::string text = (is_valid ? "\n" : " -> ") + captured.err() + captured.out();
     marker.clear();
     EXPECT_EQ(payload.refcount(), 1U);
     EXPECT_EQ(marker.count, M::to_end);

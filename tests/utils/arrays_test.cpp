@@ -190,7 +190,7 @@ TEST(SharedArray, ResizeChangesTheBlockForAllHandles) {
         EXPECT_TRUE(array.resize(3, 0));
         EXPECT_EQ(text(other), "012");
         EXPECT_FALSE(array.resize(0, 0));
-        EXPECT_EQ(other.size(), 0U);
+        EXPECT_TRUE(other.empty());
     }
     refvector2<unsigned char, alloc_new> array;
     ASSERT_TRUE(load(array, path, readonly));

@@ -49,6 +49,14 @@ inline std::string write_file(std::string const& path, std::string const& bytes)
     return path;
 }
 
+/// Returns `text` with all occurrences of `from` replaced.
+inline std::string replace_all(std::string text, std::string const& from, std::string const& to) {
+    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
+        text.replace(at, from.size(), to);
+    }
+    return text;
+}
+
 /// Returns the bytes of a file. If it can't be read, the test fails and the text is empty.
 inline std::string read_file(std::string const& path) {
     std::ifstream in(path, std::ios::binary);
