@@ -29,8 +29,8 @@ class glu_pixels_t {
         // pages are never touched and use no memory.
         m_begin = nullptr;
         if (m_copy.resize(room, 0)) {
-            std::memcpy(m_copy.begin() + span.first, read.begin() + span.first,
-                        span.end - span.first);
+            std::copy(read.begin() + span.first, read.begin() + span.end,
+                      m_copy.begin() + span.first);
             m_begin = m_copy.begin();
         }
     }

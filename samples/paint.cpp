@@ -51,11 +51,12 @@ void canvas_t::fill(int side, std::function<vec3(vec2 at)> const& colour) {
     in_parallel(m_height, [&](int y) {
         for (int x = 0; x < m_width; ++x) {
             vec3 sum{};
-            for (int i = 0; i < side * side; ++i) {
-                sum =
-                    sum +
-                    colour({static_cast<float>(x) + (static_cast<float>(i % side) + 0.5f) * step,
-                            static_cast<float>(y) + (static_cast<float>(i / side) + 0.5f) * step});
+            for (int row = 0; row < side; ++row) {
+                for (int column = 0; column < side; ++column) {
+                    float const dx = (static_cast<float>(column) + 0.5f) * step;
+                    float const dy = (static_cast<float>(row) + 0.5f) * step;
+                    sum = sum + colour({static_cast<float>(x) + dx, static_cast<float>(y) + dy});
+                }
             }
             at(x, y) = sum * (step * step);
         }
