@@ -27,7 +27,7 @@ void cut_exe_suffix(char* name) {
 
 /// Prints why a file was not saved. `error` is a value of errno.
 void report_unsaved(std::string const& path, int error) {
-    libutils::refuse(libutils::putname(path), ": can't be saved: ", std::strerror(error));
+    libutils::report_error(libutils::putname(path), ": can't be saved: ", std::strerror(error));
 }
 
 }  // namespace

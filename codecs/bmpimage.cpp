@@ -131,7 +131,7 @@ bool convert(bmpimage_t& bmp, image2d_t const& image) {
             return true;
         }
     }
-    return libutils::refuse("convert(to bmp): not supported format.");
+    return libutils::report_error("convert(to bmp): not supported format.");
 }
 
 bool image_bmp_t::load(image2d_t& image, char const* path) {

@@ -177,7 +177,7 @@ bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
     bool const is_turned = run_jpeg_step(read_and_write, input) && input.is_written;
     info.workspace = nullptr;  // owned by the decompressor
     if (!input.is_perfect) {
-        libutils::refuse(": transformation is not perfect");
+        libutils::report_error(": transformation is not perfect");
     }
     if (!is_turned) {
         out.clear();
@@ -190,7 +190,7 @@ bool transform(unsigned long rightrotatecount, jpegdata_t& out, jpegdata_t const
     constexpr JXFORM_CODE rotations[] = {JXFORM_NONE, JXFORM_ROT_90, JXFORM_ROT_180,
                                          JXFORM_ROT_270};
     if (rightrotatecount >= std::size(rotations)) {
-        return libutils::refuse(rightrotatecount, ": jpeg transform rightrotate count over.");
+        return libutils::report_error(rightrotatecount, ": jpeg transform rightrotate count over.");
     }
     jpeg_transform_info info;
     info.transform = rotations[rightrotatecount];

@@ -260,8 +260,8 @@ template <typename stream_t>
 bool check_if_png(char const* path, stream_t& stream) {
     if (!open_file(stream, path)) {
         int const reason = errno;
-        return libutils::refuse(libutils::putname(path), ": file open error, ",
-                                std::strerror(reason));
+        return libutils::report_error(libutils::putname(path), ": file open error, ",
+                                      std::strerror(reason));
     }
     unsigned char bytes[signature_byte_count] = {};
     stream.read(reinterpret_cast<char*>(bytes), signature_byte_count);

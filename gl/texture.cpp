@@ -168,12 +168,12 @@ bool describe_level(query_t const& query, image2d_t& img, GLint& redtype) {
     }
     GLint const redsize = ask(GL_TEXTURE_RED_SIZE, "get texture level parameter (red_size)");
     if (!image_bits_of(redsize, img.desc.bits)) {
-        return libutils::refuse("red size is not recognized.");
+        return libutils::report_error("red size is not recognized.");
     }
     img.compressed = false;
     // All component types that image_type_of accepts take 4 bytes, whatever the component size.
     if (!grAllocateForPack(img, 16)) {
-        return libutils::refuse("grTextureObject::GetTextureImage() img allocate fail.");
+        return libutils::report_error("grTextureObject::GetTextureImage() img allocate fail.");
     }
     grPixelStorePack(img.store);
     grPixelStorePack(img.window);

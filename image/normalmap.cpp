@@ -16,7 +16,7 @@ namespace {
 constexpr unsigned int cube_map_side = 256;
 constexpr std::size_t cube_map_stride = std::size_t{cube_map_side} * 3;
 
-using libutils::refuse;
+using libutils::report_error;
 
 bool has_byte_components(image2d_t const& image) {
     return image.desc.type != IMAGE_TYPE_FLOAT && image.desc.bits == IMAGE_BITS_8;
@@ -90,7 +90,7 @@ void fill_face(image2d_t& image, int face) {
 bool heightmap2normalmap(image2d_t& dst, image2d_t const& src, float) {
     if (src.compressed) {
         dst = src;
-        return refuse("normalmap(): compressed format not supported.");
+        return report_error("normalmap(): compressed format not supported.");
     }
     if (src.desc.format == IMAGE_FORMAT_RGB && has_byte_components(src)) {
         dst = src;
@@ -100,7 +100,7 @@ bool heightmap2normalmap(image2d_t& dst, image2d_t const& src, float) {
     if (!(src.desc == image_desc_t{IMAGE_FORMAT_GRAYSCALE, IMAGE_TYPE_UINT, IMAGE_BITS_8}) ||
         !heights.setimage(src) || !heights.has_all_rows()) {
         dst = src;
-        return refuse("normalmap(): image type not supported.");
+        return report_error("normalmap(): image type not supported.");
     }
     dst.m_width = src.m_width;
     dst.m_height = src.m_height;
@@ -109,7 +109,7 @@ bool heightmap2normalmap(image2d_t& dst, image2d_t const& src, float) {
     dst.store = src.store;
     unsigned long long const stride = row_stride(dst.m_width, dst.getPixelBits(), nullptr);
     if (!dst.allocate() || !rows_fit(stride, dst.m_height, dst.rowbyte(), dst.size())) {
-        return refuse("normalmap allocate() fail.");
+        return report_error("normalmap allocate() fail.");
     }
     for (unsigned long y = 0; y < heights.height; ++y) {
         unsigned char const* const row = heights.row(y);

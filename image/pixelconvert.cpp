@@ -137,7 +137,7 @@ std::array<colour_bytes_t, 256> colour_table(palette_t const& palette) {
     return table;
 }
 
-using libutils::refuse;
+using libutils::report_error;
 
 /// Returns true if the pixels can be set. Prints a line if the description isn't supported.
 bool is_paintable(image2d_t const& img) {
@@ -145,13 +145,13 @@ bool is_paintable(image2d_t const& img) {
         return false;
     }
     if (img.desc.type != IMAGE_TYPE_UINT) {
-        return refuse("not support image type.");
+        return report_error("not support image type.");
     }
     if (img.desc.bits != IMAGE_BITS_8) {
-        return refuse("not support image bits.");
+        return report_error("not support image bits.");
     }
     if (img.desc.format != IMAGE_FORMAT_RGB && img.desc.format != IMAGE_FORMAT_RGBA) {
-        return refuse("not support format.");
+        return report_error("not support format.");
     }
     return img.m_width == 0 || img.m_height == 0 || (pixels_within(img) && img.is_writable());
 }
@@ -285,13 +285,13 @@ bool addcolor(image2d_t& img, color3a_t const& color) {
 
 bool monochrome(image2d_t& dst, image2d_t const& src) {
     if (src.desc.format != IMAGE_FORMAT_RGB) {
-        return refuse(src.desc.format, ": image format is not RGB.");
+        return report_error(src.desc.format, ": image format is not RGB.");
     }
     if (src.desc.type != IMAGE_TYPE_UINT) {
-        return refuse(src.desc.type, ": image type is not UINT.");
+        return report_error(src.desc.type, ": image type is not UINT.");
     }
     if (src.desc.bits != IMAGE_BITS_8) {
-        return refuse(src.desc.bits, ": image bits is not 8.");
+        return report_error(src.desc.bits, ": image bits is not 8.");
     }
     image2d_reader_t<unsigned char> reader;
     if (!reader.setimage(src) || !reader.has_all_rows() ||

@@ -92,10 +92,10 @@ bool reduce(image2d_t& dst, image2d_t const& src, mosaic_t const* mosaic) {
     dst.m_width = src.m_width / 2;
     dst.m_height = src.m_height / 2;
     if (!dst.allocate()) {
-        return libutils::refuse("scaledown(): allocate() fail.");
+        return libutils::report_error("scaledown(): allocate() fail.");
     }
     if (!is_supported(src.desc.format, mosaic != nullptr)) {
-        return libutils::refuse("scaledown(): ", src.desc.format, ": unsupported format.");
+        return libutils::report_error("scaledown(): ", src.desc.format, ": unsupported format.");
     }
     if (dst.m_height == 0) {
         return true;

@@ -12,7 +12,7 @@ namespace libgr {
 
 namespace {
 
-using libutils::refuse;
+using libutils::report_error;
 
 using tiff_header_t = app1_marker_t::tiff_header_t;
 
@@ -86,11 +86,11 @@ bool read_exif_ifd(tiff_header_t& header) {
     }
     std::uint64_t const offset = header.tag_0th_ifd.ExifIFDPointer[0];
     if (header.size() <= offset) {
-        return refuse("exif_ifd_offset size exceed: ", offset, " > ", header.size());
+        return report_error("exif_ifd_offset size exceed: ", offset, " > ", header.size());
     }
     std::uint64_t const end = offset + plain_ifd_size(short_at(header, offset, *header.byteorder));
     if (header.size() < end) {
-        return refuse("exif ifd size exceed: ", end, " > ", header.size());
+        return report_error("exif ifd size exceed: ", end, " > ", header.size());
     }
     header.ifd_exif = ifd_at(header, offset);
     return header.parse_exif_ifd(header.ifd_exif);
@@ -104,7 +104,7 @@ bool set_gps_ifd(tiff_header_t& header) {
     // The offset isn't checked, because existing files depend on it.
     std::size_t const size = plain_ifd_size(short_at(header, offset, *header.byteorder));
     if (header.size() < size) {
-        return refuse("gps_ifd size exceed: ", size, " > ", header.size());
+        return report_error("gps_ifd size exceed: ", size, " > ", header.size());
     }
     header.ifd_gps = ifd_at(header, offset);
     return true;
@@ -135,7 +135,7 @@ void tiff_header_t::clear() {
 
 bool tiff_header_t::parse() {
     if (size() < 8) {
-        return refuse("too few tiff header size.");
+        return report_error("too few tiff header size.");
     }
     byteorderclear();
     if (is_intel()) {
@@ -143,10 +143,10 @@ bool tiff_header_t::parse() {
     } else if (is_motorola()) {
         byteorder = std::make_unique<libutils::motorola_byteorder>();
     } else {
-        return refuse("byteorder mark not recognized.");
+        return report_error("byteorder mark not recognized.");
     }
     if (short_at(*this, 2, *byteorder) != 42) {
-        return refuse("not tiff(0x00, 0x2a).");
+        return report_error("not tiff(0x00, 0x2a).");
     }
     std::uint64_t const zeroth = long_at(*this, 4, *byteorder);
     ifd_0th = ifd_at(*this, zeroth);

@@ -15,7 +15,7 @@ namespace libgr {
 
 using libutils::byteorder;
 using libutils::min2;
-using libutils::refuse;
+using libutils::report_error;
 
 jpeg_bytes_t subview(jpeg_bytes_t const& source, std::uint64_t at, std::uint64_t count) {
     std::size_t const start = min2<std::uint64_t>(at, source.size());
@@ -62,10 +62,10 @@ bool ifd_walk_t::has_entry() const {
     switch (rules.checks) {
         case ifd_checks_t::zeroth:
             return value_at() <= size ||
-                   refuse("value over, offset: ", value_at(), " ifd size: ", size);
+                   report_error("value over, offset: ", value_at(), " ifd size: ", size);
         case ifd_checks_t::exif:
             return value_at() + 4 <= size ||
-                   refuse("too few ifd area", value_at() + 4, " > ", size);
+                   report_error("too few ifd area", value_at() + 4, " > ", size);
         default:
             return value_at() <= size;
     }
@@ -78,13 +78,13 @@ bool ifd_walk_t::is_valid_range(std::uint64_t offset, std::uint64_t size) const 
         case ifd_checks_t::zeroth:
             // The end of the value isn't checked, because existing files depend on it.
             return offset <= base.size() ||
-                   refuse("value over, offset ", offset, " tiff size: ", base.size());
+                   report_error("value over, offset ", offset, " tiff size: ", base.size());
         case ifd_checks_t::exif:
-            return is_inside ||
-                   refuse("offset+size over: ", offset, ", ", size, ", tiff size: ", base.size());
+            return is_inside || report_error("offset+size over: ", offset, ", ", size,
+                                             ", tiff size: ", base.size());
         case ifd_checks_t::note:
-            return is_inside || refuse(rules.name, n, ": [", i, "]: ", offset, ", ", size,
-                                       ": app1 size: ", base.size(), " over.");
+            return is_inside || report_error(rules.name, n, ": [", i, "]: ", offset, ", ", size,
+                                             ": app1 size: ", base.size(), " over.");
         default:
             return true;
     }
@@ -132,8 +132,8 @@ bool walk_ifd(ifd_rules_t const& rules, jpeg_bytes_t const& ifd, jpeg_bytes_t co
     }
     ifd_walk_t walk{rules, ifd, base, *order, short_at(ifd, 0, *order)};
     if (rules.checks == ifd_checks_t::note && ifd.size() < ifd_size(walk.n)) {
-        return refuse(rules.name, walk.n, ": size ", ifd_size(walk.n), " over than ifd.size(",
-                      ifd.size(), ").");
+        return report_error(rules.name, walk.n, ": size ", ifd_size(walk.n), " over than ifd.size(",
+                            ifd.size(), ").");
     }
     for (; walk.i < walk.n; ++walk.i) {
         if (!walk.has_entry()) {

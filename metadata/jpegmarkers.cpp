@@ -18,7 +18,7 @@ unsigned char const zigzag_to_array[64] = {
 
 namespace {
 
-using libutils::refuse;
+using libutils::report_error;
 
 constexpr std::size_t dqt_unit_size = 1 + sizeof(zigzag_to_array);
 
@@ -36,11 +36,11 @@ unsigned short word_at(jpeg_bytes_t const& payload, std::size_t at) {
 }
 
 bool report_broken() {
-    return refuse("broken JPEG data.");
+    return report_error("broken JPEG data.");
 }
 
 bool report_invalid() {
-    return refuse("invalid JPEG data.");
+    return report_error("invalid JPEG data.");
 }
 
 /// Prints on standard output, with numbers in decimal. Pass bytes as +x: a char prints a character.
@@ -68,8 +68,8 @@ bool sof0_marker_t::parse() {
     samples = word_at(*this, 3);
     colors = (*this)[5];
     if (sample_precision != 8) {
-        return refuse("not support JPEG data. sample_precision=",
-                      static_cast<char>(sample_precision));
+        return report_error("not support JPEG data. sample_precision=",
+                            static_cast<char>(sample_precision));
     }
     if (size() < 6UL + 3UL * colors) {
         return report_broken();
@@ -122,7 +122,7 @@ bool dqt_marker_t::parse() {
         unsigned char const pq = high_nibble(unit[0]);
         unsigned char const tq = low_nibble(unit[0]);
         if (pq != 0) {
-            return refuse("not support JPEG data. DQT pq=", +pq);
+            return report_error("not support JPEG data. DQT pq=", +pq);
         }
         if (tq >= table.size()) {
             return report_invalid();
@@ -189,8 +189,8 @@ bool dht_marker_t::parse_table(jpeg_iterator& cursor) {
             unsigned char const value = *cursor;
             *entry = {code, low_nibble(value), high_nibble(value)};
             if (value > 15 && entry->run_length < 15 && entry->data_bits == 0) {
-                return refuse("huffman table error: run_length=", +entry->run_length,
-                              ", data_bits=", +entry->data_bits);
+                return report_error("huffman table error: run_length=", +entry->run_length,
+                                    ", data_bits=", +entry->data_bits);
             }
         }
         code = static_cast<unsigned short>(code << 1);
@@ -247,7 +247,8 @@ bool sos_marker_t::parse() {
     ah = high_nibble((*this)[at + 2]);
     al = low_nibble((*this)[at + 2]);
     if (ss != 0 || se != 63 || ah != 0 || al != 0) {
-        return refuse("constant value illegal. ss=", +ss, ", se=", +se, ", ah=", +ah, ", al=", +al);
+        return report_error("constant value illegal. ss=", +ss, ", se=", +se, ", ah=", +ah,
+                            ", al=", +al);
     }
     return true;
 }

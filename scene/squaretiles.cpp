@@ -18,8 +18,8 @@ namespace {
 
 namespace limits = libutils::limits;
 
-bool refuse(char const* reason) {
-    return libutils::refuse("rectangle_to_squares()", reason);
+bool report_error(char const* reason) {
+    return libutils::report_error("rectangle_to_squares()", reason);
 }
 
 /// Adds the skipped rows and pixels to the offset of the bytes, and sets the skips to 0. Some
@@ -41,10 +41,10 @@ bool cut_tile(libgr::image2d_t& tile, libgr::image2d_t& in, tile_window_t const&
     libgr::image2d_t& target = use_window ? tile : copied;
     if (!libgr::makewindow(target, in, static_cast<int>(window.x), static_cast<int>(window.y),
                            window.width, window.height)) {
-        return refuse(": makewindow() failed.");
+        return report_error(": makewindow() failed.");
     }
     if (!use_window && !libgr::copy(tile, copied)) {
-        return refuse(": copy() failed.");
+        return report_error(": copy() failed.");
     }
     if (tile.store != nullptr && tile.store->swapbytes) {
         skip_by_offset(tile);
@@ -124,7 +124,7 @@ bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsig
     trace(std::cerr, "inimg: ", in.m_width, ", ", in.m_height);
     trace(std::cerr, "maxsize: ", maxsize);
     if (in.compressed) {
-        return refuse(": compressed format not supported.");
+        return report_error(": compressed format not supported.");
     }
     auto const limit = static_cast<std::uint32_t>(std::min<unsigned long>(maxsize, UINT32_MAX));
     const tile_plan_t plan = plan_tiles(in.m_width, in.m_height, limit);
@@ -138,7 +138,7 @@ bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsig
                                    static_cast<float>(in.m_height) * scale);
     if (plan.tile == 0 || !is_plausible_plan(plan, in) || !out.allocate()) {
         out.clear();
-        return refuse(": outimg allocate failed.");
+        return report_error(": outimg allocate failed.");
     }
     for (std::uint32_t row = 0; row < out.m_rows; ++row) {
         for (std::uint32_t col = 0; col < out.m_cols; ++col) {

@@ -111,7 +111,7 @@ bool load_program(GLenum target, char const* name, char const* datapath) {
     std::string const path = find_data_file(name, datapath);
     std::vector<char> text;
     if (libutils::read_small_file(text, path.c_str()) != libutils::small_file_t::READ) {
-        return libutils::refuse(libutils::putname(path), ": read error.");
+        return libutils::report_error(libutils::putname(path), ": read error.");
     }
     auto const length = static_cast<GLsizei>(text.size());
     text.push_back('\0');

@@ -104,7 +104,7 @@ bool ViewScene::addImage(char const* path, char const* datapath) {
     struct stat status {};
     if (stat(path, &status) != 0) {
         libutils::reject_errno(errno);
-        return libutils::refuse(libutils::putname(path), ": image file not found.");
+        return libutils::report_error(libutils::putname(path), ": image file not found.");
     }
     if (!S_ISREG(status.st_mode)) {
         return libutils::reject("not a regular file");  // opening a pipe would wait for its writer
@@ -155,7 +155,8 @@ bool ViewScene::make_graph(char const* datapath) {
         if (place->make_graph(datapath)) {
             ++place;
         } else {
-            all_made = libutils::refuse(place->viewobj.path(), ": not enough texture memory.");
+            all_made =
+                libutils::report_error(place->viewobj.path(), ": not enough texture memory.");
             place = remove(place);
         }
     }

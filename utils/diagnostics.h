@@ -53,7 +53,7 @@ void clear_failure_reason();
 /// Prints the parts as one line on the error stream, with numbers in decimal, and records them as
 /// `reject` does. Always returns false, so that functions that fail can return it.
 template <typename... Parts>
-bool refuse(Parts const&... parts) {
+bool report_error(Parts const&... parts) {
     reject(parts...);
     error();
     keepflag const keep(std::cerr);

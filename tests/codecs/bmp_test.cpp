@@ -180,7 +180,7 @@ TEST(FailureReason, TheFirstReasonIsKept) {
     EXPECT_EQ(libutils::failure_reason(), "first 1");
     libutils::clear_failure_reason();
     capture_t output;
-    EXPECT_FALSE(libutils::refuse(std::string(300, 'x'), 1));
+    EXPECT_FALSE(libutils::report_error(std::string(300, 'x'), 1));
     EXPECT_EQ(libutils::failure_reason(), std::string(255, 'x'));
     EXPECT_EQ(output.err(), std::string(300, 'x') + "1\n");
 }
