@@ -28,11 +28,19 @@
 /// Copying a record never copies pixels: the copy shares them, and a change through one record is
 /// visible through the other. `copy` in image/pixelconvert.h copies the pixels. The bytes are freed
 /// with the last record that shares them. The reference counts are not atomic: use the records that
-/// share bytes from one thread only. No function of this library needs an OpenGL context.
+/// share bytes from one thread only. No function of this library needs an OpenGL context. The
+/// functions print nothing unless their comments say so. Error lines go to std::cerr.
 ///
 /// image/pixelconvert.h converts, rotates and windows pictures, image/scaledown.h halves them,
-/// image/samples.h widens samples, image/repeatedges.h enlarges a picture by its edges, and
-/// image/normalmap.h computes normal maps.
+/// image/samples.h widens samples, image/repeatedges.h enlarges pictures by repeating their edges,
+/// and image/normalmap.h computes normal maps.
+///
+/// To convert the picture of a decoder to RGBA with 8-bit components, call `widen_samples`,
+/// `index2rgb`, `bgr2rgb` and `rgb2rgba` in this order, each with a new destination. Ignore the
+/// result of `bgr2rgb`: `rgb2rgba` returns false if its source isn't RGB or RGBA with 8-bit
+/// components. No function converts GRAYSCALE, GRAYSCALE_ALPHA, components of 16 bits or packed
+/// pixels to RGBA. An 8-bit GRAYSCALE picture can be converted as an INDEX picture: before
+/// `index2rgb`, set its format to IMAGE_FORMAT_INDEX and fill its palette with 256 grays.
 
 #include <iosfwd>
 
@@ -74,8 +82,11 @@ enum e_image_type_t : unsigned int {
     IMAGE_TYPE_MAX,  ///< the number of types
 };
 
-/// The number of bits of each component. From R3G3B2 on, the numbers of bits of the components of a
-/// packed pixel.
+/// The number of bits of each component. Components of 12 bits are counted without padding.
+///
+/// Values from IMAGE_BITS_R3G3B2 on are packed pixels; the name lists the bits of each component.
+/// From IMAGE_BITS_R3G3B2 to IMAGE_BITS_R10G10B10A2, the first component of the format has the
+/// lowest bits: red for RGBA, and blue for BGRA.
 enum e_image_bits_t : unsigned int {
     IMAGE_BITS_1,
     IMAGE_BITS_2,
@@ -142,8 +153,8 @@ struct image_desc_t {
     e_image_bits_t bits;
 
     /// Returns the size, in bits, of one pixel. For packed pixels the format doesn't matter.
-    /// Returns 0 for IMAGE_BITS_D24S8, which has no size in `s_image_bits_list` because callers
-    /// rely on the 0, and for values outside the tables.
+    /// Returns 0 for values outside the tables and for IMAGE_BITS_D24S8. The size of D24S8 in
+    /// `s_image_bits_list` is 0; callers rely on this.
     unsigned long long getPixelBits() const;
 };
 
@@ -192,9 +203,9 @@ struct palette_t {
 
     /// Sets the number of entries. The old entries are kept as far as they fit, and new ones are 0.
     ///
-    /// Returns true if `n` is not 0, even if there is no memory, because callers check nothing
-    /// else. An array without memory for the entries is unchanged: compare an index with `count()`
-    /// of each array, and not with `size`, before you read an entry.
+    /// Returns false only if `n` is 0. The result doesn't report a lack of memory. If an array
+    /// can't be resized, it keeps its old entries. Before you read an entry, compare its index with
+    /// the `count()` of that array, not with `size`.
     bool resize(unsigned long n);
     /// Releases all entries.
     void clear();
@@ -235,8 +246,8 @@ struct image2d_t : image_bytes_t {
     image_desc_t desc{};
     image_store_t const* store = nullptr;  ///< not owned; null means native order, alignment 4
     image_window2d_t window;
-    unsigned int m_width = 0;   ///< in pixels, without the rest of the larger picture
-    unsigned int m_height = 0;  ///< in rows, without the rest of the larger picture
+    unsigned int m_width = 0;   ///< in pixels, of the window only
+    unsigned int m_height = 0;  ///< in rows, of the window only
     bool compressed = false;    ///< true if the bytes are the compressed data of a texture
     palette_t palette;          ///< the colours of an IMAGE_FORMAT_INDEX image, else empty
 
@@ -257,7 +268,11 @@ struct image2d_t : image_bytes_t {
 
     /// Allocates `window.skiprows + m_height` rows of `rowsize()` bytes. Set the description,
     /// sizes, store and window before. The pixels are undefined afterwards. Records that shared the
-    /// old bytes keep them. Returns false, without a change, if there is no memory.
+    /// old bytes keep them.
+    ///
+    /// The size isn't limited. Returns false, without a change, if it overflows or if there is no
+    /// memory. If it is 0, because a size or `getPixelBits()` is 0, returns true and the record has
+    /// no bytes.
     bool allocate();
 
     /// Releases the bytes and the palette and sets the sizes to 0. The description, store, window
@@ -285,7 +300,8 @@ unsigned long long row_stride(unsigned long long pixels, unsigned long long pixe
 /// Returns true if the bytes of the record contain all its pixels, with `pixelbits` bits each, at
 /// the positions given by its store and window. `pixelbits` is a parameter because OpenGL uses the
 /// size of its own pixel type, whatever the description says. A record without pixels is accepted,
-/// and a compressed one is rejected. The arithmetic doesn't overflow.
+/// and a compressed one is rejected. A row may extend beyond the row length of its window if the
+/// bytes suffice. The arithmetic doesn't overflow.
 bool pixels_within(image1d_t const& image, unsigned long long pixelbits);
 bool pixels_within(image2d_t const& image, unsigned long long pixelbits);
 bool pixels_within(image3d_t const& image, unsigned long long pixelbits);

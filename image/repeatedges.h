@@ -7,12 +7,12 @@
 namespace libgr {
 
 /// Copies `src` into the lower left corner of a picture of `width` by `height` pixels and repeats
-/// its last column and its top row in the rest. `dst`, which must not be `src`, gets bytes of its
-/// own, and the description, store and palette of `src`.
+/// its last column and its top row in the rest. `dst`, which must not be `src`, gets newly
+/// allocated bytes, the description, store and palette of `src`, and no window.
 ///
 /// Returns false, with `dst` unchanged, if
 ///   - `width` or `height` is smaller than that of `src`,
-///   - `src` is compressed, has no pixels, or has bytes for only a part of its pixels,
+///   - `src` is compressed, has no pixels, or has bytes for only some of its pixels,
 ///   - the size of a pixel is not a multiple of 8 bits,
 ///   - there is no memory.
 bool repeat_edges(image2d_t& dst, image2d_t const& src, unsigned int width, unsigned int height);

@@ -9,12 +9,17 @@
 namespace libgr {
 
 /// Converts samples of 16 bits, and packed pixels of 16 bits, from the byte order of a file to the
-/// machine's order, in place. An image of any other size, or in the machine's order, is unchanged.
+/// machine's order. Images with other component sizes are unchanged, as are all images if `order`
+/// is the order of the machine.
 ///
-/// OpenGL could swap the bytes by GL_UNPACK_SWAP_BYTES, but GLU writes the mipmaps of these images
-/// with the bytes in the wrong order.
+/// The bytes are swapped in place, so records that share them change, too. They must be writable.
+/// `swapbytes` of the store is ignored and not changed. A second call swaps the bytes back.
 ///
-/// Returns false if the pixels are not in the image's bytes.
+/// Use this instead of GL_UNPACK_SWAP_BYTES: with that, GLU generates mipmaps with the wrong byte
+/// order.
+///
+/// Returns false, without a change, if the bytes must be swapped and the image is compressed or has
+/// bytes for only some of its pixels.
 bool to_machine_order(image2d_t& image, std::endian order);
 
 /// Returns sample `x` of a row of samples of 1, 2, 4 or 8 bits each. The first sample of a byte is
@@ -25,12 +30,15 @@ inline unsigned int packed_sample(unsigned char const* row, unsigned long long b
     return (row[position / 8] >> (8 - bits - position % 8)) & ((1U << bits) - 1U);
 }
 
-/// Converts gray of 1, 2 and 4 bits to gray of 8 bits, with the range scaled so that the lowest
-/// value stays black and the highest becomes white, and indices of 2 bits to indices of 8 bits,
-/// which share the palette. An image of any other description is shared.
+/// Converts 1, 2 and 4-bit unsigned grayscale to 8 bits and scales the range: 0 stays black and the
+/// highest value becomes white. Converts 2-bit indices to 8-bit indices; the palette is shared. An
+/// image of any other description is shared.
 ///
-/// The source, which must not be the destination, is read through its window and store. Returns
-/// false if there is no memory for the pixels or the source's pixels are not in its bytes.
+/// `src`, which must not be `dst`, is read through its window and store. The window and store of
+/// `dst` are kept and used. Returns false if pixels must be converted and `src` is compressed or
+/// has bytes for only some of its pixels, if there is no memory, or if the pixels don't fit into
+/// the window of `dst`. `dst` then has the new description and sizes, and no bytes or undefined
+/// pixels.
 bool widen_samples(image2d_t& dst, image2d_t const& src);
 
 }  // namespace libgr
