@@ -34,8 +34,8 @@ inline constexpr std::array<libgr::texcoord2_t, 8> texcoords_frame{{{0.0f, 0.0f}
                                                                     {0.0f, 1.0f},
                                                                     {0.25f, 0.75f}}};
 
-/// The indices of a quad strip. In each pair, the inner corner comes first: so the quads are
-/// counter-clockwise and aren't culled as back faces.
+/// The indices of a quad strip. The inner corner comes first in each pair, which makes the quads
+/// counter-clockwise. So they aren't culled as back faces.
 inline constexpr std::array<unsigned char, 10> elements{1, 0, 3, 2, 5, 4, 7, 6, 1, 0};
 
 }  // namespace zanolib

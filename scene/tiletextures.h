@@ -22,10 +22,12 @@ struct multi_texture_object_t {
     libgr::texparameter2d_t const* m_texparm = nullptr;  ///< not owned
     std::uint32_t m_cols = 0;
     std::uint32_t m_rows = 0;
-    libgr::direction2_t m_size{0.0f, 0.0f};  ///< the size of the picture, in sides of a tile
+    /// The size of the picture, where 1 is the side of one tile.
+    libgr::direction2_t m_size{0.0f, 0.0f};
 
     /// Sets the filters and wrap modes that `draw_image` sets for each tile. `parm` must outlive
-    /// this object, and may change between calls of `draw_image`.
+    /// this object, and may change between calls of `draw_image`. Without this call, or after null,
+    /// `draw_image` doesn't set them. New textures have OpenGL's defaults.
     void setTexParm(libgr::texparameter2d_t const* parm) { m_texparm = parm; }
     /// Creates the OpenGL textures and uploads the tiles. Returns false, without textures, if there
     /// is no memory for all of them. Needs a current context.
@@ -33,8 +35,8 @@ struct multi_texture_object_t {
     /// Deletes the OpenGL textures, unless a copy of this object uses them. Needs a current
     /// context.
     void Unload();
-    /// Returns true if all textures that are loaded are resident, and also if none is loaded. Needs
-    /// a current context.
+    /// Returns true if every loaded texture is resident, or if no texture is loaded. Needs a
+    /// current context.
     [[nodiscard]] bool isResident() const;
     /// Draws the picture as the rectangle from `btm_lft` to `top_rit` in the plane z = 0, with its
     /// front toward +z. Light and the current colour don't change the colours of the picture. Draws
@@ -46,9 +48,9 @@ struct multi_texture_object_t {
 /// share the pixels of the tiles. Creates no OpenGL object, but `gl_extloader_init` must have been
 /// called. Always returns true.
 ///
-/// If GLU is to build the mipmaps (see `isBuiltByGLU` in gl/texture2d.h), it would stretch a tile
-/// that fills only a part of its texture. This tile is copied into a full square, and its edges
-/// are repeated. If there is no memory for the square, the tile is stretched.
+/// When GLU builds the mipmaps (see `isBuiltByGLU` in gl/texture2d.h), it stretches tiles that fill
+/// only a part of their texture. To avoid this, each of these tiles is copied into a full square
+/// and its edge pixels are repeated. If there is no memory for the square, the tile is stretched.
 bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const& in);
 
 }  // namespace zanolib

@@ -26,8 +26,14 @@ enum e_frametype_t : unsigned int {
 /// `Draw` as often as needed, `free_graph`, and `destroy` (once).
 ///
 /// All frames share one set of OpenGL textures and programs. `make_graph` creates the objects that
-/// the look needs, and `free_graph` releases it for all frames of that look. Call `free_graph` of
-/// one frame before `make_graph` of another.
+/// the look needs. `free_graph` deletes the programs for all frames. The textures remain for the
+/// next `make_graph`, which uploads them again.
+///
+/// Call `free_graph` of one frame before `make_graph` of another. `make_graph` always creates new
+/// programs and overwrites the names of the old ones, which can't be deleted afterwards. ViewScene
+/// doesn't follow this rule if it has several pictures. After `free_graph`, frames that use the
+/// programs aren't drawn, and OpenGL reports GL_INVALID_OPERATION, until the next `make_graph` of
+/// any of them. Frames of other looks and paths are still drawn.
 ///
 /// The bump-mapped looks use the first of these paths that the context supports:
 ///
@@ -37,9 +43,11 @@ enum e_frametype_t : unsigned int {
 ///              GL_ARB_multitexture
 ///   plain      none: a lit texture without bumps
 ///
-/// The files are hairline.bmp, flower.bmp, bumpmapv.vp1 and bumpmapf.fp1. Each is searched in the
-/// working directory, in `datapath` and in `zanolib::site_directory` (options/option.h). The sides
-/// of the pictures must be powers of two.
+/// The files are hairline.bmp, flower.bmp, bumpmapv.vp1 and bumpmapf.fp1. Each file is searched
+/// for in the working directory, then in `datapath`, then in `zanolib::site_directory`
+/// (options/option.h). hairline.bmp must have 8 bits per pixel, otherwise `init` prints an error
+/// line. If OpenGL is older than 2.0, the sides of the pictures must be powers of two. The sides
+/// aren't checked.
 class ViewFrame : public libgr::grObject3D {
   public:
     ViewFrame() = default;
@@ -49,8 +57,9 @@ class ViewFrame : public libgr::grObject3D {
 
     /// Loads the pictures that all frames share, unless they are loaded. `datapath` is put in front
     /// of the names of the files, so it must end in "/". If a file is missing or damaged, its
-    /// texture stays empty. Creates no OpenGL object, but `gl_extloader_init` must have been
-    /// called.
+    /// texture stays empty and the frame is drawn without it. No error line is printed, unless the
+    /// picture exceeds the limit `picture_memory` (utils/limits.h). Creates no OpenGL object, but
+    /// `gl_extloader_init` must have been called.
     static void init(char const* datapath);
     /// Releases the pictures that `init` loaded.
     static void destroy();
@@ -62,7 +71,7 @@ class ViewFrame : public libgr::grObject3D {
     /// Creates the OpenGL objects of the look. If a program is missing or has an error, prints an
     /// error line and uses the next path. Needs a current context.
     void make_graph(char const* datapath);
-    /// Releases the OpenGL objects of the look. Needs a current context.
+    /// Deletes the programs of the look and unbinds its textures. Needs a current context.
     void free_graph();
 
     using grObject3D::Draw;

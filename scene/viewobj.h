@@ -16,13 +16,14 @@
 
 namespace zanolib {
 
-/// Returns the path of the snapshot of a picture: "dir/name.zvw.jpg" for "dir/name.png". For the
-/// limits of its length see `libutils::path_beside` in utils/path.h.
+/// Returns the path of the snapshot of a picture: "dir/name.zvw.jpg" for "dir/name.png". See
+/// `libutils::path_beside` (utils/path.h) for the maximum length.
 std::string make_snapshotpath(char const* picture);
 
 /// One picture. It is drawn in the plane z = 0, centred on the origin, with one unit for each
 /// pixel. Its pixels are never scaled or rotated: the view matrix of ViewScene does this. The order
-/// of calls is `setImage`, `load_texture`, `Draw` and `free_texture`.
+/// of calls is `setImage`, `load_texture`, `Draw` and `free_texture`. All objects share one set of
+/// codecs without locks: call `setImage` of all objects from one thread only.
 class ViewObject : public libgr::grObject3D {
   public:
     ViewObject();
@@ -41,15 +42,21 @@ class ViewObject : public libgr::grObject3D {
     /// indices to RGB, gray of less than 8 bits to gray of 8 bits, and wider samples to the byte
     /// order of the machine. `datapath` is ignored.
     ///
-    /// Returns false, without a line except those of the codec, if no codec has the extension, the
-    /// codec fails, the picture has no pixels or a side of 2^31 pixels or more, or a conversion
-    /// fails. If the picture can't be cut, prints an error line and returns true, and nothing will
-    /// be drawn. Needs a current context, but creates no OpenGL object.
+    /// Returns false if no codec has the extension, the codec fails, the picture has no pixels or a
+    /// side of 2^31 pixels or more, or a conversion fails. Only the codec prints an error line. If
+    /// the picture can't be cut, prints an error line and returns true, and `Draw` draws nothing.
+    /// Needs a current context, but creates no OpenGL object.
     bool setImage(char const* path, char const* datapath);
 
     /// Saves the contents of the window, including the frame, as a JPEG file. Its path is the
-    /// snapshot path of `path`, and it replaces an old snapshot. On failure, returns false, sets
-    /// errno, and leaves an old snapshot unchanged. Needs a current context.
+    /// snapshot path of `path`, and it replaces an old snapshot.
+    ///
+    /// The front buffer is read, so the frame must have been swapped. If all its pixels are black,
+    /// the back buffer is read instead, because some drivers can't read the front buffer. To
+    /// support them, draw the frame again before the call and don't swap the buffers.
+    ///
+    /// On failure, returns false, sets errno, and leaves an old snapshot unchanged. errno is
+    /// ENODATA if the viewport is empty. Needs a current context.
     bool saveImage(char const* path);
 
     /// Creates the textures of the tiles unless they exist. Returns false, without textures, if

@@ -20,8 +20,8 @@
 ///
 ///   1. Create a context, make it current, and call `gl_extloader_init` (glext/glextloader.h).
 ///   2. `Init`, once.
-///   3. `addImage` and `make_graph`, for each picture. `delImage` before the next picture if only
-///      one is needed.
+///   3. `addImage` and `make_graph`. To show one picture at a time, call `delImage` before you add
+///      the next one.
 ///   4. `Reshape` after the size of the framebuffer or the picture changed.
 ///   5. `Display` for each frame, and then swap the buffers.
 ///   6. `Destroy`, once.
@@ -48,9 +48,9 @@ namespace zanolib {
 ///
 /// Each picture has a view matrix M, with row vectors as in geometry/matrix.h. One unit is one
 /// pixel of the picture. With the identity, one pixel of the picture is one pixel of the window,
-/// and the picture is centred. Each view operation multiplies M by its matrix from the right. So
-/// the newest operation is applied last: x is to the right and y up on the screen, the origin is
-/// the centre of the window, and rotations and zooms change the position of a picture that was
+/// and the picture is centred. Each view operation multiplies M from the right, so the newest
+/// operation is applied last. It works in screen axes: x points right, y points up, and the origin
+/// is the centre of the window. So rotations and zooms change the position of a picture that was
 /// moved before. Without a current picture, the view operations have no effect. None of them needs
 /// a context.
 class ViewScene {
@@ -68,8 +68,9 @@ class ViewScene {
         /// Copies only empty objects correctly: the nodes of a copy point to those of the original.
         obj_t(obj_t const&) = default;
         obj_t& operator=(obj_t const&) = delete;
-        /// Deletes the OpenGL objects. A scene may outlive its context: the loader never closes
-        /// libGL, and calls without a current context have no effect in GLVND and Mesa.
+        /// Deletes the OpenGL objects. A scene can be destroyed after its context, because OpenGL
+        /// calls without a current context have no effect in GLVND and Mesa, and libGL stays
+        /// loaded.
         ~obj_t() { free_graph(); }
 
         /// Loads the picture and sets up the frame. Returns false if the picture can't be loaded or
@@ -93,20 +94,23 @@ class ViewScene {
     void Destroy();
 
     /// Loads the picture at `path` and appends it to the list. If there is no current picture, the
-    /// first of the list becomes current. Then the current picture is rotated as the orientation in
-    /// its file says: add pictures only to an empty list, or the current one is rotated again.
+    /// first of the list becomes current. Then the current picture, which isn't always the new one,
+    /// is rotated to the orientation stored in its file. If the list wasn't empty, the current
+    /// picture is rotated again: call `Origin` to reset its view. To show the new picture, call
+    /// `setCurrent` with its index, and then `Origin`, which rotates it to its orientation.
     /// `datapath` is ignored. Needs a current context.
     ///
     /// Returns false, without a change of the list, if the file doesn't exist, isn't a regular file
     /// or can't be loaded, or if there is no memory. Prints an error line if the file doesn't
-    /// exist. The codecs print their own lines.
+    /// exist. The codecs print their own lines. If the picture can't be cut into tiles, prints an
+    /// error line and returns true, and only its frame is drawn.
     bool addImage(char const* path, char const* datapath);
     /// Removes the current picture. The next one becomes current, or the last if there is no next
     /// one. Returns false if there is no current picture. Needs a current context if the OpenGL
     /// objects exist.
     bool delImage();
-    /// Makes the picture with the index `n`, counted from 0, the current one. If there are not more
-    /// than `n` pictures, there is no current picture afterwards.
+    /// Makes the picture with the index `n`, counted from 0, the current one. If `n` is out of
+    /// range, no picture is current afterwards.
     void setCurrent(unsigned long n);
     /// Creates the OpenGL objects of all pictures. `datapath` is as in `Init`. A picture for which
     /// OpenGL has no memory is removed, and an error line is printed. Returns false if any was
@@ -130,10 +134,13 @@ class ViewScene {
     /// Multiplies the view matrix by `m`. It doesn't replace the view.
     void Matrix(libgr::matrix3w_t const& m);
     /// Takes back half of the rotation, about the centre of the window: 80 degrees become 40, and
-    /// 20 after another call. It is half because `libgr::getRotation3` returns half the angle, and
-    /// users rely on it. `Origin` takes back the whole rotation.
+    /// 20 after another call. This is a known quirk: `libgr::getRotation3` returns half the angle,
+    /// and users rely on the result. `Origin` takes back the whole rotation. Has no effect if the
+    /// determinant of the view matrix isn't positive.
     void clrRotate();
-    /// Takes back the zoom, about the centre of the window.
+    /// Takes back the zoom, about the centre of the window. If the determinant of the view matrix
+    /// isn't positive, for example after `Scale` by a negative factor, the view matrix contains
+    /// NaNs or infinities afterwards. `Origin` repairs it.
     void clrZoom();
     /// Moves the picture back to the centre of the window.
     void clrMove();
@@ -152,16 +159,17 @@ class ViewScene {
     /// Returns the number of quarter turns clockwise that bring the current picture upright, or 0
     /// if there is none.
     [[nodiscard]] unsigned long rightrotatecount() const;
-    /// Saves the contents of the window as a JPEG file: see `ViewObject::saveImage`. On failure, or
-    /// if there is no current picture, returns false and sets errno. Needs a current context.
+    /// Saves the contents of the window as a JPEG file. See `ViewObject::saveImage` for the buffer
+    /// that is read. On failure, returns false and sets errno, to ENODATA if there is no current
+    /// picture. Needs a current context.
     bool saveImage(char const* path);
 
     /// Draws the background and the current picture. Doesn't swap the buffers. Needs a current
     /// context.
     void Display() const;
-    /// Sets the viewport and the projection for a framebuffer of `width` by `height` pixels, or of
-    /// GL_MAX_VIEWPORT_DIMS if that is smaller. Leaves the matrix mode at GL_PROJECTION. Needs a
-    /// current context.
+    /// Sets the viewport and the projection for a framebuffer of `width` by `height` pixels. Each
+    /// is limited to GL_MAX_VIEWPORT_DIMS. Leaves the matrix mode at GL_PROJECTION. Needs a current
+    /// context.
     void Reshape(unsigned long width, unsigned long height);
 
   private:
