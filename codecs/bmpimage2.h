@@ -9,20 +9,20 @@
 
 namespace libgr {
 
-/// Four views of the mapping of a BMP file. Each ends at the end of the mapping at the latest.
+/// Four views of the mapping of a BMP file. No view extends past the end of the mapping.
 struct bmpimage2_t {
     template <typename T>
     using view_t = libutils::ofsvector<T, libutils::alloc_mmap_unix>;
 
     view_t<libutils::tagBITMAPFILEHEADER> fileheader;
     view_t<libutils::tagBITMAPINFOHEADER> infoheader;
-    /// The number of elements is the size of the palette in bytes, which makes palettes four times
-    /// too long. Callers depend on it.
+    /// The view has one element for each byte of the palette instead of one for each entry, so it
+    /// is four times too long. Callers depend on this.
     view_t<libutils::tagRGBQUAD> palette;
     image_bytes_t pixels;
 
     /// Maps the file read-only and sets the views. Checks no field. Returns false if the file
-    /// cannot be mapped or has less than 14 bytes.
+    /// cannot be mapped or has less than 14 bytes. `app` is ignored and may be null.
     bool load(char const* path, libutils::android_app* app);
 };
 
@@ -33,7 +33,8 @@ struct bmpimage2_t {
 /// Returns false without a message for compressed files, for depths other than 1, 4, 8, 24 and 32
 /// bits, for 32 bits with a palette, and for files with less than one row of pixels. Returns false
 /// with a line on std::cerr if the size exceeds the limit picture-memory or bmp-ratio
-/// (utils/limits.h). The negative height of a file with the top row first counts as a large one.
+/// (utils/limits.h). Heights are read as unsigned, so a file with the top row first (negative
+/// height) usually exceeds one of these limits.
 bool convert(image2d_t& image, bmpimage2_t const& bmp);
 
 /// The codec that uses bmpimage2_t. It cannot write.

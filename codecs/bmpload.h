@@ -14,8 +14,10 @@ namespace libgr {
 ///
 /// Returns false without a message if the file cannot be opened, is not an uncompressed BMP, has 16
 /// bits per pixel or ends within its headers. Returns false with a line on std::cerr if the pixels
-/// exceed the limit picture-memory (utils/limits.h). Returns true for a file that ends within its
-/// pixels; the missing bytes are 0.
+/// exceed the limit picture-memory (utils/limits.h). The height is read as unsigned, so a file with
+/// the top row first (negative height) usually exceeds this limit. Returns true for a file that
+/// ends within its pixels; the missing bytes are 0. Also returns true, but `image` gets no pixels,
+/// for less than 8 bits per pixel.
 bool BmpLoad(image2d_t& image, char const* path, e_image_format_t format);
 
 }  // namespace libgr

@@ -10,8 +10,8 @@
 namespace libgr {
 
 /// Reads both headers from a stream at the start of a file and seeks to the pixels. Returns false
-/// if the file ends within its headers or before its pixels, or does not begin with "BM". The
-/// headers contain the bytes that were read also then.
+/// if the file ends within its headers or before its pixels, or does not begin with "BM". On
+/// failure, the headers contain the bytes read so far.
 bool read_bmp_headers(std::istream& stream, libutils::tagBITMAPFILEHEADER& fileheader,
                       libutils::tagBITMAPINFOHEADER& infoheader);
 

@@ -47,18 +47,23 @@ class jpeginfo_t {
     unsigned long height = 0;     ///< pixels, from the last header read
     std::list<marker_t> markers;  ///< APPn and COM in file order; `compress` writes them
 
-    /// Decodes `data` into `image`, bottom row first, without a copy, and keeps the complete
-    /// markers. The format is RGB or GRAYSCALE with 8 bits.
+    /// Decodes `data`, bottom row first, directly into the memory of `image`, and stores the
+    /// markers in `markers`, without empty and truncated ones. The format is RGB or GRAYSCALE with
+    /// 8 bits.
     ///
-    /// If `square_unit` is not 0, the memory of the image is a square. Its side is the longer side
-    /// of the picture, rounded up to a multiple of `square_unit`, and the other pixels are 0. With
-    /// `border`, the memory has a margin of one pixel in `border_color` around the picture.
+    /// If `square_unit` is not 0, the image memory is a square whose side, in pixels, is the longer
+    /// side of the picture, rounded up to a multiple of `square_unit`. Without `border`, the other
+    /// pixels are 0. With `border`, the side is 2 pixels longer, `window.skiprows` is 1, and a
+    /// frame of one pixel in `border_color` is painted as if the picture began in row 1 and
+    /// column 1. The picture is then decoded to row 0 and column 0 and overwrites a part of the
+    /// frame. With `border` and a `square_unit` of 0, the side is the width plus 2, and rows that
+    /// do not fit are dropped.
     ///
-    /// Returns true if at least a part was decoded. A line on std::cerr reports an incomplete
-    /// picture; its missing rows are 0 if the image was empty. Returns false with an error line for
-    /// a damaged header, and if the picture or the square exceeds the limit jpeg-ratio or
-    /// picture-memory (utils/limits.h). Returns false without a line for other colours, such as
-    /// CMYK.
+    /// Returns true if the header is valid, even if some or all rows cannot be decoded. A line on
+    /// std::cerr reports missing rows; they are 0 if the image was empty. Returns false with an
+    /// error line for a damaged header, and if the picture or the square exceeds the limit
+    /// jpeg-ratio or picture-memory (utils/limits.h). Returns false without a line for other
+    /// colours, such as CMYK.
     bool decompress(image2d_t& image, jpegdata_t const& data, unsigned short square_unit,
                     bool border, color3ub_t const& border_color);
 
@@ -68,8 +73,8 @@ class jpeginfo_t {
     /// too few bytes, and EINVAL or ENOMEM, after an error line, if libjpeg fails.
     bool compress(jpegdata_t& data, image2d_t const& image, int quality, bool force_baseline);
 
-    /// Reads only the header: `width`, `height`, and all markers, including empty and cut ones.
-    /// Returns false with an error line if it is damaged.
+    /// Reads only the header: `width`, `height`, and all markers, including empty and truncated
+    /// ones. Returns false with an error line if the header is damaged.
     bool analyze_markers(jpegdata_t const& data);
 
     /// Returns the payload of the first marker with this number, or empty bytes. The payload is

@@ -8,8 +8,8 @@
 
 namespace libgr {
 
-/// The blocks that a decompressor has read. A file of several scans can read the whole picture
-/// again and again.
+/// Counts the blocks that a decompressor has read. This is limited because each scan can read the
+/// whole picture again.
 struct work_limit_t {
     jpeg_progress_mgr base{};
     jpegdata_t const* data = nullptr;
@@ -19,8 +19,8 @@ struct work_limit_t {
     bool is_reported = false;  ///< an error line has been printed
     int last_scan = 0;         ///< the scan after which decoding always ends, or 0
     std::uint64_t blocks = 0;  ///< read so far, in all scans
-    int scan = 0;              ///< the scan and
-    JDIMENSION row = 0;        ///< the row of iMCUs that were counted last
+    int scan = 0;              ///< the scan that was counted last
+    JDIMENSION row = 0;        ///< the iMCU row that was counted last
 };
 
 /// Stops the decompressor when the scans of `data` exceed the limit jpeg-scans or jpeg-blocks.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The error, source and destination managers for libjpeg. The JPEG sources include jpeglib.h here.
+// The error, source and destination managers for libjpeg. Include this header instead of jpeglib.h.
 #pragma once
 
 #include <csetjmp>
@@ -11,7 +11,8 @@
 
 namespace libgr {
 
-/// An error manager that leaves libjpeg by a jump. libjpeg's own one ends the process.
+/// An error manager that leaves libjpeg with longjmp. The default manager of libjpeg ends the
+/// process.
 struct my_error_mgr {
     jpeg_error_mgr base;
     std::jmp_buf jump;
@@ -41,8 +42,9 @@ template <typename state_t>
 /// A source manager that delivers the whole of `data`.
 ///
 /// The first fill delivers the file. A file that ends within its header is an error. Later fills
-/// deliver the file again from its first byte: the decoder finds a marker in entropy-coded data and
-/// continues with the data that it has. In two cases, later fills deliver an end-of-image marker:
+/// deliver the file again from its first byte, so that the decoder finds a marker in the
+/// entropy-coded data and continues with the data it has. In two cases, later fills deliver an
+/// end-of-image marker:
 /// - if the file has several scans. All scans are read before the first row, and the start of the
 ///   file would be an error there.
 /// - if all rows have been decoded. A segment that is longer than the rest of the file would

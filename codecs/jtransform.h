@@ -23,8 +23,8 @@ namespace libgr {
 // called.
 //
 // An iMCU (interleaved minimum coded unit, ITU-T T.81, A.2) is the smallest part of a picture that
-// can be moved. Each side has 8 samples times the largest sampling factor. In a picture with one
-// component, it has 8 by 8 samples.
+// can be moved. Its width is 8 samples times the largest horizontal sampling factor; its height
+// likewise. In a picture with one component, it has 8 by 8 samples.
 
 enum JXFORM_CODE {
     JXFORM_NONE = 0,        ///< copy
@@ -45,7 +45,7 @@ enum JCROP_CODE {
     JCROP_POSITIVE = 1,  ///< a size, or an offset from the left or the top
     JCROP_NEGATIVE = 2,  ///< an offset from the right or the bottom
     JCROP_FORCED =
-        3,  ///< a size that is not rounded; blocks outside of the picture get its nearest mean
+        3,  ///< a size used as given; blocks outside the picture get the mean of the nearest block
     JCROP_REFLECT = 4,  ///< a size; the area outside of the picture gets mirror images of it
 };
 
@@ -58,7 +58,8 @@ enum JCOPY_OPTION {
     JCOPY_ICC = 4,             ///< APP2
 };
 
-/// One request. Sizes and offsets are in samples of the output, from its left and its top.
+/// One request. Sizes and offsets are in samples of the output. Offsets are from the left and top
+/// unless they are JCROP_NEGATIVE.
 struct jpeg_transform_info {
     JXFORM_CODE transform = JXFORM_NONE;
     bool perfect = false;          ///< fail if a part of the picture cannot be moved
@@ -96,10 +97,11 @@ struct jpeg_transform_info {
 /// Computes the sizes and the crop, and requests the workspace, which libjpeg allocates and owns.
 ///
 /// The offset of a crop is rounded down to a whole iMCU. The size grows by the same amount, so that
-/// the right and the lower edge do not move, unless the size is JCROP_FORCED. The region must be
-/// inside of the output, unless its size is JCROP_FORCED or JCROP_REFLECT; its first sample must
-/// always be inside. Other regions are the error JERR_BAD_CROP_SPEC. Returns false if `perfect` is
-/// set and a part of the picture cannot be moved.
+/// the right and the lower edge do not move, unless the size is JCROP_FORCED. The first sample of
+/// the region must be inside the uncropped output, and so must the whole region unless its size is
+/// JCROP_FORCED, or JCROP_REFLECT and the output has at least one whole iMCU. Any other region
+/// causes the error JERR_BAD_CROP_SPEC, and so does a side of 0 or above JPEG_MAX_DIMENSION.
+/// Returns false if `perfect` is set and a part of the picture cannot be moved.
 bool jtransform_request_workspace(jpeg_decompress_struct* source, jpeg_transform_info* info);
 
 /// Sets the parameters of the compressor. Returns the arrays that it must write. If the first saved
@@ -144,9 +146,13 @@ void jcopy_markers_execute(jpeg_decompress_struct* source, jpeg_compress_struct*
 /// }
 /// ```
 ///
-/// `in` is the source. `out` receives the result and may be `in`. See codecs/jpegtransform.h for
-/// the encoding of the result and the failures. In addition, returns false with a line on std::cerr
-/// if `perfect` is set and a part of the picture cannot be moved.
+/// `in` is the source. `out` receives the result and may be `in`. The result is sequential and uses
+/// the Huffman tables described in codecs/jpegtransform.h, but keeps the markers selected by
+/// `option`. The Exif orientation among them is not reset. `info` may be used again.
+///
+/// Fails for the reasons listed there, and also, with a line on std::cerr, if `perfect` is set and
+/// a part of the picture cannot be moved, or if the request cannot be carried out. On failure,
+/// `out` is empty, even if it is `in`. After a warning about damage, `out` contains the result.
 bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
                jpegdata_t const& in);
 

@@ -7,8 +7,8 @@
 
 namespace libgr {
 
-// If a limit of utils/limits.h is exceeded, the checks print an error line. `file` is the path that
-// it names, or null.
+// If a limit of utils/limits.h is exceeded, the checks print an error line. `file` is the path
+// named in that line. It may be null.
 
 /// Returns true if `bytes` bytes of pixels take at most half of the machine's memory.
 bool fits_in_memory(std::uint64_t bytes, char const* file);

@@ -12,7 +12,7 @@ namespace libgr {
 
 /// A TGA file: the header fields in the order of the file, and the data after them. It differs from
 /// the published format in two ways that stored files depend on: rows are padded to 4 bytes, and
-/// the entry size of the colour map is in bytes, not in bits.
+/// the entry size of the colour map is in bytes, not in bits. `app` is ignored and may be null.
 struct tgaimage_t {
     std::uint8_t id_length = 0;      ///< bytes
     std::uint8_t colormap_type = 0;  ///< not 0 if there is a colour map
@@ -37,7 +37,7 @@ struct tgaimage_t {
     bool load(char const* path, libutils::android_app* app);
 
     /// Sets the remaining header fields and writes the file. Returns false if the file cannot be
-    /// opened or written, or if `image_id` has more than 255 bytes.
+    /// opened or written, or if `image_id` has more than 255 bytes. Truncates an existing file.
     bool save(char const* path, libutils::android_app* app);
 };
 
@@ -50,9 +50,9 @@ struct tgaimage_t {
 bool convert(image2d_t& image, tgaimage_t const& tga);
 
 /// Makes a TGA with the pixels in BGR order. Accepts RGB with 8 bits, RGBA with 8 bits, and RGBA
-/// with 5, 5, 5 and 1 bits, of at most 65535 pixels a side. Returns false for others, including
-/// pictures in BGR order, because callers depend on it. `image_id` and `colormap` of `tga` are
-/// kept.
+/// with 5, 5, 5 and 1 bits, of at most 65535 pixels a side. Returns false for all other formats.
+/// This includes GRAYSCALE, BGR and BGRA, with which `depth` and `pixels` of `tga` are set all the
+/// same; callers depend on this. `image_id` and `colormap` of `tga` are kept.
 bool convert(tgaimage_t& tga, image2d_t const& image);
 
 /// The codec that uses tgaimage_t.
