@@ -11,9 +11,12 @@ namespace libgr {
 
 /// The record types. The members have the names and meanings of Exif 2.32 (CIPA DC-008).
 ///
-/// A number is a vector, which is empty if the file doesn't have the tag, or has it with another
-/// size than the standard's. A string has the size that the file specifies, so it may end with
-/// several NULs: use `c_str()`. `clear` empties all members.
+/// A numeric tag is a vector of one element, unless its comment says otherwise. The vector is empty
+/// if the tag is missing or has another size in bytes. For example, an Orientation stored as LONG
+/// is ignored. Values aren't checked: a denominator can be 0.
+///
+/// A string is empty if the tag is missing. It has the size in the entry, or less if the payload
+/// ends early. It may end with several NULs: use `c_str()`. `clear` empties all members.
 class ExifType {
   public:
     struct rational_t {
@@ -34,7 +37,7 @@ class ExifType {
         std::string ImageDescription;
         std::string Make;
         std::string Model;
-        short_t Orientation;  ///< 1 to 8 in a valid file, but not checked
+        short_t Orientation;  ///< 1 to 8 in a valid file
         rationals_t XResolution;
         rationals_t YResolution;
         short_t ResolutionUnit;
@@ -54,8 +57,8 @@ class ExifType {
         short_t ISOSpeedRatings;
         long_t StandardOutputSensitivity;
         long_t ISOSpeed;
-        std::string DateTimeOriginal;   ///< "YYYY:MM:DD HH:MM:SS"
-        std::string DateTimeDigitized;  ///< "YYYY:MM:DD HH:MM:SS"
+        std::string DateTimeOriginal;   ///< "YYYY:MM:DD HH:MM:SS"; empty if not 20 bytes
+        std::string DateTimeDigitized;  ///< "YYYY:MM:DD HH:MM:SS"; empty if not 20 bytes
         rationals_t ApertureValue;
         srationals_t ExposureBiasValue;
         rationals_t MaxApertureValue;

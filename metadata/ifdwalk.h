@@ -39,43 +39,58 @@ constexpr std::size_t ifd_size(std::size_t n) {
     return 2 + 12 * n;
 }
 
-/// The checks of an IFD. If a check fails, the walk prints a line on the error stream and fails.
-/// Bytes outside the file are never read, whatever the checks. The base is the block of memory that
-/// offsets in the IFD are relative to.
+/// The checks that `walk_ifd` makes. If one fails, it prints one line on the error stream and
+/// returns false. Bytes outside the view of the IFD and outside the base are never read, even
+/// without checks. The base is the block of memory that the offsets in the IFD are relative to.
 enum class ifd_checks_t {
-    zeroth,  ///< the first 8 bytes of an entry must be in the IFD, the start of a value in the base
-    exif,    ///< each entry must be in the IFD, each value in the base
-    none,    ///< no checks; an IFD that ends early fails without a line
-    note,    ///< the whole IFD must be in its view, each value in the base
+    /// The first 8 bytes of each entry must be inside the view. The offset of each value must be
+    /// less than or equal to the size of the base.
+    zeroth,
+    exif,  ///< each entry must be inside the view, and each value inside the base
+    none,  ///< values aren't checked; an entry of less than 8 bytes fails without a line
+    note,  ///< as `exif`, but all entries are checked before the first value is read
 };
 
-/// The effect of a type number that Exif doesn't define.
+/// The effect of a type number that isn't an index of `exiftypesize` (metadata/exif.h).
 enum class unknown_type_t {
     skip,  ///< the entry is ignored
     stop,  ///< the walk ends and succeeds
     fail,  ///< the walk ends and fails without a line
 };
 
-/// The rules for one kind of IFD. The kinds differ because existing files depend on it.
+/// The rules for one kind of IFD. Don't make the kinds more alike. If a walk fails (except in the
+/// 1st IFD), the viewer ignores the orientation, so other rules would change the rotation of some
+/// pictures.
 struct ifd_rules_t {
     ifd_checks_t checks;
     unknown_type_t unknown_type;
     char const* name = "";              ///< starts the error lines of `ifd_checks_t::note`
-    bool skips_outside_values = false;  ///< true: a value outside the base is skipped
+    bool skips_outside_values = false;  ///< skips a value outside the base instead of failing
 };
 
 /// An entry of an IFD.
 struct ifd_entry_t {
     unsigned short tag;
-    unsigned int size;   ///< bytes: number of values times size of the type, modulo 2^32
+    /// Bytes: the number of values times the size of the type. The product wraps at 2^32. The
+    /// checks use it, so with a product of 64 bits, they would reject files that are valid now.
+    unsigned int size;
+
     jpeg_bytes_t value;  ///< the bytes of the value that the file has, at most `size`
 };
 
-/// Calls `visit` for each entry of an IFD, in the order of the file. Entries with a type of size 0,
-/// and entries whose value is completely missing, are skipped.
+/// Calls `visit` for each entry of an IFD, in the order of the file. A value of more than 4 bytes
+/// is in `base`, at the offset in the entry.
 ///
-/// A value of more than 4 bytes is in `base`, at the offset in the entry. Returns false if a check
-/// of `rules` fails, or if `order` is null.
+/// The steps for an entry are, in this order:
+///   1. check that the view of the IFD contains it,
+///   2. apply `unknown_type`,
+///   3. skip it if its type has size 0, if its offset is cut off, or if `skips_outside_values`
+///      applies,
+///   4. check the position of its value,
+///   5. skip it if all bytes of its value are missing.
+///
+/// Returns false if a check of `rules` fails, if an entry has an unknown type and `unknown_type` is
+/// `fail`, if the IFD ends early, or if `order` is null.
 bool walk_ifd(ifd_rules_t const& rules, jpeg_bytes_t const& ifd, jpeg_bytes_t const& base,
               libutils::byteorder const* order,
               std::function<void(ifd_entry_t const&)> const& visit);

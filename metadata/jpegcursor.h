@@ -9,7 +9,8 @@
 namespace libgr {
 
 /// A view of the bytes of a JPEG file or of one of its segments. Copies share the memory, which is
-/// freed with the last copy.
+/// freed with the last copy. Copies that share memory must be used by one thread. No OpenGL context
+/// is needed.
 using jpeg_bytes_t = libutils::ofsvector<unsigned char, libutils::alloc_mmap_unix>;
 
 /// The numbers of the APPn and COM marker segments.
@@ -40,7 +41,7 @@ struct marker_row_t {
     unsigned int code;  ///< the byte after 0xFF in the file (ITU-T T.81, table B.1)
 };
 
-/// The codes of all markers. Row i has number i.
+/// The codes of the APPn and COM markers. Row i has number i.
 inline constexpr marker_row_t marker_array[MARKER_MAX] = {
     {MARKER_APP0, 0xE0},  {MARKER_APP1, 0xE1},  {MARKER_APP2, 0xE2},  {MARKER_APP3, 0xE3},
     {MARKER_APP4, 0xE4},  {MARKER_APP5, 0xE5},  {MARKER_APP6, 0xE6},  {MARKER_APP7, 0xE7},
@@ -49,8 +50,8 @@ inline constexpr marker_row_t marker_array[MARKER_MAX] = {
     {MARKER_COM, 0xFE},
 };
 
-/// A cursor over entropy-coded bytes. It steps over the 0x00 that is stuffed after each 0xFF (ITU-T
-/// T.81, B.1.1.5). The cursor doesn't own the bytes.
+/// A cursor over entropy-coded bytes. It skips a 0x00 that follows a 0xFF (ITU-T T.81, B.1.1.5).
+/// It returns other bytes after a 0xFF, for example a marker's code. It doesn't own the bytes.
 ///
 ///     libgr::jpeg_iterator cursor(end);
 ///     for (cursor = begin; cursor < end; ++cursor) { use(*cursor); }

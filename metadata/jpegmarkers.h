@@ -32,6 +32,9 @@ namespace libgr {
 //   parse()                  Reads the payload into the fields. If the payload is invalid, prints
 //                            one line on the error stream and returns false. The fields keep the
 //                            values that were read before the error.
+//                            For a second segment, call both functions again. Its values replace
+//                            the old ones. Without `clear`, tables (DQT, DHT) with other
+//                            destinations are kept.
 //   dump()                   Prints the fields on standard output.
 //   clear()                  Releases the payload and resets the fields.
 //
@@ -53,8 +56,9 @@ class sof0_marker_t : public jpeg_bytes_t {
         unsigned char component_id;
         unsigned char horiz_factor;
         unsigned char verts_factor;
-        /// Read from two bytes after the position in the standard, because existing output depends
-        /// on it. For the last component this is after the segment. 0 if the file ends before.
+        /// Not the quantization table selector: this is the byte two positions after it. Don't use
+        /// it to select a table; it is kept because `dump` prints it. For the last component, that
+        /// byte is after the segment, and 0 if the memory that the payload shares ends before it.
         unsigned char quatable_sel;
     };
 
@@ -72,12 +76,12 @@ class sof0_marker_t : public jpeg_bytes_t {
     void clear() override { *this = {}; }
 };
 
-/// Quantization tables (DQT).
+/// Quantization tables (DQT). A segment with more than four tables is invalid.
 class dqt_marker_t : public jpeg_bytes_t {
   public:
     using table_t = std::array<unsigned char, 64>;
 
-    unsigned char n = 0;                         ///< number of tables in the segment
+    unsigned char n = 0;                         ///< number of tables in the last segment
     std::array<table_t, 4> table{};              ///< by destination, values row by row
     std::array<unsigned char, 4> destination{};  ///< the destinations in the order of the file
 
@@ -87,26 +91,26 @@ class dqt_marker_t : public jpeg_bytes_t {
     void clear() override { *this = {}; }
 };
 
-/// Huffman tables (DHT).
+/// Huffman tables (DHT). A segment with more than four tables is invalid.
 class dht_marker_t : public jpeg_bytes_t {
   public:
     struct entry_t {
-        unsigned short code;
-        unsigned char data_bits;
-        unsigned char run_length;
+        unsigned short code;       ///< in the low bits; `counts` specifies the number of bits
+        unsigned char data_bits;   ///< number of bits after the code (SSSS in T.81, F.1.2)
+        unsigned char run_length;  ///< number of zero coefficients before this one (RRRR, AC)
     };
     struct table_t {
         std::array<unsigned char, 16> counts{};  ///< numbers of codes with 1 to 16 bits
-        std::vector<entry_t> entries;            ///< ordered by code
+        std::vector<entry_t> entries;            ///< ordered by length of the code, then by code
     };
     struct class_and_destination_t {
         unsigned char tc;  ///< 0 for a DC table, 1 for an AC table
         unsigned char th;  ///< destination, 0 or 1
     };
 
-    unsigned short length = 0;  ///< always 0; existing output depends on it
+    unsigned short length = 0;  ///< always 0, kept because `dump` prints it
     std::array<class_and_destination_t, 4> tables{};
-    unsigned char table_count = 0;  ///< number of valid elements of `tables`
+    unsigned char table_count = 0;  ///< number of valid elements of `tables`, from the last segment
     std::array<table_t, 2> dc;
     std::array<table_t, 2> ac;
 
@@ -145,9 +149,12 @@ class sos_marker_t : public jpeg_bytes_t {
     unsigned char se = 0;         ///< last coefficient, 63
     unsigned char ah = 0;         ///< successive approximation, 0
     unsigned char al = 0;         ///< successive approximation, 0
-    dht_marker_t* dht = nullptr;  ///< the scan's tables; not owned, not changed by `clear`
+    dht_marker_t* dht = nullptr;  ///< see `set_dht_marker`
 
     void set_sos_buffer(jpeg_bytes_t const& payload) { jpeg_bytes_t::operator=(payload); }
+
+    /// Stores a pointer to the scan's tables in `dht`, for the caller: no function of this class
+    /// uses it, and `clear` keeps it. It may be null. The tables aren't owned.
     void set_dht_marker(dht_marker_t* tables) { dht = tables; }
     bool parse();
     void dump() const;
