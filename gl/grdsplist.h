@@ -30,9 +30,9 @@ class grDspListMgr {
     bool m_generated = false;
 };
 
-/// Draws the GL calls that another node made while the list was compiled. Copies share one GL list.
-/// The destructor of the last copy deletes the list and needs a current context if there is one.
-/// Construction and copying make no GL call.
+/// Replays the GL calls that another node made when the list was compiled. Copies share one GL
+/// list. The destructor of the last copy deletes the list and needs a current context if there is
+/// one. Construction and copying make no GL call.
 class grDspList : public grObject3D {
   public:
     ~grDspList() override = default;
@@ -42,9 +42,9 @@ class grDspList : public grObject3D {
     void Draw() const override;
 
     /// Compiles the GL calls that `object` makes in `Draw`. `object` may be null, which gives an
-    /// empty list, and isn't kept. The calls are not executed, so errors in them are not found
-    /// before the list is drawn. A second call replaces the list. Always returns true. Needs a
-    /// current context.
+    /// empty list, and isn't kept. The calls are not executed, so their errors only occur when the
+    /// list is drawn. A second call replaces the list. Always returns true. Needs a current
+    /// context.
     bool Preload(grObject3D const* object);
     /// Deletes the GL list of this object and all its copies. Needs a current context if there is a
     /// list.

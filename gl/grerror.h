@@ -6,13 +6,14 @@ namespace libgr {
 
 /// Gets one pending GL error and prints it on the error stream after `label`, which may be null:
 /// "after Draw(): Error 1282: invalid operation". Returns true if there was an error. Otherwise
-/// prints nothing. Further errors stay pending for the next call. The code is decimal in every mode
-/// of the stream, and the mode is kept. Needs a current context. Must not be called between glBegin
-/// and glEnd.
+/// prints nothing. Further errors stay pending for the next call. The code is always printed in
+/// decimal. The stream's mode isn't changed. Needs a current context. Must not be called between
+/// glBegin and glEnd.
 bool grPrintError(char const* label);
 
 /// Detects GL_OUT_OF_MEMORY among the errors that `grPrintError` reports. Uploads return no result,
-/// and the error isn't pending any more after they have reported it.
+/// and they clear the error when they report it, so glGetError can't be used to detect it
+/// afterwards.
 class grMemoryWatch {
   public:
     /// Starts the detection. Makes no GL call.

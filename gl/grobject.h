@@ -19,7 +19,7 @@ class grDrawable3D {
     virtual ~grDrawable3D() = default;
 };
 
-/// A node of a scene tree, which doesn't change when it draws.
+/// A node of a scene tree. Drawing doesn't change it.
 ///
 /// Nodes have pointers to their children and don't own them: a child must outlive its parent or be
 /// removed from it. Only `Draw` makes GL calls. Nodes can be created and destroyed without a
@@ -33,9 +33,10 @@ class grObject3D : public grDrawable3D {
     virtual void Draw() const = 0;
 };
 
-// The transform nodes multiply the current GL matrix before they draw their child. They don't
-// restore it, so the transform also applies to everything that is drawn later: put them into a
-// grContainer, which restores the matrix after each child. Without a child they do nothing.
+// The transform nodes multiply the current matrix of the current matrix mode before they draw their
+// child. They don't restore it, so the transform also applies to everything that is drawn later:
+// put them into a grContainer, which selects GL_MODELVIEW and restores the matrix after each child.
+// Without a child they do nothing.
 
 /// Rotates its child by `m_rotation` (degrees and axis).
 class grRotater : public grObject3D {
@@ -54,7 +55,8 @@ class grRotater : public grObject3D {
     rotation3_t m_rotation = Irot;
 };
 
-/// Scales its child by powers of two.
+/// Scales its child by powers of two. The exponents of a new node are 1, but it scales by 1 until
+/// the first call of addZoom or setZoom.
 class grZoomer : public grObject3D {
   public:
     ~grZoomer() override = default;
@@ -107,7 +109,9 @@ class grTransformer : public grObject3D {
     matrix3w_t m_matrix = Imtx;  ///< may be changed at any time between two draws
 };
 
-/// Draws its children in order. Saves the modelview matrix before each child and restores it after.
+/// Draws its children in order. Selects GL_MODELVIEW and saves the matrix before each child, and
+/// restores the matrix and the mode after it. Each nested container needs one level of the GL
+/// matrix stack; grMatrixPusher (gl/matrixmgr.h) describes the limit.
 class grContainer : public grObject3D {
   public:
     ~grContainer() override = default;

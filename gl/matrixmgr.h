@@ -37,12 +37,13 @@ class grMatrixModeKeeper {
 
 /// Saves the current matrix of a mode. The destructor restores the matrix and then the mode.
 ///
-/// Objects can be nested as deep as the GL matrix stack, often 32 levels for GL_MODELVIEW. In
-/// enhanced mode, which is off at the start, there is no limit: matrices that don't fit the GL
-/// stack are saved in memory.
+/// The nesting depth is limited by the GL matrix stack, which often has 32 levels for GL_MODELVIEW.
+/// If the stack is full, OpenGL reports GL_STACK_OVERFLOW and saves nothing, and the destructor
+/// restores the last matrix that was saved. In enhanced mode, which is off at the start, there is
+/// no limit: matrices that don't fit on the GL stack are saved in memory.
 class grMatrixPusher : public grMatrixModeKeeper {
   public:
-    /// A matrix stack of OpenGL and the matrices that don't fit it.
+    /// A matrix stack of OpenGL and the matrices that don't fit on it.
     class grMatrixManager {
       public:
         grMatrixManager(GLenum mode, GLenum maxdepth_name, GLenum depth_name, GLenum matrix_name)
@@ -53,7 +54,8 @@ class grMatrixPusher : public grMatrixModeKeeper {
 
         GLenum mode() const { return m_mode; }
         /// Returns true if the GL stack has room for one more matrix. In enhanced mode this needs a
-        /// current context. Otherwise it returns true without a GL call.
+        /// current context. Outside enhanced mode always returns true, even if the stack is full,
+        /// and makes no GL call.
         bool canPush() const;
 
       private:
@@ -80,7 +82,8 @@ class grMatrixPusher : public grMatrixModeKeeper {
     static bool getEnhanceMode() { return g_enhance; }
     /// Returns the manager of GL_MODELVIEW, GL_PROJECTION, GL_TEXTURE or GL_COLOR. For 0, returns
     /// the manager of the current mode and needs a current context. For another value, prints a
-    /// line on standard output, which stays in hexadecimal mode, and returns the modelview manager.
+    /// line on standard output and returns the modelview manager. This leaves std::cout in
+    /// hexadecimal mode: integers printed later appear in hexadecimal.
     static grMatrixManager& getMatrixManager(GLenum mode);
 
   private:

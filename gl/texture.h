@@ -2,8 +2,10 @@
 // Texture classes, texture objects with their GL names, and texture parameters.
 #pragma once
 
-/// Makes a texture of a picture and draws with it. The order of calls is: set the images, call
-/// `Preload` once, and call `Load` before and `Unload` after each use.
+/// This example makes a texture from a picture and draws with it. The order of calls is: set the
+/// images, call `Preload` once, and call `Load` before and `Unload` after each use. Keep both
+/// objects between frames; this example uploads on every call. From OpenGL 3.0 on, enable
+/// GL_TEXTURE_2D yourself for fixed-function drawing.
 ///
 /// ```cpp
 /// #include "gl/texture2d.h"
@@ -22,7 +24,7 @@
 ///
 /// Call everything in this library from the thread of the GL context. Each function says if it
 /// needs a current context. `gl_extloader_init` (glext/glextloader.h) must have been called.
-/// gl/glformat.h lists the image descriptions that can become textures.
+/// gl/glformat.h lists the image descriptions that are accepted.
 
 #include "geometry/color.h"
 #include "image/image.h"
@@ -56,7 +58,8 @@ class grTexturableImageGL : public grTexturableImage {
 /// A texture with a GL name.
 class grTexturableObject : public grTexturable {
   public:
-    /// Returns true if the texture has been created. Makes no GL call.
+    /// Returns true if the texture has been created, even if its upload failed or was skipped.
+    /// Makes no GL call.
     virtual bool isPreload() const = 0;
     /// Unbinds the texture. Needs a current context.
     virtual void Unload() const = 0;
@@ -74,8 +77,9 @@ struct grTextureMgr {
     bool created = false;
 };
 
-/// A texture object. Copies share one GL name. The destructor of the last copy deletes the texture
-/// and needs a current context if `isPreload()` is true.
+/// A texture object. Copies made after `Preload` share one GL name. A copy made before is empty and
+/// independent. The destructor of the last copy deletes the texture and needs a current context if
+/// `isPreload()` is true.
 ///
 /// The object doesn't copy pixels and doesn't notice their change. Pixels are uploaded by `Preload`
 /// and `Reload` only. Uploads return no result: failures are printed on the error stream, and
@@ -88,14 +92,17 @@ class grTextureObject : public grTexturableObject {
     grTextureObject& operator=(grTextureObject const&) = default;
     ~grTextureObject() override = default;
 
-    /// Creates the texture unless this object has one, binds it, and uploads `image`. Needs a
-    /// current context. `image` isn't owned and must outlive this object. The texture stays bound.
+    /// Creates the texture unless this object has one, binds it to the active texture unit, and
+    /// uploads `image`. The texture stays bound. Its target isn't enabled. Needs a current context.
+    ///
+    /// `image` must not be null. It isn't owned and must outlive this object and its copies. A
+    /// texture can't change its target: until `clear`, all images must have the same dimension.
     void Preload(grTexturableImageGL const* image);
 
     /// Returns the dimension of the target, or 0 before `Preload`. Makes no GL call.
     unsigned long Dimension() const override;
-    /// Binds the texture. Before OpenGL 3.0 it also enables the target. Uploads nothing. Does
-    /// nothing before `Preload`. Needs a current context.
+    /// Binds the texture to the active texture unit. Before OpenGL 3.0 it also enables the target.
+    /// Uploads nothing. Does nothing before `Preload`. Needs a current context.
     void Load() const override;
     /// Binds the texture and uploads the pixels of the image again. The images must have the sizes
     /// that they had in `Preload`. Does nothing before `Preload`. Needs a current context.
@@ -117,17 +124,20 @@ class grTextureObject : public grTexturableObject {
     /// Unbinds an image unit. Does nothing before OpenGL 4.2. Needs a current context.
     void UnbindImage(unsigned int unit) const;
 
-    /// Reads mipmap level `level` of the texture bound to `target` into `img`, row 0 at the bottom,
-    /// as RGBA with the component type of the texture's red component. The target is GL_TEXTURE_1D,
-    /// GL_TEXTURE_2D, GL_TEXTURE_RECTANGLE or a cube map face. Needs a current context.
+    /// Reads mipmap level `level` of the texture bound to `target` into `img`, row 0 at the bottom.
+    /// The target is GL_TEXTURE_1D, GL_TEXTURE_2D, GL_TEXTURE_RECTANGLE or a cube map face. Needs a
+    /// current context.
     ///
-    /// OpenGL writes 4 bytes for each component, even if `img.desc` has fewer bits: `img` has at
-    /// least 16 bytes for each pixel. Returns false if the target or the component type is not
-    /// supported. Prints a line and returns false if the component size is not supported or there
-    /// is no memory.
+    /// The pixels of a floating-point texture become RGBA pixels of type GL_FLOAT. Each component
+    /// takes 4 bytes, even if `img.desc` has fewer bits, so each pixel takes 16 bytes. For a
+    /// normalized or integer texture OpenGL reports an error and the pixels of `img` are 0, but the
+    /// function returns true: callers depend on these GL calls.
+    ///
+    /// Returns false if the target or the component type is not supported. Prints a line and
+    /// returns false if the component size is not supported or there is no memory.
     bool GetTexImage(unsigned int target, int level, image2d_t& img) const;
-    /// Does the same for this object's texture, without binding it. Returns false before OpenGL
-    /// 4.5. Needs a current context.
+    /// Does the same for this object's texture, without binding it. Returns false before `Preload`
+    /// and before OpenGL 4.5. Needs a current context.
     bool GetTextureImage(int level, image2d_t& img) const;
 
   private:

@@ -9,8 +9,8 @@
 namespace libgr {
 
 /// The images of a GL_TEXTURE_1D, one for each mipmap level. Pixels, skipped levels and `size`
-/// follow the rules of grTexture2D (gl/texture2d.h). The row length and the skipped rows that an
-/// earlier upload has set have no effect.
+/// follow the rules of grTexture2D (gl/texture2d.h). The row length and skipped rows set by an
+/// earlier upload are ignored.
 class grTexture1D : public grTexturableLevels<image1d_t, texparameter1d_t> {
   public:
     /// Sets the image of mipmap level `level` and removes the levels with higher numbers. If `size`

@@ -11,26 +11,32 @@ namespace libgr {
 
 /// The images of a GL_TEXTURE_2D, one for each mipmap level, row 0 at the bottom.
 ///
-/// OpenGL reads the pixels in place: the window and row layout (`store`) of an image become unpack
-/// parameters, and these keep the values of the last image. An image without a row layout uses the
-/// alignment of the image before it. Only GLU, which may read past the end of the pixels, gets a
-/// copy if there is not enough room after them.
+/// OpenGL reads the pixels in place. The window and row layout (`store`) of an image are set as
+/// unpack parameters. They aren't restored after the upload. An image without a row layout uses the
+/// byte order and alignment of the image before it, and the first image those of the context. GLU
+/// may read past the end of the pixels, so it gets a copy if there is not enough room after them.
 ///
 /// A level without bytes is skipped. A level with an unsupported description, or with fewer bytes
-/// than OpenGL would read, is reported on the error stream and skipped.
+/// than OpenGL would read, is reported on the error stream and skipped. An image larger than
+/// GL_MAX_TEXTURE_SIZE isn't detected: OpenGL reports an error and doesn't change the level. Only
+/// GLU scales the image down.
 class grTexture2D : public grTexturableLevels<image2d_t, texparameter2d_t> {
   public:
     /// Sets the image of mipmap level `level`, counted from 0, and removes the levels with higher
-    /// numbers.
+    /// numbers. If `level` is `libutils::limits::texture_images` or more, only prints a line.
     ///
     /// If `size` is 0, the texture has the size of the image. Otherwise the texture is a square.
     /// Its side is the smallest power of two that is at least `size` and the sides of the image, in
-    /// texels. The image is in the lower left corner and the other texels are undefined. Use this
-    /// to give the tiles of a picture textures of one size. Without generated mipmaps, a `size`
-    /// other than 0 gives the texture 0 texels, or those of the border: leave it 0 there.
+    /// texels. The image is in the lower left corner and the other texels are undefined. In the
+    /// square the image covers the texture coordinates 0 to width / side and 0 to height / side.
+    /// Use this to give the tiles of a picture textures of one size. The `size` of the last
+    /// setImage or setImages call is used.
+    ///
+    /// If mipmaps aren't generated, leave `size` 0. Any other value allocates a texture with no
+    /// texels, or only border texels.
     void setImage(image2d_t const& image, unsigned int size, unsigned long level);
-    /// Sets the images of the mipmap levels from `level` on and keeps the other levels. `size` has
-    /// the meaning that it has in setImage, with the longest side of all given images.
+    /// Sets the images of the mipmap levels from `level` on and keeps the other levels. `size`
+    /// works as in setImage, but the side is at least the longest side of all given images.
     void setImages(std::vector<image2d_t> const& images, unsigned int size, unsigned long level);
 
     unsigned long Dimension() const override { return 2; }

@@ -28,18 +28,20 @@ inline unsigned int longest_side(image3d_t const& image) {
 
 /// The images and upload settings of a texture with mipmap levels of type `image_t`.
 ///
-/// The images share their bytes with the images of the caller. They can have at most
-/// `libutils::limits::texture_images` levels (faces, for a cube map): more are reported on the
-/// error stream and ignored. No member makes a GL call, except `Load` and `Reload` of the derived
-/// classes.
+/// The images share their bytes with the images of the caller. The first image that a call sets
+/// must have an index below `libutils::limits::texture_images`; each face of a cube map counts as
+/// one image. Otherwise the call is reported on the error stream and changes nothing. The images
+/// after the first aren't checked. No member makes a GL call, except `Load` and `Reload` of the
+/// derived classes.
 template <typename image_t, typename parameter_t>
 class grTexturableLevels : public grTexturableImageGL {
   public:
-    /// Compresses textures of GL_ALPHA in texture memory. Other formats are never compressed.
+    /// Sets whether textures with the internal format GL_ALPHA are compressed. Other formats are
+    /// never compressed.
     void setInternalCompression(bool compress) { m_internalcompression = compress; }
-    /// Generates the mipmap levels 1 and up from level 0.
+    /// Sets whether the mipmap levels 1 and up are generated from level 0.
     void setBuildMipmap(bool build) { m_buildmipmap = build; }
-    /// Gives the texture a border of one texel.
+    /// Sets whether the texture has a border of one texel.
     void setBorder(bool border) { m_border = border; }
     /// Sets the parameters that `Load` applies. They aren't owned and must outlive this object.
     /// Null applies none.
@@ -52,8 +54,8 @@ class grTexturableLevels : public grTexturableImageGL {
     void clear() { m_images.clear(); }
 
     /// Returns the internal format of the first image, or GL_INVALID_VALUE if there is no image or
-    /// its description is not supported. The `compressed` field of the image decides about
-    /// compression here, not `setInternalCompression`: callers depend on it.
+    /// its description is not supported. The result depends on the image's `compressed` field, not
+    /// on setInternalCompression. This is kept because callers depend on it.
     unsigned int GetInternalFormat() const override {
         return m_images.empty() ? GL_INVALID_VALUE
                                 : internal_format_of(m_images[0].desc, m_images[0].compressed);

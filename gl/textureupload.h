@@ -101,14 +101,17 @@ void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
 void compressed_tex_image(GLenum target, GLint level, GLenum internalformat,
                           extent_t<3> const& extent, GLint border,
                           std::span<unsigned char const> bytes);
-/// Reports a compressed image on the error stream, in a context without ARB_texture_compression.
+/// Reports on the error stream that a compressed image is skipped because the context has no
+/// ARB_texture_compression.
 void report_no_compression();
-/// Reports a compressed image for which no mipmaps can be generated on the error stream.
+/// Reports on the error stream that no mipmaps can be generated for a compressed image.
 void report_no_compressed_mipmaps();
 
-/// Report a GL error before and after the pixels are uploaded into a square, followed by the
-/// arguments of the calls. Need a current context.
+/// Prints a pending GL error and the arguments of the allocation of a square. Call it before the
+/// pixels are uploaded. Needs a current context.
 void check_square_storage(gl_loading_format_t const& glformat, bool border);
+/// Prints a pending GL error and the arguments of the upload into a square. Call it after the
+/// upload. Needs a current context.
 void check_square_pixels(gl_loading_format_t const& glformat, unsigned int side, GLsizei width,
                          GLsizei height);
 
@@ -123,7 +126,7 @@ void upload_compressed(GLenum target, GLint level, gl_loading_format_t const& gl
     }
 }
 
-/// Uploads all levels of an image that is not compressed with GLU. Needs a current context.
+/// Uploads all levels of an uncompressed image with GLU. Needs a current context.
 template <typename image_t>
 void upload_by_glu(GLenum target, gl_loading_format_t const& glformat, image_t const& image) {
     if (!build_mipmaps(target, glformat, image)) {

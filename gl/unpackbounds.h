@@ -22,8 +22,8 @@ image3d_t as_unpacked_in_initial_state(image2d_t const& image);
 /// without reading pixels.
 unsigned long long unpacked_pixel_bits(gl_loading_format_t const& glformat);
 
-/// Returns true if OpenGL reads no bytes outside the image. `read` is a result of `as_unpacked`. Of
-/// a compressed image OpenGL reads all bytes; their number must fit a GLsizei.
+/// Returns true if OpenGL reads no bytes outside the image. `read` is a result of `as_unpacked`.
+/// OpenGL reads all bytes of a compressed image, so their number must fit in a GLsizei.
 bool is_read_within_bytes(image3d_t const& read, gl_loading_format_t const& glformat);
 
 /// Offsets into the bytes of an image.
