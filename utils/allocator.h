@@ -15,7 +15,7 @@ enum e_prot_t : unsigned int {
 
 /// Returns the unused pages of the heap to the system.
 ///
-/// By itself, the C library returns only the pages after the last block in use. So one small block
+/// The C library by itself only returns the pages after the last used block. So one small block
 /// can keep the memory of all freed blocks before it, for example of the textures of a software
 /// driver. Call this function after freeing many blocks. It takes up to about 0.4 ms for each MB
 /// that is returned. It does nothing if the C library isn't glibc.
@@ -28,19 +28,20 @@ extern char const* const memory_error;
 // arrays in utils/ofsvector.h and utils/refvector.h instead of calling an allocator.
 //
 //   allocate(bytes, path, protection, offset, app)
-//       Returns a block of `bytes` bytes, or null. With a path, the block contains the bytes of the
-//       file after `offset`. If `bytes` is 0, it is set to the number of these bytes.
+//       Returns a block of `bytes` bytes. With a path, the block contains the bytes of the file
+//       after `offset`. If `bytes` is 0, it is set to the number of these bytes.
 //   reallocate(p, newsize, offset)
 //       Returns a new block with the bytes of `p` that fit, and frees `p`. On failure, `p` stays
 //       valid.
 //   deallocate(p)
 //       Frees the block.
 //   failed(p)
-//       Returns true if `p`, a result of the first two functions, isn't a block.
+//       Returns true if `p`, returned by `allocate` or `reallocate`, means failure.
 //   writable()
 //       Returns true if the block may be written to.
 
-/// Heap memory. `protection` and `offset` are ignored: a file is read from its start.
+/// Heap memory. `protection` and `offset` are ignored: a file is read from its start. A missing
+/// file is an error only if `bytes` is 0. If the file can't be read, the block is undefined.
 struct alloc_new {
     unsigned long size = 0;  ///< bytes
 
@@ -57,8 +58,8 @@ struct alloc_new {
 /// Bytes that another program removes from a mapped file read as 0; see utils/mappingguard.h. One
 /// anonymous mapping of 4 to 256 MiB is kept after its deallocation and used for the next one.
 ///
-/// A failed mmap returns MAP_FAILED, not null. A mapping of 0 bytes always fails in this way, and
-/// the arrays use it for empty files: test results with `failed`.
+/// `allocate` and `reallocate` return MAP_FAILED if mmap fails, and always for 0 bytes, which the
+/// arrays accept as an empty file. Test results with `failed`. `reallocate` to 0 bytes frees `p`.
 struct alloc_mmap_unix {
     int fd = -1;             ///< the open file, or -1 for an anonymous mapping; owned
     unsigned long size = 0;  ///< bytes mapped

@@ -37,7 +37,8 @@ class motorola_byteorder final : public byteorder {
     }
 };
 
-// The same conversions, for a byte order that is known: i for little-endian, m for big-endian.
+// The same conversions, for a byte order known at compile time: i for little-endian, m for
+// big-endian.
 constexpr unsigned short itohs(unsigned short value) {
     return value;
 }

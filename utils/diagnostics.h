@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The hook of the error paths, and helpers for lines of text on streams.
+// Reporting of errors, a function for breakpoints, and helpers for lines of text on streams.
 #pragma once
 
 #include <iomanip>
@@ -31,7 +31,8 @@ std::ostream* begin_failure_reason();
 
 /// Records the reason why the running operation fails, and prints nothing. The first reason is kept
 /// until `clear_failure_reason`, because the innermost function knows it best. At most 255 bytes
-/// are kept, in a static buffer, so that this also works without memory. Always returns false.
+/// are kept, in a static buffer, so that this also works without memory. The process has one
+/// buffer, so all calls must come from one thread. Always returns false.
 template <typename... Parts>
 bool reject(Parts const&... parts) {
     if (std::ostream* const out = begin_failure_reason()) {
@@ -44,10 +45,10 @@ bool reject(Parts const&... parts) {
 bool reject_errno(int error);
 
 /// Returns the recorded reason without a final full stop. Empty if there is none. The view is valid
-/// until `clear_failure_reason`.
+/// until `clear_failure_reason`. The reason may contain unescaped names: print it with `putname`.
 std::string_view failure_reason();
 
-/// Forgets the recorded reason. Call it before an operation whose reason is of interest.
+/// Forgets the recorded reason. Call it before an operation if you need the reason of its failure.
 void clear_failure_reason();
 
 /// Prints the parts as one line on the error stream, with numbers in decimal, and records them as
@@ -122,8 +123,9 @@ std::ostream& operator<<(std::ostream& out, _putn const& bytes);
 std::ostream& operator<<(std::ostream& out, _putname const& name);
 
 /// Writes the value in hexadecimal with at least 2 digits. Writes "0x" first if the stream has the
-/// flag showbase. An unsigned char is written as a character after a "0", not as a number: existing
-/// text depends on these bytes. The flags and the fill character of the stream don't change.
+/// flag showbase. An unsigned char is written as "0" and the character itself, not as a number.
+/// Existing output depends on this. Convert it to unsigned int for its number. The flags and the
+/// fill character of the stream don't change.
 template <typename T>
 std::ostream& operator<<(std::ostream& out, _puthex<T> const& hex) {
     keepflag const keep(out);

@@ -9,7 +9,7 @@
 
 namespace libutils {
 
-/// Owns a file descriptor and closes it at the end of the block.
+/// Owns a file descriptor and closes it in its destructor.
 ///
 /// ```cpp
 /// #include <fcntl.h>
@@ -27,6 +27,7 @@ class file_descriptor_t {
     file_descriptor_t(file_descriptor_t const&) = delete;
     file_descriptor_t(file_descriptor_t&& other) noexcept : m_fd(other.release()) {}
     file_descriptor_t& operator=(file_descriptor_t const&) = delete;
+    /// Exchanges the descriptors: the old one is closed with `other`.
     file_descriptor_t& operator=(file_descriptor_t&& other) noexcept {
         std::swap(m_fd, other.m_fd);
         return *this;

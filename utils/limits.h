@@ -10,7 +10,8 @@
 
 namespace libutils {
 
-/// A limit with the name that error lines and docs/limits.md use.
+/// A limit with the name that error lines and docs/limits.md use. A limit whose name ends in
+/// `unchecked` is the amount up to which the ratio isn't checked.
 struct limit_t {
     char const* name;
     std::uint64_t value;
@@ -18,27 +19,34 @@ struct limit_t {
 };
 
 /// Prints the line "FILE: exceeds limit NAME (VALUE UNIT)." on the error stream, without "FILE: "
-/// if `file` is null. Always returns false.
+/// if `file` is null. `file` isn't escaped. Records the text after "FILE: " as the reason of the
+/// failure; see `reject`. Always returns false.
+///
+/// Call it if the number is larger than `limit.value`: `return report_limit(limits::tiles, path);`
 bool report_limit(limit_t const& limit, char const* file = nullptr);
 
 namespace limits {
 
-/// The memory of a picture and its textures. Textures have at least 32 bits for each pixel.
+/// The pixels of one picture, counted with at least 4 bytes each, as in its textures. The
+/// coefficients of a JPEG file count, too, if it has several scans or is transformed.
 inline constexpr limit_t picture_memory{"picture-memory", 50, "percent of the machine's memory"};
 
 /// The viewer shows BMP files that end early. Without this limit, a file of a few bytes could make
-/// it upload gigabytes of black pixels.
+/// it upload gigabytes of black pixels. The ratio is in bytes of pixels for each byte of pixels in
+/// the file.
 inline constexpr limit_t bmp_ratio{"bmp-ratio", 16, "bytes of pixels for each that the file has"};
 inline constexpr limit_t bmp_unchecked{"bmp-unchecked", 1048576, "bytes of pixels"};
 
 /// Indices of 8 bits use 256 entries, but the header of a file can specify more than 1,000 million.
 inline constexpr limit_t bmp_palette{"bmp-palette", 65536, "entries"};
 
-/// Deflate needs at least one bit for each 129 bytes of output.
+/// Deflate needs at least one bit for each 129 bytes of output. The ratio is in bytes of pixels for
+/// each byte of the file.
 inline constexpr limit_t png_ratio{"png-ratio", 1032, "bytes of pixels for each of the file"};
 
-/// With Huffman coding, a picture of one colour has about 1500 bytes of pixels for each byte of the
-/// file. Arithmetic coding has no bound, so it has a separate limit.
+/// The ratio is in bytes of pixels for each byte of the file. With Huffman coding, a picture of one
+/// colour has about 1500. The ratio of arithmetic coding has no bound, so up to
+/// jpeg-arithmetic-unchecked bytes it isn't checked.
 inline constexpr limit_t jpeg_ratio{"jpeg-ratio", 4096, "bytes of pixels for each of the file"};
 inline constexpr limit_t jpeg_unchecked{"jpeg-unchecked", 67108864, "bytes of pixels"};
 inline constexpr limit_t jpeg_arithmetic_unchecked{"jpeg-arithmetic-unchecked", 1073741824,
@@ -54,7 +62,7 @@ inline constexpr limit_t jpeg_blocks_unchecked{"jpeg-blocks-unchecked", 16777216
 /// Each tile needs some hundred bytes, in addition to its pixels. This many tiles of 256 by 256
 /// pixels have 17,179,869,184 pixels.
 inline constexpr limit_t tiles{"tiles", 262144, "tiles"};
-/// Tiles are square, so a picture with one row uses only one 256th of its textures.
+/// Tiles are square, so a picture one pixel high uses only 1/256 of its textures.
 inline constexpr limit_t texel_ratio{"texel-ratio", 8, "texels for each pixel"};
 inline constexpr limit_t texels_unchecked{"texels-unchecked", 134217728, "texels"};
 

@@ -20,8 +20,10 @@
 /// The mapping is removed, and the file closed, with the last handle that shares it. For a new
 /// array instead of a file, call `resize(number, 0)`.
 ///
-/// Functions don't throw and print nothing: they return false on failure. The counts of references
-/// aren't atomic: all handles on one block must be used by one thread.
+/// Functions don't throw and print nothing: they return false on failure. The reference counts
+/// aren't atomic: all handles on one block must be used by one thread. With `alloc_mmap_unix`, one
+/// thread must load, resize and free all arrays of the program, because they share the list of
+/// guarded mappings and a spare block.
 
 #include <cstring>
 #include <limits>
@@ -53,7 +55,8 @@ struct shared_block_t {
     ~shared_block_t() { allocator.deallocate(data); }
 
     /// Returns a block of `bytes` bytes from the allocator, or null on failure. With a path, 0
-    /// bytes mean the whole file. A failed mapping of 0 bytes is a success: it needs no memory.
+    /// bytes mean all bytes from `offset` to the end of the file. If the size is 0, a failed
+    /// mapping counts as success, because no memory is needed.
     static std::unique_ptr<shared_block_t> make(unsigned long bytes, char const* path,
                                                 e_prot_t prot, unsigned long long offset,
                                                 android_app* app) {
@@ -108,25 +111,31 @@ class refvector2 {
     /// loads all bytes from `offset` to the end; an empty file gives an empty array. If `path` is
     /// null, allocates `number` new elements.
     ///
-    /// `offset` must be a multiple of the page size. With PROTECTION_READWRITE, writing to the
-    /// elements changes the file. With PROTECTION_READ, writing to them raises SIGSEGV. `app` may
-    /// be null.
+    /// With `alloc_mmap_unix`, `offset` must be a multiple of the page size. Writing to a
+    /// PROTECTION_READ mapping raises SIGSEGV; writing to a PROTECTION_READWRITE mapping changes
+    /// the file. `alloc_new` accepts more; see utils/allocator.h. `app` may be null.
     ///
-    /// If `keep` is false, the handle is emptied first. If `keep` is true and `number` isn't 0, the
-    /// old elements overwrite the start of the new block, and so of the mapped file. This fails for
-    /// a read-only mapping. With `keep`, nothing changes on failure.
+    /// If `keep` is false, the handle is emptied first. If `keep` is true, the old elements are
+    /// copied over the start of the new block. If it maps a file, this changes the file, and fails
+    /// for a read-only mapping. If `number` is 0, the old elements are dropped. With `keep`,
+    /// nothing changes on failure.
     ///
     /// Returns false on failure: the file can't be opened, it has fewer elements, or there isn't
-    /// enough memory.
+    /// enough memory. Sets errno if a system call failed, for example to EINVAL for a misaligned
+    /// `offset`, but not for too few elements. Records no reason; see `reject_errno`.
     virtual bool load(unsigned long number, char const* path, e_prot_t prot,
                       unsigned long long offset, bool keep, android_app* app);
 
-    /// Changes the number of elements for all handles on the block. Without a block, allocates one.
-    /// For a writable file mapping, `offset` is the byte of the file at which the new mapping
-    /// starts.
+    /// Changes the number of elements for all handles on the block. Pointers and references to
+    /// elements become invalid. Without a block, allocates one.
     ///
-    /// Returns false if there isn't enough memory, and then nothing changes. Returns false for 0
-    /// elements, too, but the block is then empty.
+    /// A read-only file mapping becomes a writable copy in memory; the file isn't changed. For a
+    /// writable file mapping, `offset` is the byte of the file at which the new mapping starts, and
+    /// the old elements are copied over this part of the file. Otherwise pass 0.
+    ///
+    /// Returns false, and changes nothing, if there isn't enough memory or a writable file doesn't
+    /// have the range. With `alloc_mmap_unix`, `resize(0, 0)` of a block also returns false, but
+    /// empties the block.
     virtual bool resize(unsigned long number, unsigned long long offset);
     virtual void clear() { deallocate(); }
     virtual ~refvector2() { deallocate(); }
@@ -149,7 +158,8 @@ class refvector2 {
     /// Empties the handle. The block is freed if no other handle shares it.
     void deallocate() { set_block(nullptr); }
 
-    /// Shares the block of a handle with another element type.
+    /// Shares the block of a handle with another element type. Doesn't change the `offset` and the
+    /// `count` of an `ofsvector`.
     template <typename U>
     void share(refvector2<U, A> const& other) {
         set_block(other.m_block);
@@ -199,8 +209,8 @@ class refvector2 {
 /// A window into a shared block: `count` elements, starting at byte `offset`.
 ///
 /// Several windows, also with different element types, can share one block: assign the handle, or
-/// call `share`, then set `offset` and `count`. A window is clamped to the end of the block, so the
-/// range from `begin` to `end` is always valid.
+/// call `share`, then set `offset` and `count`. A window is clamped to the last whole element,
+/// counted from the start of the block, so the range from `begin` to `end` is always valid.
 template <typename T, typename A>
 class ofsvector : public refvector2<T, A> {
     using base = refvector2<T, A>;
@@ -213,6 +223,8 @@ class ofsvector : public refvector2<T, A> {
     unsigned long offset = 0;      ///< bytes from the start of the block to element 0
     unsigned long count = to_end;  ///< elements
 
+    /// Returns true if there are no bytes in the block or `count` is 0. A window past the end of
+    /// the block isn't `empty`: test `size() == 0`.
     bool empty() const override { return base::empty() || count == 0; }
     unsigned long size() const override {
         unsigned long const whole = base::size() * sizeof(T);
@@ -234,12 +246,14 @@ class ofsvector : public refvector2<T, A> {
               bool keep, android_app* app) override;
 
     /// Copies the window to a new, writable block of `number` elements. Other handles keep the old
-    /// block. The window is the whole new block afterwards.
+    /// block. The window is the whole new block afterwards. Pass 0 as `position`: other values have
+    /// no effect or fail.
     ///
-    /// `count` limits the copy as a number of bytes, even if an element has several bytes. Callers
-    /// depend on this. Without a block, the function does the same as that of the base class.
+    /// Copies at most `count` bytes, not elements, because callers depend on it. For elements of
+    /// several bytes, set `count` to `to_end` first if all must be kept. Without a block, the
+    /// function does the same as that of the base class.
     ///
-    /// Returns false if there isn't enough memory, and then nothing changes.
+    /// Returns false, and changes nothing, if there isn't enough memory. `resize(0, 0)` succeeds.
     bool resize(unsigned long number, unsigned long long position) override;
     void clear() override {
         base::clear();

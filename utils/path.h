@@ -30,8 +30,9 @@ std::string basename(std::string const& path);
 /// Writes the result of `basename` to `dst`, which has `size` bytes. Returns the number of bytes
 /// without the NUL. If it is `size`, there is no NUL at the end.
 ///
-/// A path of more than `size` characters is first cut to `size` characters, and then split. The
-/// result contains only whole characters.
+/// A `src` of more than `size` characters is cut before it is split, so the result may then be part
+/// of a directory name. Use the std::string version for long paths. The result contains only whole
+/// characters.
 std::size_t basename(char* dst, char const* src, std::size_t size);
 
 /// Returns the directory with its separator: "/a/b/" for "/a/b/c.jpg", and "" for "c.jpg".
@@ -40,8 +41,8 @@ std::string dirname(std::string const& path);
 /// Writes the result of `dirname` to `dst`. The limits are the same as for `basename`.
 std::size_t dirname(char* dst, char const* src, std::size_t size);
 
-/// Returns the directory and the stem of `path`, followed by `suffix`: "d/a.zvw" for "d/a.jpg" and
-/// ".zvw". The stem is cut to 255 bytes.
+/// Returns the directory and the stem (`basename`) of `path`, followed by `suffix`: "d/a.zvw" for
+/// "d/a.jpg" and ".zvw". The stem is cut to 255 bytes.
 std::string path_beside(char const* path, char const* suffix);
 
 /// Returns 0 if `s` ends with `ext`, which includes the dot. Upper and lower case are equal.
@@ -49,9 +50,10 @@ std::string path_beside(char const* path, char const* suffix);
 int extcasecmp(std::string const& s, char const* ext);
 int extcasecmp(char const* s, std::size_t len, char const* ext);
 
-/// Splits a path into four texts: "c:", "/d/", "name" and ".ext" for "c:/d/name.ext". The drive
-/// ends with the first ":". A missing part is an empty text. Each buffer must have 1024 bytes.
-/// Longer parts are cut to 1023 bytes and a NUL.
+/// Splits a path into four texts: "c:", "/d/", "name" and ".ext" for "c:/d/name.ext". The drive is
+/// all text up to and including the first ":", on all systems, so a colon in a directory name
+/// counts, too. A missing part is an empty text. Each buffer must have 1024 bytes. Longer parts are
+/// cut to 1023 bytes and a NUL.
 void splitpath(char const* path, char* drive, char* dir, char* name, char* ext);
 
 /// Writes the four texts and a NUL to `dst`, one after the other. Returns `dst`, which must be
@@ -64,9 +66,10 @@ void split(splitpath_t& parts, char const* path);
 /// Writes the four fields and a NUL to `dst`, which must have 4093 bytes. Returns `dst`.
 char* concat(char* dst, splitpath_t const& parts);
 
-/// Returns the path of the first file that exists: `name`, and `name` in "./", in each directory of
-/// the environment variable PATH, and in the directory of `extra`, which may be null. Returns
-/// `name` if there is none, so open the result to find out if the file exists.
+/// Returns the path of the first file that exists. Tries, in this order, `name`, `name` in the
+/// directory "./", `name` in each directory of the environment variable PATH, and `name` in the
+/// directory of the file path `extra`, for example argv[0]. Skips the last if `extra` is null.
+/// Returns `name` if there is none, so open the result to find out if the file exists.
 std::string searchpath(std::string const& name, char const* extra);
 
 /// Convert "/" to the separator of the system, and back. Both return the text unchanged, because

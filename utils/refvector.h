@@ -18,8 +18,9 @@ namespace libutils {
 /// Handles share an array only by assignment. `resize` gives the handle its own copy. All handles
 /// on an array must be used by one thread.
 ///
-/// `size` and `end` are of no use for loops. The users, colour palettes, have their own number of
-/// elements and depend on the layout of the functions. Use `count`.
+/// Don't loop with `size` or `end`; use `count`. They keep their odd meaning, and the virtual
+/// functions their order, because existing users depend on them. Colour palettes store their own
+/// number of elements.
 template <typename T, typename A>
 class refvector {
     static_assert(std::is_trivially_copyable_v<T>, "elements are copied as bytes");

@@ -16,7 +16,8 @@ enum class small_file_t {
 /// Reads all bytes of the regular file at `path` into `buffer`, without a NUL at the end.
 ///
 /// Prints the line of `report_limit` for `TOO_LONG`, and nothing for `UNREADABLE`. In both cases
-/// the content of `buffer` is undefined.
+/// the content of `buffer` is undefined. For `UNREADABLE`, errno is set if a system call failed. It
+/// is unchanged if the file isn't regular or became shorter.
 small_file_t read_small_file(std::vector<char>& buffer, char const* path);
 
 }  // namespace libutils

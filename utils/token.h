@@ -10,7 +10,7 @@
 namespace libutils {
 
 /// Splits `text` at each character that is in `delimiters`, and at each NUL. Appends the pieces to
-/// `out`, also empty pieces, but not an empty last piece.
+/// `out`. Empty pieces are kept, except for an empty last one.
 void separate_token(std::list<std::string>& out, std::string const& text, char const* delimiters);
 
 /// Splits `text` at the first `delimiter`. Returns false, and doesn't change `out`, if there is
