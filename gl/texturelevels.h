@@ -2,6 +2,7 @@
 // The base of the texture classes that have mipmap levels.
 #pragma once
 
+#include <algorithm>
 #include <span>
 #include <vector>
 
@@ -28,11 +29,10 @@ inline unsigned int longest_side(image3d_t const& image) {
 
 /// The images and upload settings of a texture with mipmap levels of type `image_t`.
 ///
-/// The images share their bytes with the images of the caller. The first image that a call sets
-/// must have an index below `libutils::limits::texture_images`; each face of a cube map counts as
-/// one image. Otherwise the call is reported on the error stream and changes nothing. The images
-/// after the first aren't checked. No member makes a GL call, except `Load` and `Reload` of the
-/// derived classes.
+/// The images share their bytes with the images of the caller. There are at most
+/// `libutils::limits::texture_images` images; each face of a cube map counts as one. Further images
+/// are reported on the error stream and ignored. No member makes a GL call, except `Load` and
+/// `Reload` of the derived classes.
 template <typename image_t, typename parameter_t>
 class grTexturableLevels : public grTexturableImageGL {
   public:
@@ -66,23 +66,17 @@ class grTexturableLevels : public grTexturableImageGL {
 
     /// Sets the images from index `first` on and removes all later ones.
     void replace_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
-        if (first >= max_image_count) {
-            libutils::report_limit(libutils::limits::texture_images);
-            return;
+        if (is_limited(first, images)) {
+            m_images.resize(first + images.size());
+            assign_at(first, images, size);
         }
-        m_images.resize(first + images.size());
-        assign_at(first, images, size);
     }
     /// Sets the images from index `first` on and keeps all later ones.
     void overwrite_from(unsigned long first, std::span<image_t const> images, unsigned int size) {
-        if (first >= max_image_count) {
-            libutils::report_limit(libutils::limits::texture_images);
-            return;
+        if (is_limited(first, images)) {
+            m_images.resize(std::max<std::size_t>(m_images.size(), first + images.size()));
+            assign_at(first, images, size);
         }
-        if (m_images.size() < first + images.size()) {
-            m_images.resize(first + images.size());
-        }
-        assign_at(first, images, size);
     }
 
     std::vector<image_t> m_images;
@@ -94,6 +88,16 @@ class grTexturableLevels : public grTexturableImageGL {
     color3a_t const* m_bordercolor = nullptr;
 
   private:
+    /// Drops and reports the images past the limit. Returns false if none is left.
+    static bool is_limited(unsigned long first, std::span<image_t const>& images) {
+        unsigned long const room = max_image_count - std::min(first, max_image_count);
+        if (room == 0 || images.size() > room) {
+            libutils::report_limit(libutils::limits::texture_images);
+            images = images.first(room);
+            return room != 0;
+        }
+        return true;
+    }
     void assign_at(unsigned long first, std::span<image_t const> images, unsigned int size) {
         m_size = size;
         for (image_t const& image : images) {

@@ -155,8 +155,8 @@ bool ViewScene::make_graph(char const* datapath) {
         if (place->make_graph(datapath)) {
             ++place;
         } else {
-            all_made =
-                libutils::report_error(place->viewobj.path(), ": not enough texture memory.");
+            all_made = libutils::report_error(libutils::putname(place->viewobj.path()),
+                                              ": not enough texture memory.");
             place = remove(place);
         }
     }

@@ -8,8 +8,8 @@ namespace libutils {
 
 bool report_limit(limit_t const& limit, char const* file) {
     reject("exceeds limit ", limit.name, " (", limit.value, " ", limit.unit, ")");
-    return report_error(file != nullptr ? file : "", file != nullptr ? ": " : "", "exceeds limit ",
-                        limit.name, " (", limit.value, " ", limit.unit, ").");
+    return report_error(putname(file), file != nullptr ? ": " : "", "exceeds limit ", limit.name,
+                        " (", limit.value, " ", limit.unit, ").");
 }
 
 }  // namespace libutils

@@ -19,7 +19,7 @@ struct limit_t {
 };
 
 /// Prints the line "FILE: exceeds limit NAME (VALUE UNIT)." on the error stream, without "FILE: "
-/// if `file` is null. `file` isn't escaped. Records the text after "FILE: " as the reason of the
+/// if `file` is null. Records the text after "FILE: " as the reason of the
 /// failure; see `reject`. Always returns false.
 ///
 /// Call it if the number is larger than `limit.value`: `return report_limit(limits::tiles, path);`

@@ -9,7 +9,7 @@ import signal
 import subprocess
 import unittest
 
-from viewerdriver import MOST_SECONDS, PROGRAM, Viewer, ViewerTest, run, wait_for, write_bmp
+from viewerdriver import MOST_SECONDS, PROGRAM, Viewer, ViewerTest, bmp_headers, run, wait_for, write_bmp
 
 NAMES = "a.bmp", "a.jpg", "a.png", "a.tga"
 KINDS = "open read write mmap ftruncate rename fsync close malloc SIGTERM".split()
@@ -239,12 +239,13 @@ class Machine(FaultTest):
         bad, shown = "\x1b[2J\nforged\u009b\x7f", "\\x1b[2J\\x0aforged\\xc2\\x9b\\x7f"
         os.mkdir(self.path(bad))
         self.put({f"{bad}/{bad}a.bmp": self.old["a.bmp"], f"{bad}/{bad}b.jpg": b"\xff\xd8",
+                  f"{bad}/{bad}c.bmp": bmp_headers(2000, 2000, 24) + bytes(7000),
                   f"{bad}/{bad}.txt": b""})
         master, slave = pty.openpty()
         viewer = Viewer("-verbose", "-debug", "-frametype", "0", self.path(bad),
                         self.path(bad + "gone.png"), stream=slave)
         self.addCleanup(viewer.close)
-        viewer.await_title(f"{shown}a.bmp (1/3)")
+        viewer.await_title(f"{shown}a.bmp (1/4)")
         viewer.key("w", "s", "space", "End", "shift+w", "q")
         os.close(slave)
         output = b""
@@ -258,6 +259,7 @@ class Machine(FaultTest):
         output = output.partition(b"\r\n====")[0]
         self.assertNotRegex(output, rb"\x1b|\x7f|\xc2|\nforged")
         for line in ("b.jpg: jpeg decompress fail, stop.", "gone.png: image file not found.",
+                     "c.bmp: exceeds limit ",
                      "a.zvw: zvwfile saved."):
             self.assertIn(shown + line, output.decode())
 

@@ -78,6 +78,8 @@ TEST(TextureLimits, LevelsBeyondTheLimitAreReported) {
     EXPECT_EQ(console.err(), report);
     texture.setImages({image}, 0, 192);
     EXPECT_EQ(console.err(), report);
+    texture.setImages({image, image}, 0, 191);
+    EXPECT_EQ(console.err(), report);
     cube.setImage({image, image, image, image, image, image}, 0, 32);
     EXPECT_EQ(console.err(), report);
 }
