@@ -5,7 +5,9 @@ include(CMakePackageConfigHelpers)
 set(libraries utils geometry image metadata codecs glext gl options window scene)
 # Headers that are not installed, because only sources of the same library include them.
 set(excluded)
-foreach(header jpeglimits.h jpegtransform_ops.h sizelimits.h glucalls.h optionrow.h)
+foreach(header mappingguard.h ifdwalk.h makernotes.h binaryio.h bmpstream.h jpeglimits.h jpegtransform_ops.h
+        sizelimits.h glformattables.h glucalls.h textureupload.h unpackbounds.h optionrow.h framegeometry.h
+        viewmatrix.h)
   list(APPEND excluded PATTERN ${header} EXCLUDE)
 endforeach()
 
