@@ -13,8 +13,8 @@ namespace zanolib {
 
 /// The tiles along one axis of a picture.
 struct axis_plan_t {
-    std::uint32_t full = 0;     ///< the number of tiles that the picture fills along this axis
-    std::uint32_t partial = 0;  ///< 1 if the picture fills a part of one more tile, else 0
+    std::uint32_t full = 0;     ///< the number of tiles that have `side` pixels of the picture
+    std::uint32_t partial = 0;  ///< 1 if there is one more tile with fewer pixels, else 0
     std::uint32_t side = 0;     ///< the side, in pixels, of the tiles that this axis needs
 };
 
@@ -32,9 +32,8 @@ struct tile_plan_t {
 
     [[nodiscard]] std::uint32_t column_count() const { return columns.full + columns.partial; }
     [[nodiscard]] std::uint32_t row_count() const { return rows.full + rows.partial; }
-    /// Returns the part of the picture that a tile shows. Row 0 is the bottom row. If one axis
-    /// needs smaller tiles than the other, the rectangle can extend beyond the picture along that
-    /// axis. `libgr::makewindow` clips it to the picture.
+    /// Returns the rectangle of a tile. Row 0 is the bottom row, and column 0 the left one. The
+    /// rectangle can extend beyond the picture; see `plan_tiles`. `libgr::makewindow` clips it.
     [[nodiscard]] tile_window_t window(std::uint32_t row, std::uint32_t col) const;
 };
 
@@ -46,6 +45,14 @@ axis_plan_t plan_axis(std::uint32_t extent, std::uint32_t maxsize);
 
 /// Plans the tiles of a picture. Sizes are in pixels. `maxsize` is the largest side of a tile and
 /// must be a power of two. Returns a plan without tiles if one of the parameters is 0.
+///
+/// In `plan = plan_tiles(600, 128, 256)`, the rows need smaller tiles than the columns, so the
+/// rectangles extend beyond the top of the picture:
+///
+///   plan.columns         full 2, partial 1, side 256
+///   plan.rows            full 1, partial 0, side 128
+///   plan.tile            256
+///   plan.window(0, 2)    x 512, y 0, width 88, height 256, of which the picture has 128 rows
 tile_plan_t plan_tiles(std::uint32_t width, std::uint32_t height, std::uint32_t maxsize);
 
 /// The tiles of one picture.
@@ -56,27 +63,42 @@ struct multi_square_image_t {
     libgr::e_image_bits_t m_bits = libgr::IMAGE_BITS_8;
     std::uint32_t m_cols = 0;
     std::uint32_t m_rows = 0;
-    /// The size of the picture, where 1 is the side of one tile.
+    /// The size of the picture, where 1 is the side of one tile: (600 / 256, 128 / 256) in the
+    /// example at `plan_tiles`.
     libgr::direction2_t m_size{0.0f, 0.0f};
 
     /// Replaces the tiles by `m_cols` times `m_rows` empty images. Returns false and leaves no
-    /// tiles if memory runs out or if the number of tiles exceeds the limit `tiles`
-    /// (utils/limits.h). Prints an error line in the second case.
+    /// tiles if there is no memory, or if the number of tiles exceeds the limit `tiles`
+    /// (utils/limits.h). Prints an error line only for the limit.
     bool allocate();
-    /// Removes the tiles and sets the columns and rows to 0. `m_size` and the description of the
-    /// pixels are unchanged.
+    /// Removes the tiles and sets `m_cols` and `m_rows` to 0. The other members are unchanged.
     void clear();
 };
 
-/// Cuts `in` into the tiles of `plan_tiles`. The tiles at the right and top edges are smaller than
-/// the others if the picture doesn't fill them. Without `use_window`, each tile is a copy of its
-/// pixels. With `use_window`, each tile is a window that shares the pixels of `in` and keeps them
-/// alive. Use `in` and its windows from one thread, because the reference counts aren't atomic.
+/// Cuts `in` into the tiles of `plan_tiles`. Row 0 of `in` is the bottom row (image/image.h), and
+/// `in` must not be a window into a larger picture, because `makewindow` would clip its tiles too
+/// much. The tiles at the right and top edges contain
+/// only the pixels of the picture.
 ///
-/// Prints an error line and returns false if `in` is compressed, a size or `maxsize` is 0, there is
-/// no memory, or the picture exceeds the limit `tiles` or `texel_ratio` (utils/limits.h). Copying
-/// also fails if `in` has too few bytes. After a failure, `out` has no tiles, with two exceptions:
-/// if `in` is compressed, `out` is unchanged, and if a copy fails, the earlier tiles are complete.
+/// If `use_window` is true, the tiles share the pixels of `in` and keep them alive. Use `in` and
+/// the tiles from one thread, because the reference counts aren't atomic. If `use_window` is false,
+/// each tile has a copy of its pixels.
+///
+/// Returns false in these cases, and prints "rectangle_to_squares(): " with the text of the case:
+///
+///   Case                               Text                                `out` afterwards
+///   `in` is compressed                 compressed format not supported.    unchanged
+///   a size or `maxsize` is 0,          outimg allocate failed.             no tiles, `m_cols` and
+///   no memory for the list of tiles,                                       `m_rows` are 0
+///   limit `tiles` or `texel_ratio`
+///   a copy fails: no memory, or        copy() failed.                      only the earlier tiles
+///   `in` has too few bytes                                                 have pixels
+///
+/// For a limit, prints the line of `libutils::report_limit` before. The limit `texel_ratio` is the
+/// number of texels in all tiles (`tile` squared for each) for each pixel of the picture. It is
+/// checked above `texels_unchecked` texels. It rejects long narrow strips, whose textures would be
+/// almost empty. After a failed copy, `m_cols` and `m_rows` are those of the plan, and the failed
+/// and later tiles must not be used.
 bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsigned long maxsize,
                           bool use_window);
 

@@ -13,8 +13,12 @@
 namespace zanolib {
 
 /// The textures of the tiles of one picture. The order of calls is `squares_to_texobjs`,
-/// `setTexParm`, `Preload`, `draw_image` and `Unload`. After `Unload`, `Preload` may be called
-/// again. Copies share the OpenGL textures.
+/// `setTexParm`, `Preload`, `draw_image` and `Unload`. After `Unload`, `Preload` or
+/// `squares_to_texobjs` may be called again. The tiles share their pixels with `m_textures`, and
+/// may be destroyed after `squares_to_texobjs`.
+///
+/// Copies share the OpenGL textures. The last copy deletes them in its destructor, which needs a
+/// current context if there are textures.
 struct multi_texture_object_t {
     std::vector<libgr::grTexture2D>
         m_textures;  ///< the images and formats, in the order of the tiles
@@ -25,9 +29,9 @@ struct multi_texture_object_t {
     /// The size of the picture, where 1 is the side of one tile.
     libgr::direction2_t m_size{0.0f, 0.0f};
 
-    /// Sets the filters and wrap modes that `draw_image` sets for each tile. `parm` must outlive
-    /// this object, and may change between calls of `draw_image`. Without this call, or after null,
-    /// `draw_image` doesn't set them. New textures have OpenGL's defaults.
+    /// Sets the filters and wrap modes that `draw_image` sets for each tile. The caller owns
+    /// `parm`, which must outlive this object and may change between calls of `draw_image`. If
+    /// `parm` is null, or without this call, the textures have OpenGL's initial values.
     void setTexParm(libgr::texparameter2d_t const* parm) { m_texparm = parm; }
     /// Creates the OpenGL textures and uploads the tiles. Returns false, without textures, if there
     /// is no memory for all of them. Needs a current context.
@@ -39,18 +43,24 @@ struct multi_texture_object_t {
     /// current context.
     [[nodiscard]] bool isResident() const;
     /// Draws the picture as the rectangle from `btm_lft` to `top_rit` in the plane z = 0, with its
-    /// front toward +z. Light and the current colour don't change the colours of the picture. Draws
-    /// nothing before `Preload`. Needs a current context, and can be compiled into a display list.
+    /// front toward +z. Draws nothing before `Preload`. Can be compiled into a display list. Needs
+    /// a current context.
+    ///
+    /// Uses the active texture unit with GL_REPLACE, so light and the current colour don't change
+    /// the picture. Expects all other texture targets and units, blending, the depth, alpha and
+    /// stencil tests, and GL programs to be disabled. Leaves GL_TEXTURE_2D disabled, the last
+    /// tile's texture bound, and the texture environment mode at GL_REPLACE.
     void draw_image(libgr::position2_t const& btm_lft, libgr::position2_t const& top_rit) const;
 };
 
-/// Sets up one texture for each tile of `in`. All textures have the same power-of-two size, and
-/// share the pixels of the tiles. Creates no OpenGL object, but `gl_extloader_init` must have been
-/// called. Always returns true.
+/// Sets up one texture for each tile of `in`. All textures have the same power-of-two size. If
+/// `out` has OpenGL textures, call `Unload` before. Creates no OpenGL object, but
+/// `gl_extloader_init` must have been called. Always returns true.
 ///
-/// When GLU builds the mipmaps (see `isBuiltByGLU` in gl/texture2d.h), it stretches tiles that fill
-/// only a part of their texture. To avoid this, each of these tiles is copied into a full square
-/// and its edge pixels are repeated. If there is no memory for the square, the tile is stretched.
+/// GLU, which builds the mipmaps on old systems (see `isBuiltByGLU` in gl/texture2d.h), would
+/// stretch a tile to the size of its texture. So a smaller tile is copied into a square of this
+/// size, and its edge pixels are repeated. If there is no memory for the square, GLU stretches the
+/// tile, and only a part of it is drawn.
 bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const& in);
 
 }  // namespace zanolib

@@ -12,7 +12,7 @@
 
 namespace zanolib {
 
-/// The looks of the photo frame. The values are those of the option `frametype`.
+/// The looks of the photo frame. The option `frametype` has the same values.
 enum e_frametype_t : unsigned int {
     FRAMETYPE_NONE = 0,        ///< no frame
     FRAMETYPE_FLAT = 1,        ///< the colour of the option `framecolor`
@@ -21,19 +21,25 @@ enum e_frametype_t : unsigned int {
     FRAMETYPE_FLOWER = 4,      ///< the texture flower.bmp, blended over the background
 };
 
-/// The frame of one picture. It is drawn with the current modelview matrix, so it rotates and zooms
-/// with the picture. The order of calls is `init` (once), `setFrameType`, `setSize`, `make_graph`,
-/// `Draw` as often as needed, `free_graph`, and `destroy` (once).
+/// The frame of one picture. The current modelview matrix applies to it, as to the picture. The
+/// order of calls is:
 ///
-/// All frames share one set of OpenGL textures and programs. `make_graph` creates the objects that
-/// the look needs. `free_graph` deletes the programs for all frames. The textures remain for the
-/// next `make_graph`, which uploads them again.
+///   1. `init`, once for all frames.
+///   2. `setFrameType`, `setSize` and `make_graph`.
+///   3. `Draw`, as often as needed.
+///   4. `free_graph`. Continue with step 2 to change the look.
+///   5. `destroy`, once for all frames.
 ///
-/// Call `free_graph` of one frame before `make_graph` of another. `make_graph` always creates new
-/// programs and overwrites the names of the old ones, which can't be deleted afterwards. ViewScene
-/// doesn't follow this rule if it has several pictures. After `free_graph`, frames that use the
-/// programs aren't drawn, and OpenGL reports GL_INVALID_OPERATION, until the next `make_graph` of
-/// any of them. Frames of other looks and paths are still drawn.
+/// Make all calls from the thread of the context, and use one context for all frames: they share
+/// their OpenGL textures and programs in static variables.
+///
+/// A call of `make_graph` for a bump-mapped look creates new programs for all frames. The old ones
+/// can't be deleted afterwards. `free_graph` deletes the current programs, even if other frames
+/// need them. These frames aren't drawn then, OpenGL reports GL_INVALID_OPERATION, and the pictures
+/// are drawn without a frame. `make_graph` of one of them repairs all. In a ViewScene, call
+/// `ViewScene::free_graph` and `ViewScene::make_graph`, because `make_graph` alone skips pictures
+/// that have their OpenGL objects. Frames without programs aren't affected. The textures are never
+/// deleted.
 ///
 /// The bump-mapped looks use the first of these paths that the context supports:
 ///
@@ -43,11 +49,16 @@ enum e_frametype_t : unsigned int {
 ///              GL_ARB_multitexture
 ///   plain      none: a lit texture without bumps
 ///
-/// The files are hairline.bmp, flower.bmp, bumpmapv.vp1 and bumpmapf.fp1. Each file is searched
-/// for in the working directory, then in `datapath`, then in `zanolib::site_directory`
-/// (options/option.h). hairline.bmp must have 8 bits per pixel, otherwise `init` prints an error
-/// line. If OpenGL is older than 2.0, the sides of the pictures must be powers of two. The sides
-/// aren't checked.
+/// Each of these files is searched for in the working directory, then in `datapath`, then in
+/// `zanolib::site_directory` (options/option.h):
+///
+///   File                        Is read by    If it is missing or damaged
+///   hairline.bmp                `init`        bump-mapped frames have no texture
+///   flower.bmp                  `init`        the frame of this look has no texture
+///   bumpmapv.vp1, bumpmapf.fp1  `make_graph`  prints an error line, uses the next path
+///
+/// hairline.bmp must have 8 bits per pixel. If OpenGL is older than 2.0, the sides of the two
+/// textures must be powers of two, otherwise OpenGL reports an error.
 class ViewFrame : public libgr::grObject3D {
   public:
     ViewFrame() = default;
@@ -55,15 +66,16 @@ class ViewFrame : public libgr::grObject3D {
     ViewFrame& operator=(ViewFrame const&) = delete;
     ~ViewFrame() override = default;
 
-    /// Loads the pictures that all frames share, unless they are loaded. `datapath` is put in front
-    /// of the names of the files, so it must end in "/". If a file is missing or damaged, its
-    /// texture stays empty and the frame is drawn without it. No error line is printed, unless the
-    /// picture exceeds the limit `picture_memory` (utils/limits.h). Creates no OpenGL object, but
-    /// `gl_extloader_init` must have been called.
+    /// Loads the textures of all frames from hairline.bmp and flower.bmp, unless they are loaded.
+    /// `datapath` must end in "/", because it is put in front of the file names, and must not be
+    /// null. Prints no error line if a file is missing or damaged. Prints one if hairline.bmp
+    /// hasn't 8 bits per pixel, or if a file exceeds the limit `picture_memory` (utils/limits.h).
+    /// Creates no OpenGL object, but `gl_extloader_init` must have been called.
     static void init(char const* datapath);
-    /// Releases the pictures that `init` loaded.
+    /// Releases the pixels that `init` loaded. Makes no GL call: OpenGL textures remain.
     static void destroy();
 
+    /// Sets the look. Call it before `make_graph` or after `free_graph`.
     void setFrameType(e_frametype_t type);
     /// Sets the size of the picture and the width of the frame, in pixels of the picture.
     void setSize(libgr::direction2_t size, unsigned int width);

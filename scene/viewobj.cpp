@@ -137,7 +137,7 @@ bool ViewObject::setImage(char const* path, char const* /*datapath*/) {
         return libutils::reject("not enough memory");
     }
     libgr::grPrintError("before rectangle_to_squares");
-    // If this fails, the tiles that were cut before are shown.
+    // If this fails, there are no tiles, and `Draw` draws nothing.
     rectangle_to_squares(m_squareimage, m_image, static_cast<unsigned long>(limit), true);
     libgr::grPrintError("rectangle-to-squares");
     debug_line("rectangle_to_square() complete.");

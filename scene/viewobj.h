@@ -20,15 +20,17 @@ namespace zanolib {
 /// `libutils::path_beside` (utils/path.h) for the maximum length.
 std::string make_snapshotpath(char const* picture);
 
-/// One picture. It is drawn in the plane z = 0, centred on the origin, with one unit for each
-/// pixel. Its pixels are never scaled or rotated: the view matrix of ViewScene does this. The order
-/// of calls is `setImage`, `load_texture`, `Draw` and `free_texture`. All objects share one set of
-/// codecs without locks: call `setImage` of all objects from one thread only.
+/// One picture. It is drawn in the plane z = 0, centred on the origin. One unit of the modelview
+/// matrix is one pixel of the picture in its file, before the rotation by its orientation. The
+/// order of calls is `setImage`, `load_texture`, `Draw` and `free_texture`.
+///
+/// Make all calls from the thread of the context. All objects share one set of codecs without
+/// locks. The last copy deletes the textures in its destructor, which needs a current context if
+/// they exist.
 class ViewObject : public libgr::grObject3D {
   public:
     ViewObject();
-    /// Copies only empty objects correctly: the textures of a copy keep a pointer to the filters of
-    /// the original.
+    /// Copy only new objects: after `setImage`, a copy points to the filters of the original.
     ViewObject(ViewObject const&) = default;
     ViewObject& operator=(ViewObject const&) = delete;
     ~ViewObject() override = default;
@@ -43,20 +45,31 @@ class ViewObject : public libgr::grObject3D {
     /// order of the machine. `datapath` is ignored.
     ///
     /// Returns false if no codec has the extension, the codec fails, the picture has no pixels or a
-    /// side of 2^31 pixels or more, or a conversion fails. Only the codec prints an error line. If
-    /// the picture can't be cut, prints an error line and returns true, and `Draw` draws nothing.
+    /// side of 2^31 pixels or more, or there is no memory for a conversion. Only the codec prints
+    /// an error line. If the picture can't be cut (see `rectangle_to_squares`), prints an error
+    /// line and returns true, and `Draw` draws nothing. `libutils::failure_reason` isn't empty
+    /// then.
+    ///
+    /// Use a new object for each file, or call `free_texture` before the second call. Otherwise
+    /// `load_texture` keeps the old textures, and `Draw` uses them with the new size and tiles,
+    /// which can end the program. After false, `path` returns the new path. `getImageSize` and
+    /// `rightrotatecount` may return the old or new values, so `Draw` may stretch the old picture.
+    ///
     /// Needs a current context, but creates no OpenGL object.
     bool setImage(char const* path, char const* datapath);
 
-    /// Saves the contents of the window, including the frame, as a JPEG file. Its path is the
-    /// snapshot path of `path`, and it replaces an old snapshot.
+    /// Saves the contents of the window, including the frame, as a JPEG file, and replaces an old
+    /// one. `path` is the path of the picture; the path of the file is `make_snapshotpath(path)`.
     ///
-    /// The front buffer is read, so the frame must have been swapped. If all its pixels are black,
-    /// the back buffer is read instead, because some drivers can't read the front buffer. To
-    /// support them, draw the frame again before the call and don't swap the buffers.
+    /// The pixels are read from the front buffer, which has the last frame that was swapped. Some
+    /// drivers can't read it and return black pixels. So if all pixels are black, the back buffer
+    /// is read instead. Its contents are undefined after a swap: before this call, call
+    /// `ViewScene::Display`, and don't swap the buffers.
     ///
-    /// On failure, returns false, sets errno, and leaves an old snapshot unchanged. errno is
-    /// ENODATA if the viewport is empty. Needs a current context.
+    /// On failure, returns false, sets errno, and leaves an old file unchanged. errno is ENODATA if
+    /// the viewport is empty, ENOMEM if there is no memory, EINVAL if the JPEG encoder fails, or
+    /// the error of the file system. Only the JPEG encoder prints an error line. Needs a current
+    /// context.
     bool saveImage(char const* path);
 
     /// Creates the textures of the tiles unless they exist. Returns false, without textures, if
@@ -67,8 +80,8 @@ class ViewObject : public libgr::grObject3D {
     /// Returns true if all textures are resident. Needs a current context.
     [[nodiscard]] bool is_resident() const { return m_texobject.isResident(); }
 
-    /// Sets the filter for magnification: linear (smooth) or nearest. Display lists that were
-    /// compiled before keep the old filter.
+    /// Sets the filter for magnification: linear (true, as in a new object) or nearest. Display
+    /// lists that were compiled before keep the old filter.
     void setMagSmooth(bool on);
     [[nodiscard]] bool getMagSmooth() const { return m_magsmooth; }
 
@@ -82,7 +95,8 @@ class ViewObject : public libgr::grObject3D {
     [[nodiscard]] unsigned long rightrotatecount() const { return m_rightrotatecount; }
 
     using grObject3D::Draw;
-    /// Draws the picture. Draws nothing before `load_texture`. Needs a current context.
+    /// Draws the picture with `multi_texture_object_t::draw_image`, which describes the OpenGL
+    /// state. Draws nothing before `load_texture`. Needs a current context.
     void Draw() const override;
 
   private:

@@ -2,7 +2,7 @@
 // The scene: the list of loaded pictures, their views, and the drawing of the current one.
 #pragma once
 
-/// Cuts a picture into tiles and draws it, zoomed to twice its size:
+/// Draws a picture at twice its size:
 ///
 /// ```cpp
 /// #include "scene/viewscene.h"
@@ -20,17 +20,21 @@
 ///
 ///   1. Create a context, make it current, and call `gl_extloader_init` (glext/glextloader.h).
 ///   2. `Init`, once.
-///   3. `addImage` and `make_graph`. To show one picture at a time, call `delImage` before you add
-///      the next one.
-///   4. `Reshape` after the size of the framebuffer or the picture changed.
-///   5. `Display` for each frame, and then swap the buffers.
-///   6. `Destroy`, once.
+///   3. `addImage`, then `make_graph`. To replace the current picture, call `delImage` first.
+///   4. `Reshape`, also after the size of the framebuffer or the current picture changed.
+///   5. `Display` for each frame, then swap the buffers.
+///   6. `free_graph` while the context is current, then `Destroy`, once.
 ///
-/// All calls must come from the thread that has the context. scene/viewobj.h lists the formats of
-/// files, scene/viewframe.h the looks of the frame, and utils/limits.h the limits.
-/// scene/squaretiles.h and scene/tiletextures.h cut and draw a picture without a scene. The scene
-/// reads the options `frametype`, `framewidth`, `framecolor`, `verbose` and `debug`
-/// (options/option.h).
+/// scene/viewobj.h lists the formats of files, scene/viewframe.h the looks of the frame, and
+/// docs/limits.md the limits. scene/squaretiles.h and scene/tiletextures.h cut and draw a picture
+/// without a scene.
+///
+/// The scene reads these options (options/option.h). Changes have no effect on earlier calls.
+///
+///   Option                   Is read by
+///   frametype, framewidth    `addImage`, for the new picture
+///   framecolor               `Display`
+///   verbose, debug           each call that prints lines for these options
 
 #include <list>
 
@@ -43,16 +47,26 @@
 
 namespace zanolib {
 
-/// A list of pictures, of which the current one is drawn. The scene owns the pictures, and sets the
-/// OpenGL state, the viewport and the projection.
+/// A list of pictures. The scene owns the pictures and draws the current one.
 ///
-/// Each picture has a view matrix M, with row vectors as in geometry/matrix.h. One unit is one
-/// pixel of the picture. With the identity, one pixel of the picture is one pixel of the window,
-/// and the picture is centred. Each view operation multiplies M from the right, so the newest
-/// operation is applied last. It works in screen axes: x points right, y points up, and the origin
-/// is the centre of the window. So rotations and zooms change the position of a picture that was
-/// moved before. Without a current picture, the view operations have no effect. None of them needs
-/// a context.
+/// Threads and contexts: Make all calls from the thread of the context. Functions that make GL
+/// calls say that they need a current context. Use one context for all scenes of a process, because
+/// the frames share their OpenGL objects and `gl_extloader_init` loads the functions of one
+/// context.
+///
+/// OpenGL state: `Init` disables lighting, blending and the depth, alpha and stencil tests. It
+/// enables the culling of back faces, and sets the clear colour to gray (0.18 for red, green and
+/// blue). `Display` expects this state, the projection of `Reshape`, and the state that
+/// `multi_texture_object_t::draw_image` expects. To change the background, call glClearColor after
+/// `Init`. `Display` leaves the matrix mode at GL_MODELVIEW, the view matrix on its stack,
+/// GL_LIGHT0 enabled, and the state that `draw_image` leaves.
+///
+/// View: Each picture has a view matrix M, with row vectors as in geometry/matrix.h. The axes are
+/// those of the screen: x points right, y points up, and the origin is the centre of the
+/// framebuffer. With the identity, one pixel of the picture is one pixel of the framebuffer, and
+/// the picture is centred. Each view operation multiplies M from the right, so the newest operation
+/// is applied last. Rotations and zooms are about the origin, so they change the position of a
+/// picture that was moved before. Without a current picture, the view operations have no effect.
 class ViewScene {
   public:
     /// One picture, its frame, and the nodes that draw both with the view matrix.
@@ -65,12 +79,12 @@ class ViewScene {
         bool graph_made = false;              ///< true if the OpenGL objects exist
 
         obj_t() = default;
-        /// Copies only empty objects correctly: the nodes of a copy point to those of the original.
+        /// Copy only new objects: after `load`, the nodes of a copy point to those of the original.
         obj_t(obj_t const&) = default;
         obj_t& operator=(obj_t const&) = delete;
-        /// Deletes the OpenGL objects. A scene can be destroyed after its context, because OpenGL
-        /// calls without a current context have no effect in GLVND and Mesa, and libGL stays
-        /// loaded.
+        /// Deletes the OpenGL objects. If another context is current, this deletes the objects
+        /// that have the same names there. If no context is current, this has no effect in GLVND
+        /// and Mesa, so a scene can be destroyed after its context.
         ~obj_t() { free_graph(); }
 
         /// Loads the picture and sets up the frame. Returns false if the picture can't be loaded or
@@ -87,34 +101,49 @@ class ViewScene {
     ViewScene(ViewScene const&) = delete;
     ViewScene& operator=(ViewScene const&) = delete;
 
-    /// Sets the OpenGL state that never changes and loads the pictures of the frames. `datapath` is
-    /// the directory of the program's data and must end in "/". Needs a current context.
+    /// Sets the OpenGL state that `Display` expects and calls `ViewFrame::init`. `datapath` is the
+    /// directory of the frame's files and must end in "/". Needs a current context.
     void Init(char const* datapath);
-    /// Releases the pictures of the frames.
+    /// Calls `ViewFrame::destroy`. The pictures and the OpenGL objects remain. All scenes share the
+    /// frame's files, so call this function for the last scene only.
     void Destroy();
 
-    /// Loads the picture at `path` and appends it to the list. If there is no current picture, the
-    /// first of the list becomes current. Then the current picture, which isn't always the new one,
-    /// is rotated to the orientation stored in its file. If the list wasn't empty, the current
-    /// picture is rotated again: call `Origin` to reset its view. To show the new picture, call
-    /// `setCurrent` with its index, and then `Origin`, which rotates it to its orientation.
-    /// `datapath` is ignored. Needs a current context.
+    /// Loads the picture at `path` and appends it to the list. If no picture is current, the first
+    /// of the list becomes current. `datapath` is ignored. Needs a current context.
     ///
-    /// Returns false, without a change of the list, if the file doesn't exist, isn't a regular file
-    /// or can't be loaded, or if there is no memory. Prints an error line if the file doesn't
-    /// exist. The codecs print their own lines. If the picture can't be cut into tiles, prints an
-    /// error line and returns true, and only its frame is drawn.
+    /// Then rotates the current picture to the orientation in its file, even if it isn't the new
+    /// one. Callers depend on this. `Origin` corrects the view:
+    ///
+    ///     scene.addImage("a.jpg", "");  // a is current and upright
+    ///     scene.addImage("b.jpg", "");  // a is current and rotated again, b isn't rotated
+    ///     scene.Origin();               // a is upright
+    ///     scene.setCurrent(1);
+    ///     scene.Origin();               // b is current and upright
+    ///
+    /// Returns false, without a change of the list, in these cases. `libutils::failure_reason`
+    /// (utils/diagnostics.h) returns the reason if `clear_failure_reason` was called before.
+    ///
+    ///   Case                                             Error line
+    ///   the file doesn't exist                           PATH: image file not found.
+    ///   the codec rejects the file                       the lines of the codec, if any
+    ///   no regular file, other extension, no memory      none
+    ///
+    /// Returns true even if the picture can't be cut into tiles (see `rectangle_to_squares`). Then
+    /// only the frame is drawn, and `failure_reason` isn't empty. If there are tiles, it is empty.
     bool addImage(char const* path, char const* datapath);
-    /// Removes the current picture. The next one becomes current, or the last if there is no next
-    /// one. Returns false if there is no current picture. Needs a current context if the OpenGL
-    /// objects exist.
+    /// Removes the current picture and deletes its OpenGL objects. The next picture becomes
+    /// current, or the last if there is no next one. Returns false if no picture is current. If
+    /// several pictures have bump-mapped frames, call `free_graph` and `make_graph` afterwards; see
+    /// ViewFrame. Needs a current context if the OpenGL objects exist.
     bool delImage();
-    /// Makes the picture with the index `n`, counted from 0, the current one. If `n` is out of
-    /// range, no picture is current afterwards.
+    /// Makes the picture with the index `n` current. Indices count from 0 in the order of
+    /// `addImage`. If a picture is removed, the later indices decrease by 1. If `n` is out of
+    /// range, no picture is current afterwards, and `getCurrentImageSize` returns (0, 0). No
+    /// function returns the number of pictures.
     void setCurrent(unsigned long n);
-    /// Creates the OpenGL objects of all pictures. `datapath` is as in `Init`. A picture for which
-    /// OpenGL has no memory is removed, and an error line is printed. Returns false if any was
-    /// removed. Needs a current context.
+    /// Creates the OpenGL objects of all pictures that have none. `datapath` is as in `Init`. If
+    /// OpenGL has no memory for a picture, prints "PATH: not enough texture memory." and removes
+    /// the picture, as `delImage` does. Returns false if any was removed. Needs a current context.
     bool make_graph(char const* datapath);
     /// Deletes the OpenGL objects of all pictures. Needs a current context.
     void free_graph();
@@ -129,29 +158,32 @@ class ViewScene {
     void Zoom(float zoom, float);
     /// Magnifies by `factor`.
     void Scale(float factor, float);
-    /// Moves by `d`, in pixels of the window.
+    /// Moves by `d`, in pixels of the framebuffer. If the mouse moved 10 pixels right and 10 down,
+    /// pass `libgr::direction3(10, -10, 0)`. Pass 0 for z: the projection has no perspective, and
+    /// the picture is invisible if its z isn't from -9000 to 1000.
     void Move(libgr::direction3_t const& d, float);
-    /// Multiplies the view matrix by `m`. It doesn't replace the view.
+    /// Multiplies the view matrix by `m`. To set the view matrix to `m`, pass
+    /// `libgr::Invert(getMatrix()) * m`.
     void Matrix(libgr::matrix3w_t const& m);
-    /// Takes back half of the rotation, about the centre of the window: 80 degrees become 40, and
-    /// 20 after another call. This is a known quirk: `libgr::getRotation3` returns half the angle,
-    /// and users rely on the result. `Origin` takes back the whole rotation. Has no effect if the
-    /// determinant of the view matrix isn't positive.
+    /// Halves the rotation of the picture: 80 degrees become 40, and another call makes them 20.
+    /// Users depend on this result. The cause is `libgr::getRotation3`, which returns half the
+    /// angle. Has no effect if the determinant of the view matrix isn't positive.
     void clrRotate();
-    /// Takes back the zoom, about the centre of the window. If the determinant of the view matrix
-    /// isn't positive, for example after `Scale` by a negative factor, the view matrix contains
-    /// NaNs or infinities afterwards. `Origin` repairs it.
+    /// Scales the picture to its own size. This also scales its distance from the centre of the
+    /// window. If the determinant of the view matrix isn't positive, for example after `Scale` by a
+    /// negative factor, the matrix contains NaNs or infinities afterwards. `Origin` repairs it.
     void clrZoom();
-    /// Moves the picture back to the centre of the window.
+    /// Moves the picture to the centre of the window.
     void clrMove();
-    /// Resets the view to the rotation that the orientation in the file needs.
+    /// Resets the view matrix to the rotation that makes the picture upright.
     void Origin();
-    /// Returns the view matrix of the current picture, or the identity if there is none.
+    /// Returns the view matrix of the current picture, or the identity if there is none. The
+    /// reference is valid until the picture is removed.
     [[nodiscard]] libgr::matrix3w_t const& getMatrix() const;
 
-    /// Switches between smooth and blocky magnification and compiles the display list again.
-    /// Returns true if it is smooth now, and false if there is no current picture. Needs a current
-    /// context.
+    /// Switches the magnification of the current picture between smooth, as after `addImage`, and
+    /// blocky. Returns true if it is smooth now, and false if no picture is current. Needs a
+    /// current context.
     bool toggleSmooth();
     /// Returns the size, in pixels, of the current picture in its file, without the rotation by its
     /// orientation, or (0, 0) if there is none.
@@ -159,17 +191,19 @@ class ViewScene {
     /// Returns the number of quarter turns clockwise that bring the current picture upright, or 0
     /// if there is none.
     [[nodiscard]] unsigned long rightrotatecount() const;
-    /// Saves the contents of the window as a JPEG file. See `ViewObject::saveImage` for the buffer
-    /// that is read. On failure, returns false and sets errno, to ENODATA if there is no current
-    /// picture. Needs a current context.
+    /// Saves the contents of the window at the snapshot path of the picture `path`. Returns false
+    /// and sets errno to ENODATA if no picture is current. `ViewObject::saveImage` describes the
+    /// path, the buffer that is read and the other failures. Needs a current context.
     bool saveImage(char const* path);
 
-    /// Draws the background and the current picture. Doesn't swap the buffers. Needs a current
-    /// context.
+    /// Draws the background, the frame and the current picture. Doesn't swap the buffers. Needs a
+    /// current context.
     void Display() const;
     /// Sets the viewport and the projection for a framebuffer of `width` by `height` pixels. Each
-    /// is limited to GL_MAX_VIEWPORT_DIMS. Leaves the matrix mode at GL_PROJECTION. Needs a current
-    /// context.
+    /// is limited to GL_MAX_VIEWPORT_DIMS. The projection depends on the size of the current
+    /// picture: if only one of the two widths is odd, it is moved by half a pixel, likewise for
+    /// heights, so that the picture is sharp. Leaves the matrix mode at GL_PROJECTION. Needs a
+    /// current context.
     void Reshape(unsigned long width, unsigned long height);
 
   private:
@@ -182,7 +216,7 @@ class ViewScene {
     void turn_upright();
 
     std::list<obj_t> m_objlist;      // a list, because the nodes point to the elements
-    libgr::grContainer m_container;  // all pictures that were ever loaded; never drawn
+    libgr::grContainer m_container;  // never drawn: it also points to removed pictures
     std::list<obj_t>::iterator m_current = m_objlist.end();
 };
 
