@@ -12,25 +12,27 @@
 /// std::string const title = zanolib::make_title("a.jpg", name);  // "a.jpg - <name>"
 /// ```
 ///
-/// A message file is plain text in UTF-8, one message a line, at most 1 MiB. Lines end in LF or CR
-/// LF. The last line needs a line end, too. Everything here is for one thread.
+/// A message file is plain text in UTF-8, with one message per line and at most 1 MiB. Lines end in
+/// LF or CR LF. The last line needs a line end, too. Everything here must be called from one
+/// thread.
 namespace zanolib {
 
 /// The number of a line in the message file. The first line has the number 0.
 enum e_message_t : unsigned {};
 
-/// Loads a message file. Sets the locale from the environment.
+/// Loads a message file. Sets the locale of the process from the environment.
 ///
 /// Searches for "<prog>.<LANG>.msg", with the value of the variable LANG, and then for
 /// "<prog>.msg". Each is searched for in the working directory, in `dir` and in `site_directory`
 /// (options/option.h). `dir` ends in a slash. If it is empty, the directories of PATH are searched
-/// in its place.
+/// instead.
 ///
-/// Returns the path of the file. If there is none, prints an error line and returns "".
+/// Returns the path of the file. If there is none, prints an error line and returns "", and
+/// `getmsg` has no texts, not even of a file loaded earlier.
 std::string init_message(char const* dir, char const* prog);
 
-/// Returns a line of the loaded file without its line end, or "message not loaded." if the file has
-/// fewer lines. The text is valid until the next call of `init_message`.
+/// Returns a line of the loaded file without its line end, or "message not loaded." if there is no
+/// such line or no file. The text is valid until the next call of `init_message`.
 char const* getmsg(e_message_t id);
 
 /// Returns the title of a window: `a`, " - " and `b`.

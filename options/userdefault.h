@@ -1,22 +1,33 @@
 // SPDX-License-Identifier: MIT
-// Reads and writes the user default file, which has one option a line.
+// Reads and writes the user default file, a text file with one option per line.
 #pragma once
 
+/// Its lines have this form (see e_option_type_t in options/option.h):
+///
+///     -verbose-
+///     -winsize 800x600
+///
+/// Lines that don't start with a known option, and options without their value, are ignored. One
+/// blank or tab precedes the value; after two, the value is 0.
 namespace zanolib {
 
 /// Reads the user default file into `g_option`. The file is "$HOME/.<prog>", or "<dir>/.<prog>" if
-/// HOME isn't set. Nothing is printed if there is no file.
+/// HOME isn't set. If it can't be read, `g_option` doesn't change; see `option_load`.
 void option_load_user_default(char const* prog, char const* dir);
 
-/// Replaces the same file with the current settings. Nothing is printed on failure. A symbolic link
-/// is kept, and the file that it leads to is replaced.
+/// Writes the settings to the same file; see `option_save`.
 void option_save_user_default(char const* prog, char const* dir);
 
-/// Applies the first option of each line to `g_option`. Ignores lines without an option. Returns
-/// false only if the file has more than 1 MiB, and true if it can't be opened.
+/// Applies the options of a file to `g_option`. Call `option_init` first.
+///
+/// Returns false and prints an error line if the file has more than 1 MiB. If the file can't be
+/// read, returns true and prints nothing, because most users have no such file.
 bool option_load(char const* path);
 
-/// Writes one line for each row of the option table. Always returns true, also on failure.
+/// Writes one line for each row of the option table. Replaces an old file or, if `path` is a
+/// symbolic link, the file to which it leads.
+///
+/// Always returns true. On failure, prints nothing and leaves an old file unchanged.
 ///
 /// The four bytes of a colour are written as raw characters, which `option_load` reads as 0,0,0,0.
 /// Existing files depend on this form.

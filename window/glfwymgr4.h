@@ -19,7 +19,8 @@
 /// ```
 ///
 /// The order of calls is: glfwInit, glfwWindowHint if needed, `addWindow` for each window,
-/// `MainLoop`, glfwTerminate. All calls must come from the main thread.
+/// `MainLoop`, glfwTerminate. All calls must come from the main thread. None prints a message:
+/// GLFW reports errors to glfwSetErrorCallback.
 
 #include <map>
 
@@ -31,21 +32,24 @@ struct GLFWwindow;
 namespace wenk {
 
 /// Owns the windows and runs the event loop. The loop sleeps until an event arrives, and draws only
-/// on request. The library has one instance, from before `main` to the end of the process.
+/// on request. The library creates the only instance, which exists during all of `main`.
 class glfwyMGR4 : public singleton<glfwyMGR4> {
   public:
     /// Creates a window of 640 by 480 screen coordinates and its OpenGL context, with the current
-    /// window hints. Sends its events to `api`, makes the context current and calls `api->init()`,
-    /// in which `win` can be used.
+    /// window hints. Makes the context current, and calls `api->init()`, which may call `win`.
     ///
-    /// Returns null if `api` is null or if GLFW can't create the window. `api` isn't owned and must
-    /// stay valid until the window is destroyed.
+    /// Returns null if `api` is null or if GLFW can't create the window. `init` isn't called then,
+    /// and the current context doesn't change.
+    ///
+    /// `api` receives the events of this one window. It isn't owned and must stay valid until the
+    /// window is destroyed. It isn't notified then: set glfwSetWindowCloseCallback if you need it.
+    /// Don't set the callbacks of the events in glutyAPI and glutyAPI4.
     GLFWwindow* addWindow(glutyAPI4* api, char const* title);
 
     /// Handles events until `Exit` is called or the user has closed all windows.
     ///
-    /// A window is destroyed when the user closes it. After `Exit` the open windows aren't
-    /// destroyed; glfwTerminate destroys them.
+    /// A window is destroyed when the user closes it. After `Exit`, the other windows exist until
+    /// glfwTerminate. Without windows, and in each call after `Exit`, the function returns at once.
     void MainLoop();
 
     /// Returns the window of `api`. The window must exist.
@@ -53,15 +57,16 @@ class glfwyMGR4 : public singleton<glfwyMGR4> {
     /// Returns the application object of `window`. The window must exist.
     glutyAPI4* api(GLFWwindow* window) const;
 
-    /// Makes `MainLoop` return. It returns after the current event, or after the next one if no
-    /// event is being handled.
+    /// Makes this and each further call of `MainLoop` return after the current events. From `idle`
+    /// or `display`, call `PostRedisplay`, too: otherwise the loop waits for another event.
     void Exit() { exit_requested = true; }
 
     /// Requests that the loop draws all windows after the current events. Several requests result
-    /// in one drawing. The loop forgets all requests after it has drawn, also one from `display`.
+    /// in one drawing. To draw continuously, call it in `idle`: the loop clears a request from
+    /// `display` after it has drawn.
     void PostRedisplay();
 
-    /// Swaps the buffers of the window of `api`. Only code that calls `display` itself needs it.
+    /// Swaps the buffers of the window of `api`. Call it only after your own call of `display`.
     void SwapBuffers(glutyAPI4* api) const;
 
     /// Enables or disables key repeat: repeated calls of `keyboard` or `specialkey` for a key that
@@ -69,8 +74,8 @@ class glfwyMGR4 : public singleton<glfwyMGR4> {
     void KeyRepeat(bool on) { key_repeat = on; }
     bool isKeyRepeat() const { return key_repeat; }
 
-    /// Enable and disable the call of `idle` of each window after each wake-up of the loop.
-    /// Initially enabled.
+    /// Enable and disable the calls of `idle`. The loop calls it once for each window before it
+    /// draws and sleeps. Initially enabled.
     void IdleOn() { idle_enabled = true; }
     void IdleOff() { idle_enabled = false; }
 

@@ -4,7 +4,8 @@
 
 namespace wenk {
 
-/// The base of a class `T` with one instance. If a second one is created, it replaces the first.
+/// The base of a class `T` with one instance. Don't create a second one: it replaces the first in
+/// `getSingleton`.
 template <typename T>
 class singleton {
   public:
