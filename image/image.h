@@ -27,20 +27,46 @@
 ///
 /// Copying a record never copies pixels: the copy shares them, and a change through one record is
 /// visible through the other. `copy` in image/pixelconvert.h copies the pixels. The bytes are freed
-/// with the last record that shares them. The reference counts are not atomic: use the records that
-/// share bytes from one thread only. No function of this library needs an OpenGL context. The
-/// functions print nothing unless their comments say so. Error lines go to std::cerr.
+/// with the last record that shares them.
+///
+/// Use all images and palettes of a program from one thread, also those that share nothing: the
+/// reference counts are not atomic, and the allocator has static data (utils/ofsvector.h). Other
+/// threads may only access pixels by their addresses. No function of this library needs an OpenGL
+/// context. The error lines that the comments mention go to std::cerr.
 ///
 /// image/pixelconvert.h converts, rotates and windows pictures, image/scaledown.h halves them,
 /// image/samples.h widens samples, image/repeatedges.h enlarges pictures by repeating their edges,
 /// and image/normalmap.h computes normal maps.
 ///
-/// To convert the picture of a decoder to RGBA with 8-bit components, call `widen_samples`,
-/// `index2rgb`, `bgr2rgb` and `rgb2rgba` in this order, each with a new destination. Ignore the
-/// result of `bgr2rgb`: `rgb2rgba` returns false if its source isn't RGB or RGBA with 8-bit
-/// components. No function converts GRAYSCALE, GRAYSCALE_ALPHA, components of 16 bits or packed
-/// pixels to RGBA. An 8-bit GRAYSCALE picture can be converted as an INDEX picture: before
-/// `index2rgb`, set its format to IMAGE_FORMAT_INDEX and fill its palette with 256 grays.
+/// Converts the picture of a decoder to RGBA with 8-bit components:
+///
+/// ```cpp
+/// #include "image/pixelconvert.h"
+/// #include "image/samples.h"
+///
+/// bool to_rgba8(libgr::image2d_t& rgba, libgr::image2d_t const& picture) {
+///     libgr::image2d_t wide, rgb, ordered;
+///     if (!libgr::widen_samples(wide, picture)) {  // 1, 2 and 4 bits to 8
+///         return false;
+///     }
+///     if (wide.desc.format == libgr::IMAGE_FORMAT_GRAYSCALE) {  // as indices into 256 grays
+///         wide.desc.format = libgr::IMAGE_FORMAT_INDEX;
+///         wide.palette.resize(256);
+///         for (unsigned long i = 0; i < wide.palette.blue.count(); ++i) {
+///             wide.palette.blue[i] = static_cast<unsigned short>(i * 257);
+///         }
+///         wide.palette.red = wide.palette.green = wide.palette.blue;
+///     }
+///     if (!libgr::index2rgb(rgb, wide)) {
+///         return false;
+///     }
+///     libgr::bgr2rgb(ordered, rgb);  // false for pictures that rgb2rgba rejects, too
+///     return libgr::rgb2rgba(rgba, ordered);
+/// }
+/// ```
+///
+/// The result is false for GRAYSCALE_ALPHA, components of 16 bits and packed pixels: no function
+/// converts them to RGBA.
 
 #include <iosfwd>
 
@@ -50,8 +76,8 @@
 
 namespace libgr {
 
-/// The components of a pixel, in their order in memory. `s_image_format_components_list` has their
-/// number.
+/// The components of a pixel, in their order in memory. See `s_image_format_components_list` for
+/// the number of components.
 enum e_image_format_t : unsigned int {
     IMAGE_FORMAT_GRAYSCALE,
     IMAGE_FORMAT_GRAYSCALE_ALPHA,
@@ -82,7 +108,8 @@ enum e_image_type_t : unsigned int {
     IMAGE_TYPE_MAX,  ///< the number of types
 };
 
-/// The number of bits of each component. Components of 12 bits are counted without padding.
+/// The size, in bits, of each component. There are no unused bits between components: a pixel of
+/// three times 12 bits has 36 bits.
 ///
 /// Values from IMAGE_BITS_R3G3B2 on are packed pixels; the name lists the bits of each component.
 /// From IMAGE_BITS_R3G3B2 to IMAGE_BITS_R10G10B10A2, the first component of the format has the
@@ -113,11 +140,11 @@ struct image_format_components_t {
     unsigned int components;
 };
 
-/// The size, in bits, of a component or of a packed pixel. The other of the two is 0.
+/// The size, in bits, that belongs to a value of e_image_bits_t. D24S8 has only zeros here.
 struct image_bits_t {
-    unsigned long long value;  ///< an e_image_bits_t
-    unsigned long long component;
-    unsigned long long packed;
+    unsigned long long value;      ///< an e_image_bits_t
+    unsigned long long component;  ///< of one component, or 0 for packed pixels
+    unsigned long long packed;     ///< of one pixel, or 0 if the pixels aren't packed
 };
 
 struct image_format_string_t {
@@ -133,15 +160,16 @@ struct image_bits_string_t {
     char const* name;
 };
 
-/// The rows are in the order of the values. The tables of names have a row for the last enumerator,
-/// for example IMAGE_FORMAT_MAX, too.
+/// The index of a row is the value of its enumerator. Only the tables of names have a row for the
+/// last enumerator, for example IMAGE_FORMAT_MAX.
 extern image_format_components_t const s_image_format_components_list[IMAGE_FORMAT_MAX];
 extern image_bits_t const s_image_bits_list[IMAGE_BITS_MAX];
 extern image_format_string_t const image_format_string[IMAGE_FORMAT_MAX + 1];
 extern image_type_string_t const image_type_string[IMAGE_TYPE_MAX + 1];
 extern image_bits_string_t const image_bits_string[IMAGE_BITS_MAX + 1];
 
-/// Print the name of the enumerator, or "unknown: " if the value has none.
+/// Print the name of the enumerator, for example IMAGE_FORMAT_RGB. For another value, print only
+/// the text "unknown: ", without the number.
 std::ostream& operator<<(std::ostream& out, e_image_format_t value);
 std::ostream& operator<<(std::ostream& out, e_image_type_t value);
 std::ostream& operator<<(std::ostream& out, e_image_bits_t value);
@@ -153,8 +181,11 @@ struct image_desc_t {
     e_image_bits_t bits;
 
     /// Returns the size, in bits, of one pixel. For packed pixels the format doesn't matter.
-    /// Returns 0 for values outside the tables and for IMAGE_BITS_D24S8. The size of D24S8 in
-    /// `s_image_bits_list` is 0; callers rely on this.
+    /// Returns 0 for values outside the tables.
+    ///
+    /// Returns 0 for IMAGE_BITS_D24S8 too, although OpenGL reads 32 bits: the table has never had
+    /// its size, and callers rely on 0. So `allocate` makes no bytes for D24S8. Allocate them with
+    /// `resize(bytes, 0)`, and pass 32 to `row_stride` and `pixels_within`.
     unsigned long long getPixelBits() const;
 };
 
@@ -162,14 +193,17 @@ bool operator==(image_desc_t const& a, image_desc_t const& b);
 
 /// The byte order and row alignment of an image, as in glPixelStore. Images point to a store and
 /// don't own it, so a store must outlive the images that use it. Most stores are static.
+///
+/// Only transfers to and from OpenGL use `swapbytes`. The functions of this library ignore it.
 struct image_store_t {
     bool swapbytes;  ///< true if components of several bytes are not in the order of the machine
     unsigned int alignment;  ///< rows begin at multiples of this many bytes; 0 means 4
 };
 
-/// The position of a record in a larger picture whose bytes it shares, as in glPixelStore. Lengths
-/// and skips are in pixels, heights in rows, and `skipimages` in pictures. A length or height of 0
-/// means the size of the record.
+/// The position of a record in a larger picture whose bytes it shares, as in glPixelStore.
+/// `rowlength` and `skippixels` are in pixels, `imageheight` and `skiprows` in rows, and
+/// `skipimages` in pictures. `rowlength` 0 means the width of the record, and `imageheight` 0 its
+/// height.
 struct image_window1d_t {
     unsigned int skippixels = 0;
 };
@@ -187,7 +221,8 @@ struct image_window3d_t {
 };
 
 /// A colour table. The values are from 0 to 65535, in one array for each component, as
-/// glPixelMapusv takes them. A copy shares the arrays.
+/// glPixelMapusv takes them. A copy shares the arrays, until one of the two is resized. For an
+/// example see the start of this file.
 struct palette_t {
     using plane_t = libutils::refvector<unsigned short, libutils::alloc_new>;
 
@@ -203,18 +238,20 @@ struct palette_t {
 
     /// Sets the number of entries. The old entries are kept as far as they fit, and new ones are 0.
     ///
-    /// Returns false only if `n` is 0. The result doesn't report a lack of memory. If an array
-    /// can't be resized, it keeps its old entries. Before you read an entry, compare its index with
-    /// the `count()` of that array, not with `size`.
+    /// Returns false only if `n` is 0. If there is no memory for an array, the result is true and
+    /// the array keeps its old entries. So before you access an entry, compare its index with
+    /// `count()` of the array, for example `red.count()`, not with `size`.
     bool resize(unsigned long n);
     /// Releases all entries.
     void clear();
 };
 
-/// The bytes of an image. Large blocks are mapped pages and not part of the heap.
+/// The bytes of an image. They are mapped pages, not a part of the heap.
 using image_bytes_t = libutils::ofsvector<unsigned char, libutils::alloc_mmap_unix>;
 
-/// One row of pixels.
+/// One row of pixels. It has no `allocate`: call `resize(bytes, 0)` with the number of bytes for
+/// `window.skippixels + m_width` pixels. The bytes of an empty record become 0. `clear` only
+/// releases the bytes. To clear all fields, assign `image1d_t{}`.
 struct image1d_t : image_bytes_t {
     image_desc_t desc{};
     image_store_t const* store = nullptr;  ///< not owned; null means native byte order
@@ -240,8 +277,11 @@ struct image1d_t : image_bytes_t {
 ///
 ///   rowsize() * (window.skiprows + y) + getPixelBits() * (window.skippixels + x) / 8
 ///
-/// from `begin()`. The compressed data of a texture has no rows and no pixels: only the texture
-/// classes accept it, and all pixel operations fail.
+/// from `begin()`.
+///
+/// The compressed data of a texture has no rows and no pixels. Only the texture classes read it.
+/// The functions of this library fail if they need its pixels, and succeed if they only share the
+/// bytes or have nothing to change: `rotate` with 0, for example.
 struct image2d_t : image_bytes_t {
     image_desc_t desc{};
     image_store_t const* store = nullptr;  ///< not owned; null means native order, alignment 4
@@ -254,25 +294,23 @@ struct image2d_t : image_bytes_t {
     /// Returns the size, in bits, of one pixel.
     unsigned long long getPixelBits() const { return desc.getPixelBits(); }
 
-    /// Returns the width, in pixels, of the larger picture, or of this one without a window.
+    /// Returns `window.rowlength`, or `m_width` if that is 0.
     unsigned long long rowlength() const {
         return window.rowlength != 0 ? window.rowlength : m_width;
     }
 
-    /// Returns the distance, in bytes, from one row to the next, padding included.
+    /// Returns the distance, in bytes, from one row to the next, with the padding.
     unsigned long long rowsize() const;
 
-    /// Returns the size, in bytes, of one row of this record without padding. If the last byte is
-    /// only partly used, it isn't counted.
+    /// Returns the size, in bytes, of `m_width` pixels, rounded down: 1 for 10 pixels of 1 bit.
     unsigned long long rowbyte() const { return getPixelBits() * m_width / 8; }
 
     /// Allocates `window.skiprows + m_height` rows of `rowsize()` bytes. Set the description,
     /// sizes, store and window before. The pixels are undefined afterwards. Records that shared the
     /// old bytes keep them.
     ///
-    /// The size isn't limited. Returns false, without a change, if it overflows or if there is no
-    /// memory. If it is 0, because a size or `getPixelBits()` is 0, returns true and the record has
-    /// no bytes.
+    /// Returns false, without a change, if the number of bytes overflows or there is no memory. If
+    /// it is 0, because a size or `getPixelBits()` is 0, returns true and the record has no bytes.
     bool allocate();
 
     /// Releases the bytes and the palette and sets the sizes to 0. The description, store, window
@@ -280,7 +318,18 @@ struct image2d_t : image_bytes_t {
     void clear() override;
 };
 
-/// A volume: pictures of the same size, one after the other.
+/// A volume: pictures of the same size, one after the other. With
+///
+///   stride = row_stride(rowlength, desc.getPixelBits(), store)
+///
+/// and the sizes `rowlength` and `imageheight` of the window, or those of the record if they are 0,
+/// pixel (x, y, z) begins at byte
+///
+///   stride * (imageheight * (window.skipimages + z) + window.skiprows + y)
+///       + desc.getPixelBits() * (window.skippixels + x) / 8
+///
+/// from `begin()`. It has no `allocate`: without a window, call
+/// `resize(stride * m_height * m_depth, 0)`. The rest is as for image1d_t.
 struct image3d_t : image_bytes_t {
     image_desc_t desc{};
     image_store_t const* store = nullptr;  ///< not owned; null means native order, alignment 4
@@ -292,8 +341,8 @@ struct image3d_t : image_bytes_t {
     palette_t palette;
 };
 
-/// Returns the distance, in bytes, from one row of `pixels` pixels to the next. `store` may be
-/// null.
+/// Returns the distance, in bytes, from one row of `pixels` pixels to the next. If `store` is null,
+/// the alignment is 4.
 unsigned long long row_stride(unsigned long long pixels, unsigned long long pixelbits,
                               image_store_t const* store);
 
@@ -301,7 +350,7 @@ unsigned long long row_stride(unsigned long long pixels, unsigned long long pixe
 /// the positions given by its store and window. `pixelbits` is a parameter because OpenGL uses the
 /// size of its own pixel type, whatever the description says. A record without pixels is accepted,
 /// and a compressed one is rejected. A row may extend beyond the row length of its window if the
-/// bytes suffice. The arithmetic doesn't overflow.
+/// bytes suffice.
 bool pixels_within(image1d_t const& image, unsigned long long pixelbits);
 bool pixels_within(image2d_t const& image, unsigned long long pixelbits);
 bool pixels_within(image3d_t const& image, unsigned long long pixelbits);
@@ -314,15 +363,16 @@ bool pixels_within(image2d_t const& image);
 bool rows_fit(unsigned long long stride, unsigned long long rows, unsigned long long rowbytes,
               unsigned long long room);
 
-/// Returns the address of the first pixel of row `y` of the record, or null if it has no bytes. If
-/// a pixel is smaller than a byte, the pixel may begin within that byte. Call `pixels_within`
-/// before: the bounds are not checked.
+/// Returns the address of the leftmost pixel of row `y` of the record, or null if the record has no
+/// bytes. A pixel smaller than a byte may begin within the byte at that address. Call
+/// `pixels_within` before: the bounds are not checked.
 unsigned char* pixel_row(image2d_t& image, unsigned int y);
 unsigned char const* pixel_row(image2d_t const& image, unsigned int y);
 
 /// Returns the address of the row of the larger picture that contains row `y` of the record, or
-/// null if it has no bytes. The first pixel of the record is pixel `window.skippixels` of that row.
-/// Use this function if pixels may be smaller than a byte.
+/// null if the record has no bytes. Pixel x of the record is pixel `window.skippixels + x` of that
+/// row. Use it for pixels smaller than a byte, with `packed_sample` in image/samples.h. The bounds
+/// are not checked.
 unsigned char* whole_row(image2d_t& image, unsigned int y);
 unsigned char const* whole_row(image2d_t const& image, unsigned int y);
 

@@ -22,55 +22,68 @@ namespace libgr {
 
 // The rules for all functions, unless stated otherwise:
 //
-//   - `dst` must not be `src`. Its bytes are newly allocated, unless the function says that it
-//     shares those of `src`. With shared bytes, `dst` gets all fields of `src`, including the
-//     window, store and palette.
-//   - With new bytes, `dst` gets the new description and sizes. Its window and store are kept and
-//     used, but `rgb2rgba`, `rgba2rgb` and, for three components, `rgb2bgr` set the store to native
-//     byte order and alignment 4. Its palette is kept, but `index2rgb` and `rotate` clear it.
+//   - `dst` must not be `src`. Pass a new record, because fields of an old one may be kept.
 //   - `src` is read through its window and store, which are described in image/image.h.
-//   - If pixels must be converted and `src` is compressed or incomplete (it has bytes for only some
-//     of its pixels), the result is the same as for an unsupported description.
-//   - If there is no memory, or if the pixels don't fit into the window of `dst`, the function
-//     returns false. `dst` then has the new description and sizes, and undefined bytes, which may
-//     be too few for its pixels.
+//   - A `dst` with shared bytes gets all fields of `src`, with the window, store and palette.
+//   - A `dst` with new bytes gets the new description and sizes. Its window, store and palette are
+//     kept. The pixels are written through its window and store.
+//
+// The results:
+//
+//   true, converted     `dst` has new bytes.
+//   true, shared        `src` has the wanted format already, and `dst` shares its bytes.
+//   false, rejected     The description of `src` isn't supported, or pixels must be converted and
+//                       `src` is compressed or incomplete: it has bytes for only some of its
+//                       pixels. The state of `dst` is described with each function.
+//   false, no memory    Or the pixels don't fit into the window of `dst`. `dst` has the new
+//                       description and sizes, and undefined bytes, maybe too few. Only assign to
+//                       it or call `clear`.
+//
+// image/image.h shows the conversion of a decoder's picture to RGBA.
+
+// The four conversions of channels share the bytes of a rejected source. So after false, `dst` is
+// the same picture as `src` if `dst.desc == src.desc`; otherwise there was no memory.
 
 /// Converts BGR to RGB, and BGRA to RGBA, with 8-bit integer components. A source that is RGB or
-/// RGBA already is shared, whatever its components. With any other source, `dst` shares the bytes
-/// of `src` and this function returns false.
+/// RGBA already is shared, whatever its components, even if it is compressed. Others are rejected.
 ///
-/// Rows of `dst` are always written with 4-byte alignment; its window and store are ignored.
-/// Returns false if the bytes allocated for `dst` are too few for this.
+/// Rows of `dst` are always written from the start of its bytes and padded to 4 bytes. But its
+/// window and store are kept and used to allocate, so with a window or another alignment, `dst`
+/// doesn't describe its pixels, or there are too few bytes and the result is false.
 bool bgr2rgb(image2d_t& dst, image2d_t const& src);
 
-/// Converts RGB to BGR, and RGBA to BGRA. The rules of `bgr2rgb` apply.
+/// Converts RGB to BGR, and RGBA to BGRA. The rules of `bgr2rgb` apply, but for RGB the store of
+/// `dst` is set to native byte order and alignment 4.
 bool rgb2bgr(image2d_t& dst, image2d_t const& src);
 
 /// Converts RGB with 8-bit integer components to RGBA with alpha 255. RGBA with 8-bit integer
-/// components is shared. With any other source (GRAYSCALE, for example), `dst` shares the bytes of
-/// `src` and this function returns false.
+/// components is shared. Others are rejected, for example GRAYSCALE. The store of a converted `dst`
+/// is set to native byte order and alignment 4.
 bool rgb2rgba(image2d_t& dst, image2d_t const& src);
 
-/// Converts RGBA with 8-bit integer components to RGB and drops alpha. RGB with 8-bit integer
-/// components is shared. With any other source, `dst` shares the bytes of `src` and this function
-/// returns false.
+/// Converts RGBA with 8-bit integer components to RGB without alpha. RGB with 8-bit integer
+/// components is shared. Others are rejected. The store is set as by `rgb2rgba`.
 bool rgba2rgb(image2d_t& dst, image2d_t const& src);
 
 /// Converts INDEX of 1, 4 or 8 bits to RGB with 8-bit components. The colours are the upper bytes
 /// of the palette entries, and black for indices without an entry. The leftmost pixel of a byte is
-/// in its highest bits. A source of another format is shared.
+/// in its highest bits. The palette of `dst` is cleared. A source of another format is shared.
 ///
-/// For INDEX of other sizes, returns false, and `dst` is an RGB picture with undefined pixels.
-/// `widen_samples` in image/samples.h converts 2 bits to 8.
+/// INDEX of other sizes is rejected: `dst` is an RGB picture with undefined pixels. For 2 bits,
+/// call `widen_samples` in image/samples.h first.
 bool index2rgb(image2d_t& dst, image2d_t const& src);
 
-/// Copies the description, store and pixels of `src`, but not its palette. `dst` gets no window:
-/// its bytes contain only the pixels of the window of `src`. The padding of the rows becomes 0.
+/// Copies the description, store and pixels of `src`, but not its palette: for INDEX, assign
+/// `dst.palette` too. `dst` gets no window: its bytes contain only the pixels of the window of
+/// `src`. The padding of the rows becomes 0.
 ///
-/// If pixels are smaller than a byte, each row is copied from the byte that contains its first
-/// pixel, and `rowbyte()` bytes long. The other bytes of the row become 0.
+/// Rows are copied in whole bytes: `rowbyte()` bytes from the byte that contains the first pixel.
+/// So pixels smaller than a byte may be lost or moved. With 1-bit pixels, for example,
+///   - of a width of 10, 8 pixels are copied, and the last 2 become 0;
+///   - of a window at x = 3 of width 16, pixel 0 becomes pixel 3 of `dst`, and the last 3 are lost.
+/// `widen_samples` and `index2rgb` convert small pixels correctly.
 ///
-/// Returns false, with `dst` unchanged, for a compressed or incomplete source.
+/// Leaves `dst` unchanged if `src` is rejected.
 bool copy(image2d_t& dst, image2d_t const& src);
 
 /// Converts a component from 0 to 1 to a byte from 0 to 255, rounded. Values outside the range are
@@ -84,48 +97,60 @@ unsigned char channel_byte(float value);
 /// a writable image.
 bool fillcolor(image2d_t& img, color3a_t const& color);
 
-/// Adds red, green and blue of a colour to all pixels. Components range from 0 to 1, and the sums
-/// are clamped. Alpha is unchanged. The images and errors are those of `fillcolor`.
+/// Adds red, green and blue of a colour to all pixels: 1 adds 255, and the sums are clamped. Alpha
+/// is unchanged. Accepts the same images as `fillcolor` and fails in the same cases.
 bool addcolor(image2d_t& img, color3a_t const& color);
 
 /// Converts RGB with unsigned 8-bit components to GRAYSCALE: 0.299 R + 0.587 G + 0.114 B, rounded
 /// down. The window and store of the source are ignored, and its rows are expected to be padded to
-/// 4 bytes.
+/// 4 bytes: pass the result of `copy` for a window.
 ///
-/// Returns false, with `dst` unchanged, for an image of another description, and for a compressed
-/// or incomplete source. Prints an error line only for another description.
+/// Leaves `dst` unchanged if `src` is rejected, and prints an error line if the reason is the
+/// description.
 bool monochrome(image2d_t& dst, image2d_t const& src);
 
 /// Rotates the pixels clockwise by `count` quarter turns, 0 to 3. With 0, `dst` shares the bytes of
-/// any `src` and this function returns true. Otherwise the palette and store aren't copied, and if
-/// pixels are smaller than a byte, all pixels of `dst` are 0.
+/// any `src` and this function returns true. With 1 to 3, `dst` gets
+///   - new bytes, and the description of `src`;
+///   - the sizes of `src`, exchanged for 1 and 3;
+///   - no palette: for INDEX, assign it afterwards;
+///   - no store of `src`: the window and store of `dst` are kept. The bytes of a component keep
+///     their order, so if `swapbytes` is true in `src.store`, set `dst.store` to it before.
 ///
-/// Returns false, with `dst` unchanged, for another `count`, and for a compressed or incomplete
-/// source with a `count` from 1 to 3.
+/// The size of a pixel must be a multiple of 8 bits. If it is smaller than a byte, all pixels of
+/// `dst` are 0. With other sizes, for example 12 bits, the pixels are undefined. Both return true.
+///
+/// Leaves `dst` unchanged for another `count`, with the result false, and if `src` is rejected.
 bool rotate(unsigned long count, image2d_t& dst, image2d_t const& src);
 
 /// Makes `dst` a window into `src` that shares its bytes: writing to the pixels of `dst` changes
-/// those of `src`. The record `src` isn't changed. `dst` gets all fields of `src` except the sizes
-/// and the window, whose row length is `src.rowlength()`. `x` and `y` are relative to the window of
-/// `src`, from the lower left corner. A negative value is valid only if the window of `src` skips
-/// at least as many pixels or rows.
+/// those of `src`. `dst` gets all fields of `src` except the sizes and the window, whose row length
+/// is `src.rowlength()`. (`x`, `y`) is the lower left corner, relative to the window of `src`.
 ///
-/// The size is limited to the width and height of `src` minus the new `skippixels` and `skiprows`;
-/// `m_width` and `m_height` of `dst` are the result. The new skips include those of `src`, so a
-/// window made from a window may be smaller than requested even if the pixels exist.
+/// Returns false, with `dst` unchanged, only for a compressed source. Otherwise `m_width` and
+/// `m_height` of `dst` may be smaller than requested. Examples for 640 by 480 pixels:
 ///
-/// Returns false, with `dst` unchanged, only for a compressed source. If the new `skippixels` is
-/// larger than the width of `src`, the width isn't limited and this function returns true. The same
-/// is true for `skiprows` and the height. `pixels_within` rejects this window only if it exceeds
-/// the bytes, not if its rows extend into the next rows.
+///   x, y, width, height   m_width, m_height
+///   10, 20, 100, 50       100, 50
+///   600, 470, 100, 50     40, 10
+///   700, 0, 100, 50       100, 50: not limited; each row is a part of the next one
+///   -5, 600, 100, 50      100, 50: not limited; outside the bytes
+///
+/// Check before the call that (`x`, `y`) is a pixel of `src`. `pixels_within` rejects the last of
+/// these windows, but not the one before.
+///
+/// The width is limited to `src.m_width - dst.window.skippixels`, in unsigned arithmetic, and the
+/// height likewise. The new skips include those of `src`, so a window of a window may be too small:
+/// in the window of the first example, (0, 0, 100, 50) has 90 by 30 pixels. Callers depend on this.
+/// To avoid it, make all windows from the whole picture.
 bool makewindow(image2d_t& dst, image2d_t& src, int x, int y, unsigned int width,
                 unsigned int height);
 
 template <typename T>
 class image2d_reader_t;
 
-/// A read-only view of the rows of a picture that ignores its window and store: rows are expected
-/// to be padded to 4 bytes.
+/// A read-only view of the rows of a picture. It ignores the window and store of the picture, and
+/// expects rows that are padded to 4 bytes.
 template <>
 class image2d_reader_t<unsigned char> {
   public:

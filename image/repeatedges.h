@@ -6,12 +6,14 @@
 
 namespace libgr {
 
-/// Copies `src` into the lower left corner of a picture of `width` by `height` pixels and repeats
-/// its last column and its top row in the rest. `dst`, which must not be `src`, gets newly
-/// allocated bytes, the description, store and palette of `src`, and no window.
+/// Makes a picture of `width` by `height` pixels with `src` in its lower left corner. The last
+/// column of `src` is repeated to the right, and then the top row upward.
+///
+/// `src` is read through its window and store. `dst`, which must not be `src`, gets newly allocated
+/// bytes, the description, store and palette of `src`, and no window.
 ///
 /// Returns false, with `dst` unchanged, if
-///   - `width` or `height` is smaller than that of `src`,
+///   - `width` or `height` is smaller than in `src`,
 ///   - `src` is compressed, has no pixels, or has bytes for only some of its pixels,
 ///   - the size of a pixel is not a multiple of 8 bits,
 ///   - there is no memory.

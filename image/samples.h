@@ -8,12 +8,12 @@
 
 namespace libgr {
 
-/// Converts samples of 16 bits, and packed pixels of 16 bits, from the byte order of a file to the
-/// machine's order. Images with other component sizes are unchanged, as are all images if `order`
-/// is the order of the machine.
+/// Converts components of 16 bits, and packed pixels of 16 bits, from the byte order of a file to
+/// the machine's order. Other images are unchanged, and so are all images if `order` is the order
+/// of the machine: the result is true, even if they are compressed.
 ///
 /// The bytes are swapped in place, so records that share them change, too. They must be writable.
-/// `swapbytes` of the store is ignored and not changed. A second call swaps the bytes back.
+/// Only the pixels of the window are swapped. `swapbytes` of the store is ignored and not changed.
 ///
 /// Use this instead of GL_UNPACK_SWAP_BYTES: with that, GLU generates mipmaps with the wrong byte
 /// order.
@@ -30,15 +30,19 @@ inline unsigned int packed_sample(unsigned char const* row, unsigned long long b
     return (row[position / 8] >> (8 - bits - position % 8)) & ((1U << bits) - 1U);
 }
 
-/// Converts 1, 2 and 4-bit unsigned grayscale to 8 bits and scales the range: 0 stays black and the
-/// highest value becomes white. Converts 2-bit indices to 8-bit indices; the palette is shared. An
-/// image of any other description is shared.
+/// Converts samples to 8 bits:
+///
+///   Source                                  Result
+///   unsigned GRAYSCALE of 1, 2 or 4 bits    scaled: 0 becomes 0, the highest value 255
+///   unsigned INDEX of 2 bits                the same indices; the palette is shared
+///   any other, also INDEX of 1 or 4 bits    `dst` shares the bytes of `src`
 ///
 /// `src`, which must not be `dst`, is read through its window and store. The window and store of
-/// `dst` are kept and used. Returns false if pixels must be converted and `src` is compressed or
-/// has bytes for only some of its pixels, if there is no memory, or if the pixels don't fit into
-/// the window of `dst`. `dst` then has the new description and sizes, and no bytes or undefined
-/// pixels.
+/// a converted `dst` are kept and used.
+///
+/// Returns false if pixels must be converted and `src` is compressed or has bytes for only some of
+/// its pixels, if there is no memory, or if the pixels don't fit into the window of `dst`. `dst`
+/// then has the new description and sizes, and no bytes or undefined pixels.
 bool widen_samples(image2d_t& dst, image2d_t const& src);
 
 }  // namespace libgr

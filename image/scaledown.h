@@ -6,31 +6,46 @@
 
 namespace libgr {
 
-// All of these functions:
+// The rules for all functions:
 //
-//   - set `dst`, which must not be `src`, to half the width and height of `src`, rounded down, with
-//     the description of `src`. The last column of an odd width and the top row of an odd height
-//     are ignored. The store and window of `dst` are kept and used. Its palette is cleared.
-//   - treat each component as one byte and ignore the type and bits of `src`; other components than
-//     8-bit integers give meaningless pixels. Means are rounded down.
-//   - return false and print an error line if the format isn't supported or there is no memory.
-//     They return false without a line if `src` is compressed, has bytes for only some of its
-//     pixels, or has pixels of fewer bits than its format needs with 8-bit components. `dst` is
-//     unchanged if `src` is compressed. In the other cases it has the new description and sizes,
-//     and either no bytes or undefined pixels.
+//   - `dst`, which must not be `src`, gets the description of `src` and half its width and height,
+//     rounded down. The last column of an odd width and the top row of an odd height are ignored.
+//     From a width or height of 1, `dst` gets no pixels, and the result is true.
+//   - `src` is read, and `dst` is written, through its window and store. The window and store of
+//     `dst` are kept, and its palette is cleared.
+//   - Components must be 8-bit integers. The type and bits are not checked: larger components are
+//     read as if each were one byte and give meaningless pixels. Means are rounded down.
 //
-// Two rules differ from a plain mean of 2 by 2 pixels. Callers depend on both:
+// The result is false in these cases:
 //
-//   - With four components, the second pixel of a pair is read 3 bytes after the first, not 4.
+//   Cause                                         Error line
+//   the format isn't supported, or no memory      yes
+//   `src` is compressed                           no: `dst` is unchanged
+//   `src` has bytes for only some of its pixels   no
+//   a pixel has fewer bits than 8-bit components  no
+//   the pixels don't fit the window of `dst`      no
+//
+// Unless `src` is compressed, `dst` then has the new description and sizes, and either no bytes or
+// undefined pixels.
+//
+// Two rules differ from a plain mean of 2 by 2 pixels. They are kept because callers depend on the
+// bytes:
+//
+//   - In RGBA and BGRA, too, the second pixel of a pair is read 3 bytes after the first, as in RGB.
+//     So different components are mixed: the red of the result contains the alpha of the source.
 //   - In a grayscale picture, result column x is the mean of source columns x and x + 1, not 2x and
 //     2x + 1. The result shows only the left half of the source.
+//
+// For a plain mean, convert to RGB first: `rgba2rgb` drops alpha, and image/image.h shows how 8-bit
+// gray becomes RGB.
 
 /// Computes the mean of each 2 by 2 pixels, component by component. The supported formats are
 /// GRAYSCALE, RGB, BGR, RGBA and BGRA.
 bool scaledown(image2d_t& dst, image2d_t const& src);
 
 /// Makes one pixel from each 2 by 2 cell of a Bayer mosaic. The letters of the names are the
-/// colours of the cell: the two of its lower row, then the two of its upper row.
+/// colours of the cell: the two of its lower row, then the two of its upper row. If the pattern of
+/// a sensor is listed from the top and the height is even, exchange the rows: GRBG becomes BGGR.
 ///
 /// The supported formats are RGB and RGBA, with each sensor sample stored in the component of its
 /// own colour, and GRAYSCALE, which is reduced as by `scaledown`. The green of the result is the
