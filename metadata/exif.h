@@ -2,8 +2,7 @@
 // The parser for the Exif block in the APP1 segment of a JPEG file.
 #pragma once
 
-/// This example reads the orientation of a JPEG file. The class in codecs/jpeginfo.h finds the
-/// segment:
+/// Reads the orientation of a JPEG file:
 ///
 /// ```cpp
 /// #include "codecs/jpeginfo.h"
@@ -19,16 +18,35 @@
 /// unsigned int const orientation = app1.parse() && !values.empty() ? values[0] : 1;
 /// ```
 ///
-/// `get_marker` returns the first APP1 segment. If the segment isn't Exif (it may be XMP), or if
-/// `parse` finds damage, `parse` returns false. The orientation is then 1, as in the viewer.
+/// `get_marker` (codecs/jpeginfo.h) returns the first APP1 segment, which may also be XMP. The
+/// orientation is 1 for an upright picture, 3, 6 or 8 for a rotated one (codecs/orientation.h), and
+/// 2, 4, 5 or 7 for a mirrored one. Treat other values, and a failed `parse`, as 1.
 ///
-/// The orientation is 1 for an upright picture, 3, 6 or 8 for a rotated one (codecs/orientation.h),
-/// and 2, 4, 5 or 7 for a mirrored one. Check the range: damaged files have other values.
+/// The order of calls is `set_app1_buffer`, `parse`, and `clear` before the next photograph.
+/// Without `clear`, a tag that the next photograph doesn't have keeps the old value, for example
+/// the old orientation, and an old offset can make `parse` fail. For a TIFF block without "Exif"
+/// before it, use a `tiff_header_t`: `set_tiff_buffer`, `parse`, `clear`.
 ///
-/// The order of calls is `set_app1_buffer`, `parse`, and `clear` before the next payload. `parse`
-/// reads the tags that have members in metadata/exiftype.h, and the makers' notes in this table.
-/// It ignores other notes. The first row that matches is used. Make is compared without regard to
-/// case.
+/// `parse` reads these parts in this order, and returns false at the first error. A missing IFD or
+/// note isn't an error. Existing files depend on these rules.
+///
+///   Part          Errors
+///   payload       it doesn't begin with "Exif" and a NUL (prints nothing)
+///   TIFF header   less than 8 bytes, neither "II" nor "MM", or no number 42
+///   0th IFD       the first 8 bytes of an entry aren't inside the block; a value of more than
+///                 4 bytes begins after the block (if it only ends there, it is skipped or cut)
+///   Exif IFD      the IFD, the 2 bytes after it, or a value isn't completely inside the block
+///   GPS IFD       it is larger than the block (its offset isn't checked)
+///   maker's note  the IFD isn't inside the note; a value isn't inside the base in the next table
+///                 (OLYMPUS: the value is skipped)
+///   1st IFD       none, because it describes only the thumbnail
+///
+/// An entry with a TIFF type above 13 is skipped in the 0th IFD. It ends the Exif IFD, the 1st IFD
+/// and the OM Equipment IFD without an error. In other makers' IFDs, it is an error.
+///
+/// `parse` stores the tags that have members in metadata/exiftype.h. It reads the makers' notes in
+/// this table and ignores other notes. The first row that matches is used. The case of Make is
+/// ignored. Notes that begin with "OLYMPUS", a NUL and "II" have no IFD at byte 8 and are errors.
 ///
 ///   Make begins with      Note begins with  IFD at byte  Function            Base of offsets
 ///   OLYMPUS               OLYMP             8            parse_olympus_ifd   TIFF block
@@ -48,34 +66,40 @@ namespace libgr {
 /// number, 0 to 13. Entries of the types with size 0 (0, SBYTE, FLOAT and DOUBLE) are ignored.
 inline constexpr unsigned int exiftypesize[14] = {0, 1, 1, 2, 4, 8, 0, 1, 2, 4, 8, 0, 0, 4};
 
-/// The payload of an APP1 segment: the bytes after the segment's length field (Exif 2.32, CIPA
-/// DC-008). Damaged payloads can't make the parser read outside the payload.
+/// A parser for the payload of an APP1 segment: the bytes after the segment's length field (Exif
+/// 2.32, CIPA DC-008). It never reads bytes outside the payload, even if the payload is damaged.
 ///
 /// A function that fails returns false and prints at most one line on the error stream. The line
-/// describes the error, but doesn't contain the name of the file. The records keep the values that
-/// were read before the failure, until `clear`. The numbers and strings in the records are copies.
-/// All objects that share a payload must be used by one thread.
+/// doesn't contain the name of the file. It is also recorded; see utils/diagnostics.h. The records
+/// keep the values that were read before the failure, until `clear`.
+///
+/// Objects can be moved, but not copied. For threads, see `jpeg_bytes_t` in metadata/jpegcursor.h.
 class app1_marker_t : public jpeg_bytes_t {
   public:
-    /// The TIFF block of the payload. Offsets in the file are relative to its start. The views
-    /// share the memory of the payload, except `ifd_maker_note` of an OLYMPUS camera. That is a
-    /// copy, because missing bytes at its end are replaced by zeros.
+    /// The TIFF block of the payload, which starts after "Exif" and two NULs. Offsets in the file
+    /// are relative to its start. The views share the memory of the payload, which isn't freed as
+    /// long as a copy of a view exists. The numbers and strings in the records are copies.
     class tiff_header_t : public jpeg_bytes_t {
       public:
         std::unique_ptr<libutils::byteorder> byteorder;  ///< null before `parse` and after `clear`
 
         jpeg_bytes_t ifd_0th;
         jpeg_bytes_t ifd_exif;
-        jpeg_bytes_t ifd_gps;  ///< set, but not read
+        jpeg_bytes_t ifd_gps;  ///< the bytes of the GPS IFD; `parse` reads no tags in it
         jpeg_bytes_t ifd_1st;
+
+        /// The IFD in the maker's note. For OLYMPUS, it is a copy, and up to 8 bytes that are
+        /// missing at its end are 0.
         jpeg_bytes_t ifd_maker_note;
+
         jpeg_bytes_t ifd_olympus3_equipment;
         jpeg_bytes_t ifd_olympus3_camerasettings;
         jpeg_bytes_t ifd_olympus3_focusinfo;
 
-        /// The embedded JPEG at the offset in the 1st IFD. Its bytes aren't checked. It is empty if
-        /// there is none, or if the offset is outside the TIFF block. If the block ends early, its
-        /// size is less than `tag_1st_ifd.JPEGInterchangeFormatLength[0]`.
+        /// The embedded JPEG picture. `parse` sets it in its last step, so not if it returns false.
+        /// It is empty if there is none, or if its offset is outside the block. If the block ends
+        /// early, its end is missing. Its bytes aren't checked. To save or decode it, pass it to
+        /// `jpegdata_t::setvector` (codecs/jpegdata.h).
         jpeg_bytes_t thumbnail;
 
         ExifType::tag_0th_ifd tag_0th_ifd;
@@ -88,13 +112,12 @@ class app1_marker_t : public jpeg_bytes_t {
         ExifType::tag_olympus3_focusinfo_ifd tag_olympus3_focusinfo_ifd;
         ExifType::tag_pentax5_ifd tag_pentax5_ifd;
 
-        /// Shares the memory of a TIFF block, and clears the views of the IFDs. Keeps
-        /// `ifd_maker_note`, `thumbnail` and the records; only `clear` empties them.
+        /// Shares the memory of a TIFF block, and empties the views of the IFDs. `ifd_maker_note`,
+        /// `thumbnail` and the records don't change: call `clear` first.
         void set_tiff_buffer(jpeg_bytes_t const& block);
 
-        /// Reads the TIFF header, the 0th IFD, the Exif IFD and the maker's note. Returns true if
-        /// they are valid and the GPS IFD isn't larger than the block. A missing IFD or note is
-        /// valid. Then reads the 1st IFD without checks, because it describes only the thumbnail.
+        /// Reads the block into the records. Returns false at an error in the first table of this
+        /// file.
         bool parse();
 
         /// Return true if the block begins with "II" (little-endian) or with "MM" (big-endian).
@@ -104,14 +127,14 @@ class app1_marker_t : public jpeg_bytes_t {
         void byteorderclear() { byteorder.reset(); }
         void clear() override;
 
-        // The steps of `parse`, one for each kind of IFD. Applications call `parse`.
+        // The steps of `parse`, one for each kind of IFD. Applications call `parse` instead.
         //
-        // `ifd` is a view of an IFD, which starts with its 16-bit number of entries. Offsets in
-        // the entries are relative to `note`. In functions without `note`, they are relative to the
-        // TIFF block. The functions store the values in the record of their kind. They return false
-        // if the IFD is invalid, or if `byteorder` is null. `parse_0th_ifd` also reads the Exif IFD
-        // and the maker's note. `parse_1st_ifd` always returns true. `parse_gps_ifd` does nothing
-        // and returns true.
+        // `ifd` starts with the 16-bit number of entries. Offsets in the entries are relative to
+        // the start of `note`, or of the TIFF block if there is no `note`. Each function stores the
+        // values in the record of its kind. It returns false if the IFD is invalid, or if
+        // `byteorder` is null. `parse_0th_ifd` also reads the Exif IFD and the maker's note.
+        // `parse_1st_ifd` sets `thumbnail` and always returns true. `parse_gps_ifd` only returns
+        // true.
 
         bool parse_0th_ifd(jpeg_bytes_t const& ifd);
         bool parse_exif_ifd(jpeg_bytes_t const& ifd);
@@ -127,19 +150,18 @@ class app1_marker_t : public jpeg_bytes_t {
 
     tiff_header_t tiff_header;
 
-    /// Shares the memory of the payload. Changes no view and no record of `tiff_header`.
+    /// Shares the memory of the payload. `tiff_header` doesn't change until `parse`.
     void set_app1_buffer(jpeg_bytes_t const& payload);
 
     /// Returns true if the payload begins with "Exif" and a NUL.
     bool is_exif() const;
 
-    /// Reads the payload into the records of `tiff_header`. If it returns false, the records may be
-    /// incomplete: don't use them. For example, the viewer doesn't rotate a picture with a damaged
-    /// maker's note, even if its orientation was read. If the payload isn't Exif, returns false and
-    /// prints nothing.
+    /// Reads the payload into the records of `tiff_header`. Returns false at an error in the first
+    /// table of this file. The records may then be incomplete: don't use them. For example, the
+    /// viewer then ignores an orientation that was read before the error.
     bool parse();
 
-    /// Releases the payload's memory and empties all views and records.
+    /// Empties this object, all views and all records, as if the object were new.
     void clear() override;
 };
 

@@ -9,14 +9,23 @@
 
 namespace libgr {
 
-/// The record types. The members have the names and meanings of Exif 2.32 (CIPA DC-008).
+/// The record types. The members have the names of the tags in Exif 2.32 (CIPA DC-008, section
+/// 4.6). Members without a unit are codes from its tables, for example MeteringMode and Flash.
 ///
-/// A numeric tag is a vector of one element, unless its comment says otherwise. The vector is empty
-/// if the tag is missing or has another size in bytes. For example, an Orientation stored as LONG
-/// is ignored. Values aren't checked: a denominator can be 0.
+/// A number is a vector of one element, unless its comment specifies two. The vector is empty if
+/// the tag is missing or has another size in bytes. The TIFF type isn't checked, because existing
+/// files depend on this. For example, Orientation has 2 bytes:
 ///
-/// A string is empty if the tag is missing. It has the size in the entry, or less if the payload
-/// ends early. It may end with several NULs: use `c_str()`. `clear` empties all members.
+///   Value in the file        Bytes  Result
+///   one SHORT                2      read
+///   two BYTEs                2      read as one SHORT
+///   one LONG, or two SHORTs  4      ignored
+///
+/// Numbers aren't checked: an orientation can be 9, and a denominator can be 0.
+///
+/// A string has the size of the value in the file, including the NUL at its end: compare and print
+/// its `c_str()`. A last byte that isn't a NUL is replaced by one. The string is empty if the tag
+/// is missing, and shorter if the payload ends early.
 class ExifType {
   public:
     struct rational_t {
@@ -37,12 +46,12 @@ class ExifType {
         std::string ImageDescription;
         std::string Make;
         std::string Model;
-        short_t Orientation;  ///< 1 to 8 in a valid file
-        rationals_t XResolution;
-        rationals_t YResolution;
-        short_t ResolutionUnit;
+        short_t Orientation;      ///< 1 to 8 in a valid file
+        rationals_t XResolution;  ///< pixels per ResolutionUnit
+        rationals_t YResolution;  ///< pixels per ResolutionUnit
+        short_t ResolutionUnit;   ///< 2: inch, 3: centimetre
         std::string Software;
-        std::string DateTime;
+        std::string DateTime;  ///< of the last change, "YYYY:MM:DD HH:MM:SS"
         short_t YCbCrPositioning;
         long_t ExifIFDPointer;     ///< bytes from the start of the TIFF block
         long_t GPSInfoIFDPointer;  ///< bytes from the start of the TIFF block
@@ -54,18 +63,18 @@ class ExifType {
         rationals_t ExposureTime;  ///< seconds
         rationals_t FNumber;
         short_t ExposureProgram;
-        short_t ISOSpeedRatings;
+        short_t ISOSpeedRatings;  ///< named PhotographicSensitivity in Exif 2.32
         long_t StandardOutputSensitivity;
         long_t ISOSpeed;
-        std::string DateTimeOriginal;   ///< "YYYY:MM:DD HH:MM:SS"; empty if not 20 bytes
-        std::string DateTimeDigitized;  ///< "YYYY:MM:DD HH:MM:SS"; empty if not 20 bytes
-        rationals_t ApertureValue;
-        srationals_t ExposureBiasValue;
-        rationals_t MaxApertureValue;
+        std::string DateTimeOriginal;    ///< "YYYY:MM:DD HH:MM:SS"; empty if not 20 bytes
+        std::string DateTimeDigitized;   ///< "YYYY:MM:DD HH:MM:SS"; empty if not 20 bytes
+        rationals_t ApertureValue;       ///< APEX: the f-number is 2 to the power of value / 2
+        srationals_t ExposureBiasValue;  ///< APEX: steps of exposure (EV)
+        rationals_t MaxApertureValue;    ///< APEX, as ApertureValue
         short_t MeteringMode;
         short_t Flash;
         rationals_t FocalLength;  ///< millimetres
-        jpeg_bytes_t MakerNote;
+        jpeg_bytes_t MakerNote;   ///< all bytes of the note; shares the payload's memory
         short_t ColorSpace;
         short_t WhiteBalance;
         short_t FocalLengthIn35mmFilm;  ///< millimetres
@@ -76,20 +85,21 @@ class ExifType {
         void clear() { *this = {}; }
     };
 
-    /// Reserved: the parser doesn't read the GPS IFD.
+    /// Always empty: the parser doesn't read the GPS IFD.
     struct tag_gps_ifd {
         std::string GPSLatitudeRef;
-        rationals_t GPSLatitude;  ///< degrees, minutes, seconds
+        rationals_t GPSLatitude;
         std::string GPSLongitudeRef;
-        rationals_t GPSLongitude;  ///< degrees, minutes, seconds
-        rationals_t GPSAltitude;   ///< metres
-        rationals_t GPSTimeStamp;  ///< hours, minutes, seconds (UTC)
+        rationals_t GPSLongitude;
+        rationals_t GPSAltitude;
+        rationals_t GPSTimeStamp;
         std::string GPSDateStamp;
 
         void clear() { *this = {}; }
     };
 
-    /// The members of the base stay empty.
+    /// The position of `thumbnail` (metadata/exif.h). The members of the base class are always
+    /// empty, because the parser reads no other tags of the 1st IFD.
     struct tag_1st_ifd : tag_0th_ifd {
         long_t JPEGInterchangeFormat;        ///< bytes from the start of the TIFF block
         long_t JPEGInterchangeFormatLength;  ///< bytes
@@ -97,8 +107,8 @@ class ExifType {
         void clear() { *this = {}; }
     };
 
-    // The members of the makers' records are named after the tags. Their meanings aren't documented
-    // by the makers.
+    // The members of the makers' records have the numbers of the tags as names, because the makers
+    // don't publish names and meanings.
 
     struct tag_olympus_ifd {
         short_t tag_0x100B;

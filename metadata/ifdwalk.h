@@ -40,8 +40,8 @@ constexpr std::size_t ifd_size(std::size_t n) {
 }
 
 /// The checks that `walk_ifd` makes. If one fails, it prints one line on the error stream and
-/// returns false. Bytes outside the view of the IFD and outside the base are never read, even
-/// without checks. The base is the block of memory that the offsets in the IFD are relative to.
+/// returns false. The base is the block of memory that the offsets in the IFD are relative to.
+/// Bytes outside the IFD and the base are never read.
 enum class ifd_checks_t {
     /// The first 8 bytes of each entry must be inside the view. The offset of each value must be
     /// less than or equal to the size of the base.
@@ -51,7 +51,7 @@ enum class ifd_checks_t {
     note,  ///< as `exif`, but all entries are checked before the first value is read
 };
 
-/// The effect of a type number that isn't an index of `exiftypesize` (metadata/exif.h).
+/// The effect of a type number above 13.
 enum class unknown_type_t {
     skip,  ///< the entry is ignored
     stop,  ///< the walk ends and succeeds
@@ -79,9 +79,7 @@ struct ifd_entry_t {
 };
 
 /// Calls `visit` for each entry of an IFD, in the order of the file. A value of more than 4 bytes
-/// is in `base`, at the offset in the entry.
-///
-/// The steps for an entry are, in this order:
+/// is in `base`, at the offset in the entry. The steps for an entry are, in this order:
 ///   1. check that the view of the IFD contains it,
 ///   2. apply `unknown_type`,
 ///   3. skip it if its type has size 0, if its offset is cut off, or if `skips_outside_values`
@@ -89,8 +87,7 @@ struct ifd_entry_t {
 ///   4. check the position of its value,
 ///   5. skip it if all bytes of its value are missing.
 ///
-/// Returns false if a check of `rules` fails, if an entry has an unknown type and `unknown_type` is
-/// `fail`, if the IFD ends early, or if `order` is null.
+/// Returns false if a check fails, if `unknown_type` is `fail` and applies, or if `order` is null.
 bool walk_ifd(ifd_rules_t const& rules, jpeg_bytes_t const& ifd, jpeg_bytes_t const& base,
               libutils::byteorder const* order,
               std::function<void(ifd_entry_t const&)> const& visit);
@@ -109,7 +106,7 @@ void store_value(ifd_entry_t const& entry, libutils::byteorder const& order,
 void store_value(ifd_entry_t const& entry, libutils::byteorder const& order, std::string& text);
 void store_value(ifd_entry_t const& entry, libutils::byteorder const& order, jpeg_bytes_t& view);
 
-/// The size of a tag that may have any size.
+/// The `size` of a row whose tag may have any size.
 inline constexpr unsigned int any_size = ~0U;
 
 /// The size, in bytes, of the value of a tag that is stored in a member of type M.

@@ -1,16 +1,39 @@
 // SPDX-License-Identifier: MIT
-// The bytes of JPEG data, the numbers of its marker segments, and a cursor over entropy-coded
+// Views of the bytes of JPEG data, the numbers of marker segments, and a cursor over entropy-coded
 // bytes.
 #pragma once
+
+/// Copies a buffer to a view for the parsers of this folder:
+///
+/// ```cpp
+/// #include <algorithm>
+/// #include <string>
+///
+/// #include "metadata/jpegcursor.h"
+///
+/// libgr::jpeg_bytes_t view_of(std::string const& buffer) {
+///     libgr::jpeg_bytes_t bytes;
+///     if (bytes.resize(buffer.size(), 0)) {  // false: not enough memory
+///         std::copy(buffer.begin(), buffer.end(), bytes.begin());
+///     }
+///     return bytes;
+/// }
+/// ```
+///
+/// `bytes.size()` is the number of bytes, and `bytes[i]` is byte i. For a view of 16 bytes from
+/// byte 4, copy `bytes`, add 4 to `offset` and set `count` to 16.
 
 #include "utils/allocator.h"
 #include "utils/ofsvector.h"
 
 namespace libgr {
 
-/// A view of the bytes of a JPEG file or of one of its segments. Copies share the memory, which is
-/// freed with the last copy. Copies that share memory must be used by one thread. No OpenGL context
-/// is needed.
+/// A view of the bytes of a JPEG file or of one of its segments (utils/ofsvector.h). Copies share
+/// the memory, which is freed with the last copy.
+///
+/// Use the views and all parsers of this folder on one thread only, the thread that loads files.
+/// The counts of copies and the recorded errors of utils/ aren't synchronized. No OpenGL context is
+/// needed.
 using jpeg_bytes_t = libutils::ofsvector<unsigned char, libutils::alloc_mmap_unix>;
 
 /// The numbers of the APPn and COM marker segments.
@@ -50,15 +73,31 @@ inline constexpr marker_row_t marker_array[MARKER_MAX] = {
     {MARKER_COM, 0xFE},
 };
 
-/// A cursor over entropy-coded bytes. It skips a 0x00 that follows a 0xFF (ITU-T T.81, B.1.1.5).
-/// It returns other bytes after a 0xFF, for example a marker's code. It doesn't own the bytes.
+/// A cursor over entropy-coded bytes. It skips the 0x00 that an encoder inserts after each 0xFF of
+/// its data (ITU-T T.81, B.1.1.5). It doesn't own the bytes.
 ///
-///     libgr::jpeg_iterator cursor(end);
-///     for (cursor = begin; cursor < end; ++cursor) { use(*cursor); }
+/// The cursor doesn't recognize markers: FF 00 D9 and FF D9 both deliver FF and D9. To stop at a
+/// marker, search for it first. A 0xFF without a 0x00 begins a marker or a fill byte before it:
+///
+/// ```cpp
+/// #include <algorithm>
+/// #include <string>
+///
+/// std::string unstuffed(unsigned char const* begin, unsigned char const* end) {
+///     auto const is_marker = [](int first, int second) { return first == 0xFF && second != 0; };
+///     auto const* const marker = std::adjacent_find(begin, end, is_marker);
+///     std::string bytes;
+///     libgr::jpeg_iterator cursor(marker);
+///     for (cursor = begin; cursor < marker; ++cursor) {
+///         bytes += static_cast<char>(*cursor);
+///     }
+///     return bytes;
+/// }
+/// ```
 class jpeg_iterator {
   public:
-    /// Creates a cursor that never reads `end` or the bytes after it. Assign the position before
-    /// use.
+    /// Creates a cursor without a position. Assign a pointer to the first byte before the first
+    /// use. `end` points to the byte after the last one. The cursor never reads this byte.
     explicit jpeg_iterator(unsigned char const* end) : m_end(end) {}
 
     jpeg_iterator& operator=(unsigned char const* position) {
@@ -66,11 +105,11 @@ class jpeg_iterator {
         return *this;
     }
 
-    /// Returns the byte at the cursor. The cursor must be before the end.
+    /// Returns the byte at the cursor, which must be before `end`.
     unsigned char operator*() const { return *m_position; }
 
-    /// Moves to the next byte. Moves by two bytes if the cursor is at a 0xFF with a stuffed 0x00.
-    /// The cursor must be before the end.
+    /// Moves by two bytes if the cursor is at a 0xFF and the next byte is 0x00, otherwise by one.
+    /// The cursor must be before `end`.
     jpeg_iterator& operator++() {
         bool const stuffed = *m_position == 0xFF && m_end - m_position > 1 && m_position[1] == 0x00;
         m_position += stuffed ? 2 : 1;
