@@ -63,8 +63,7 @@ struct multi_square_image_t {
     libgr::e_image_bits_t m_bits = libgr::IMAGE_BITS_8;
     std::uint32_t m_cols = 0;
     std::uint32_t m_rows = 0;
-    /// The size of the picture, where 1 is the side of one tile: (600 / 256, 128 / 256) in the
-    /// example at `plan_tiles`.
+    /// The size of the picture in tiles: (600 / 256, 128 / 256) in the example at `plan_tiles`.
     libgr::direction2_t m_size{0.0f, 0.0f};
 
     /// Replaces the tiles by `m_cols` times `m_rows` empty images. Returns false and leaves no
@@ -75,10 +74,9 @@ struct multi_square_image_t {
     void clear();
 };
 
-/// Cuts `in` into the tiles of `plan_tiles`. Row 0 of `in` is the bottom row (image/image.h), and
-/// `in` must not be a window into a larger picture, because `makewindow` would clip its tiles too
-/// much. The tiles at the right and top edges contain
-/// only the pixels of the picture.
+/// Cuts `in` into the tiles of `plan_tiles`. Row 0 of `in` is the bottom row. `in` must not be a
+/// window into a larger picture, because `makewindow` would clip its tiles too much. The tiles at
+/// the right and top edges contain only the pixels of the picture.
 ///
 /// If `use_window` is true, the tiles share the pixels of `in` and keep them alive. Use `in` and
 /// the tiles from one thread, because the reference counts aren't atomic. If `use_window` is false,
@@ -94,11 +92,10 @@ struct multi_square_image_t {
 ///   a copy fails: no memory, or        copy() failed.                      only the earlier tiles
 ///   `in` has too few bytes                                                 have pixels
 ///
-/// For a limit, prints the line of `libutils::report_limit` before. The limit `texel_ratio` is the
-/// number of texels in all tiles (`tile` squared for each) for each pixel of the picture. It is
-/// checked above `texels_unchecked` texels. It rejects long narrow strips, whose textures would be
-/// almost empty. After a failed copy, `m_cols` and `m_rows` are those of the plan, and the failed
-/// and later tiles must not be used.
+/// For a limit, prints the line of `libutils::report_limit` (utils/limits.h) before. The limit
+/// `texel_ratio` is the number of texels in all tiles (`tile` squared for each) divided by the
+/// pixels of the picture. It rejects long narrow strips with more than `texels_unchecked` texels.
+/// After a failed copy, `m_cols` and `m_rows` are those of the plan.
 bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsigned long maxsize,
                           bool use_window);
 

@@ -26,7 +26,7 @@ struct multi_texture_object_t {
     libgr::texparameter2d_t const* m_texparm = nullptr;  ///< not owned
     std::uint32_t m_cols = 0;
     std::uint32_t m_rows = 0;
-    /// The size of the picture, where 1 is the side of one tile.
+    /// The size of the picture in tiles.
     libgr::direction2_t m_size{0.0f, 0.0f};
 
     /// Sets the filters and wrap modes that `draw_image` sets for each tile. The caller owns
@@ -57,10 +57,9 @@ struct multi_texture_object_t {
 /// `out` has OpenGL textures, call `Unload` before. Creates no OpenGL object, but
 /// `gl_extloader_init` must have been called. Always returns true.
 ///
-/// GLU, which builds the mipmaps on old systems (see `isBuiltByGLU` in gl/texture2d.h), would
-/// stretch a tile to the size of its texture. So a smaller tile is copied into a square of this
-/// size, and its edge pixels are repeated. If there is no memory for the square, GLU stretches the
-/// tile, and only a part of it is drawn.
+/// If GLU builds the mipmaps (see `isBuiltByGLU` in gl/texture2d.h), it stretches tiles that are
+/// smaller than their texture. So these tiles are copied into a square of this size, and their edge
+/// pixels are repeated. If there is no memory for the square, only a part of the tile is drawn.
 bool squares_to_texobjs(multi_texture_object_t& out, multi_square_image_t const& in);
 
 }  // namespace zanolib

@@ -21,8 +21,8 @@ enum e_frametype_t : unsigned int {
     FRAMETYPE_FLOWER = 4,      ///< the texture flower.bmp, blended over the background
 };
 
-/// The frame of one picture. The current modelview matrix applies to it, as to the picture. The
-/// order of calls is:
+/// The frame of one picture. It is drawn with the modelview matrix of the picture. The order of
+/// calls is:
 ///
 ///   1. `init`, once for all frames.
 ///   2. `setFrameType`, `setSize` and `make_graph`.
@@ -33,13 +33,12 @@ enum e_frametype_t : unsigned int {
 /// Make all calls from the thread of the context, and use one context for all frames: they share
 /// their OpenGL textures and programs in static variables.
 ///
-/// A call of `make_graph` for a bump-mapped look creates new programs for all frames. The old ones
-/// can't be deleted afterwards. `free_graph` deletes the current programs, even if other frames
-/// need them. These frames aren't drawn then, OpenGL reports GL_INVALID_OPERATION, and the pictures
-/// are drawn without a frame. `make_graph` of one of them repairs all. In a ViewScene, call
-/// `ViewScene::free_graph` and `ViewScene::make_graph`, because `make_graph` alone skips pictures
-/// that have their OpenGL objects. Frames without programs aren't affected. The textures are never
-/// deleted.
+/// `make_graph` of a bump-mapped look creates new programs for all frames. The old ones can't be
+/// deleted afterwards. `free_graph` deletes the current programs, even if other frames need them.
+/// Then OpenGL reports GL_INVALID_OPERATION and draws only the pictures of these frames.
+/// `make_graph` of one frame repairs all. In a ViewScene, call `ViewScene::free_graph` and
+/// `ViewScene::make_graph`, which otherwise skips pictures that have their OpenGL objects. Frames
+/// without programs aren't affected. The textures are never deleted.
 ///
 /// The bump-mapped looks use the first of these paths that the context supports:
 ///
@@ -57,8 +56,7 @@ enum e_frametype_t : unsigned int {
 ///   flower.bmp                  `init`        the frame of this look has no texture
 ///   bumpmapv.vp1, bumpmapf.fp1  `make_graph`  prints an error line, uses the next path
 ///
-/// hairline.bmp must have 8 bits per pixel. If OpenGL is older than 2.0, the sides of the two
-/// textures must be powers of two, otherwise OpenGL reports an error.
+/// If OpenGL is older than 2.0, the sides of the two textures must be powers of two.
 class ViewFrame : public libgr::grObject3D {
   public:
     ViewFrame() = default;
@@ -67,15 +65,14 @@ class ViewFrame : public libgr::grObject3D {
     ~ViewFrame() override = default;
 
     /// Loads the textures of all frames from hairline.bmp and flower.bmp, unless they are loaded.
-    /// `datapath` must end in "/", because it is put in front of the file names, and must not be
-    /// null. Prints no error line if a file is missing or damaged. Prints one if hairline.bmp
-    /// hasn't 8 bits per pixel, or if a file exceeds the limit `picture_memory` (utils/limits.h).
-    /// Creates no OpenGL object, but `gl_extloader_init` must have been called.
+    /// `datapath` is put in front of the file names, so it must end in "/" and must not be null.
+    /// Prints an error line if hairline.bmp doesn't have 8 bits per pixel or a file exceeds the
+    /// limit `picture_memory` (utils/limits.h), but not if a file is missing or damaged. Creates no
+    /// OpenGL object, but `gl_extloader_init` must have been called.
     static void init(char const* datapath);
     /// Releases the pixels that `init` loaded. Makes no GL call: OpenGL textures remain.
     static void destroy();
 
-    /// Sets the look. Call it before `make_graph` or after `free_graph`.
     void setFrameType(e_frametype_t type);
     /// Sets the size of the picture and the width of the frame, in pixels of the picture.
     void setSize(libgr::direction2_t size, unsigned int width);
@@ -87,8 +84,9 @@ class ViewFrame : public libgr::grObject3D {
     void free_graph();
 
     using grObject3D::Draw;
-    /// Draws the frame. Expects lighting, blending and texturing to be disabled, and disables them
-    /// afterwards. The emission of the material is black afterwards. Needs a current context.
+    /// Draws the frame with GL_LIGHT0 and the option `framecolor`. Expects lighting, blending and
+    /// texturing to be disabled, and disables them afterwards. Changes the current colour, the
+    /// material and the texture environment. Needs a current context.
     void Draw() const override;
 
   private:

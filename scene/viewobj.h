@@ -47,13 +47,12 @@ class ViewObject : public libgr::grObject3D {
     /// Returns false if no codec has the extension, the codec fails, the picture has no pixels or a
     /// side of 2^31 pixels or more, or there is no memory for a conversion. Only the codec prints
     /// an error line. If the picture can't be cut (see `rectangle_to_squares`), prints an error
-    /// line and returns true, and `Draw` draws nothing. `libutils::failure_reason` isn't empty
-    /// then.
+    /// line and returns true. Then `Draw` draws nothing and `libutils::failure_reason` isn't empty.
     ///
     /// Use a new object for each file, or call `free_texture` before the second call. Otherwise
     /// `load_texture` keeps the old textures, and `Draw` uses them with the new size and tiles,
-    /// which can end the program. After false, `path` returns the new path. `getImageSize` and
-    /// `rightrotatecount` may return the old or new values, so `Draw` may stretch the old picture.
+    /// which can end the program. After false, `path` returns the new path, and the old tiles and
+    /// textures remain. `getImageSize` may return another size, to which `Draw` stretches them.
     ///
     /// Needs a current context, but creates no OpenGL object.
     bool setImage(char const* path, char const* datapath);
@@ -67,9 +66,8 @@ class ViewObject : public libgr::grObject3D {
     /// `ViewScene::Display`, and don't swap the buffers.
     ///
     /// On failure, returns false, sets errno, and leaves an old file unchanged. errno is ENODATA if
-    /// the viewport is empty, ENOMEM if there is no memory, EINVAL if the JPEG encoder fails, or
-    /// the error of the file system. Only the JPEG encoder prints an error line. Needs a current
-    /// context.
+    /// the viewport is empty, ENOMEM if there is no memory, EINVAL if the JPEG encoder fails, or an
+    /// error of the file system. Only the encoder prints an error line. Needs a current context.
     bool saveImage(char const* path);
 
     /// Creates the textures of the tiles unless they exist. Returns false, without textures, if

@@ -29,12 +29,8 @@
 /// docs/limits.md the limits. scene/squaretiles.h and scene/tiletextures.h cut and draw a picture
 /// without a scene.
 ///
-/// The scene reads these options (options/option.h). Changes have no effect on earlier calls.
-///
-///   Option                   Is read by
-///   frametype, framewidth    `addImage`, for the new picture
-///   framecolor               `Display`
-///   verbose, debug           each call that prints lines for these options
+/// `addImage` reads the options `frametype` and `framewidth` for the new picture only. `Display`
+/// reads `framecolor`. All calls read `verbose` and `debug` (options/option.h).
 
 #include <list>
 
@@ -49,17 +45,16 @@ namespace zanolib {
 
 /// A list of pictures. The scene owns the pictures and draws the current one.
 ///
-/// Threads and contexts: Make all calls from the thread of the context. Functions that make GL
-/// calls say that they need a current context. Use one context for all scenes of a process, because
-/// the frames share their OpenGL objects and `gl_extloader_init` loads the functions of one
-/// context.
+/// Contexts: Make all calls from the thread of the context. Each function that makes GL calls says
+/// that it needs a current context. Use one context for all scenes of a process, because the frames
+/// share their OpenGL objects and `gl_extloader_init` loads the functions of one context.
 ///
-/// OpenGL state: `Init` disables lighting, blending and the depth, alpha and stencil tests. It
-/// enables the culling of back faces, and sets the clear colour to gray (0.18 for red, green and
-/// blue). `Display` expects this state, the projection of `Reshape`, and the state that
-/// `multi_texture_object_t::draw_image` expects. To change the background, call glClearColor after
-/// `Init`. `Display` leaves the matrix mode at GL_MODELVIEW, the view matrix on its stack,
-/// GL_LIGHT0 enabled, and the state that `draw_image` leaves.
+/// OpenGL state: `Init` disables lighting, blending and the depth, alpha and stencil tests, enables
+/// the culling of back faces, and sets the clear colour to a gray of 0.18. To change the
+/// background, call glClearColor after `Init`. `Display` expects this state, the projection of
+/// `Reshape`, and the state that `multi_texture_object_t::draw_image` expects. It leaves the state
+/// that `draw_image` leaves, the matrix mode GL_MODELVIEW, a changed modelview matrix, and
+/// GL_LIGHT0 enabled.
 ///
 /// View: Each picture has a view matrix M, with row vectors as in geometry/matrix.h. The axes are
 /// those of the screen: x points right, y points up, and the origin is the centre of the
@@ -82,9 +77,9 @@ class ViewScene {
         /// Copy only new objects: after `load`, the nodes of a copy point to those of the original.
         obj_t(obj_t const&) = default;
         obj_t& operator=(obj_t const&) = delete;
-        /// Deletes the OpenGL objects. If another context is current, this deletes the objects
-        /// that have the same names there. If no context is current, this has no effect in GLVND
-        /// and Mesa, so a scene can be destroyed after its context.
+        /// Deletes the OpenGL objects. If another context is current, deletes the objects with the
+        /// same names there. If none is current, has no effect in GLVND and Mesa, so a scene can be
+        /// destroyed after its context.
         ~obj_t() { free_graph(); }
 
         /// Loads the picture and sets up the frame. Returns false if the picture can't be loaded or
@@ -104,8 +99,8 @@ class ViewScene {
     /// Sets the OpenGL state that `Display` expects and calls `ViewFrame::init`. `datapath` is the
     /// directory of the frame's files and must end in "/". Needs a current context.
     void Init(char const* datapath);
-    /// Calls `ViewFrame::destroy`. The pictures and the OpenGL objects remain. All scenes share the
-    /// frame's files, so call this function for the last scene only.
+    /// Calls `ViewFrame::destroy`. The pictures and the OpenGL objects remain. Call it for the last
+    /// scene only, because all scenes share the textures of the frames.
     void Destroy();
 
     /// Loads the picture at `path` and appends it to the list. If no picture is current, the first
@@ -160,7 +155,7 @@ class ViewScene {
     void Scale(float factor, float);
     /// Moves by `d`, in pixels of the framebuffer. If the mouse moved 10 pixels right and 10 down,
     /// pass `libgr::direction3(10, -10, 0)`. Pass 0 for z: the projection has no perspective, and
-    /// the picture is invisible if its z isn't from -9000 to 1000.
+    /// clips the picture if its z isn't from -9000 to 1000.
     void Move(libgr::direction3_t const& d, float);
     /// Multiplies the view matrix by `m`. To set the view matrix to `m`, pass
     /// `libgr::Invert(getMatrix()) * m`.
@@ -185,25 +180,22 @@ class ViewScene {
     /// blocky. Returns true if it is smooth now, and false if no picture is current. Needs a
     /// current context.
     bool toggleSmooth();
-    /// Returns the size, in pixels, of the current picture in its file, without the rotation by its
-    /// orientation, or (0, 0) if there is none.
+    /// Returns `ViewObject::getImageSize` of the current picture, or (0, 0) if there is none.
     [[nodiscard]] libgr::direction2l_t getCurrentImageSize() const;
-    /// Returns the number of quarter turns clockwise that bring the current picture upright, or 0
-    /// if there is none.
+    /// Returns `ViewObject::rightrotatecount` of the current picture, or 0 if there is none.
     [[nodiscard]] unsigned long rightrotatecount() const;
-    /// Saves the contents of the window at the snapshot path of the picture `path`. Returns false
-    /// and sets errno to ENODATA if no picture is current. `ViewObject::saveImage` describes the
-    /// path, the buffer that is read and the other failures. Needs a current context.
+    /// Calls `ViewObject::saveImage`, which saves the contents of the window as a JPEG file. If no
+    /// picture is current, returns false and sets errno to ENODATA. Needs a current context.
     bool saveImage(char const* path);
 
     /// Draws the background, the frame and the current picture. Doesn't swap the buffers. Needs a
     /// current context.
     void Display() const;
     /// Sets the viewport and the projection for a framebuffer of `width` by `height` pixels. Each
-    /// is limited to GL_MAX_VIEWPORT_DIMS. The projection depends on the size of the current
-    /// picture: if only one of the two widths is odd, it is moved by half a pixel, likewise for
-    /// heights, so that the picture is sharp. Leaves the matrix mode at GL_PROJECTION. Needs a
-    /// current context.
+    /// is limited to GL_MAX_VIEWPORT_DIMS. If `width` is odd and the width of the current picture
+    /// is even, or the reverse, moves the projection by half a pixel to keep the picture sharp. The
+    /// same applies to the heights. Leaves the matrix mode at GL_PROJECTION. Needs a current
+    /// context.
     void Reshape(unsigned long width, unsigned long height);
 
   private:
@@ -212,7 +204,7 @@ class ViewScene {
     std::list<obj_t>::iterator remove(std::list<obj_t>::iterator place);
     /// Multiplies the view matrix of the current picture, if there is one, by `transform`.
     void append(libgr::matrix3w_t const& transform);
-    /// Rotates the current picture as the orientation in its file says.
+    /// Rotates the current picture to the orientation in its file.
     void turn_upright();
 
     std::list<obj_t> m_objlist;      // a list, because the nodes point to the elements
