@@ -76,8 +76,7 @@
 
 namespace libgr {
 
-/// The components of a pixel, in their order in memory. See `s_image_format_components_list` for
-/// the number of components.
+/// The components of a pixel, in their order in memory.
 enum e_image_format_t : unsigned int {
     IMAGE_FORMAT_GRAYSCALE,
     IMAGE_FORMAT_GRAYSCALE_ALPHA,
@@ -168,8 +167,7 @@ extern image_format_string_t const image_format_string[IMAGE_FORMAT_MAX + 1];
 extern image_type_string_t const image_type_string[IMAGE_TYPE_MAX + 1];
 extern image_bits_string_t const image_bits_string[IMAGE_BITS_MAX + 1];
 
-/// Print the name of the enumerator, for example IMAGE_FORMAT_RGB. For another value, print only
-/// the text "unknown: ", without the number.
+/// Print the name of the enumerator. For another value, print only the text "unknown: ".
 std::ostream& operator<<(std::ostream& out, e_image_format_t value);
 std::ostream& operator<<(std::ostream& out, e_image_type_t value);
 std::ostream& operator<<(std::ostream& out, e_image_bits_t value);
@@ -192,7 +190,7 @@ struct image_desc_t {
 bool operator==(image_desc_t const& a, image_desc_t const& b);
 
 /// The byte order and row alignment of an image, as in glPixelStore. Images point to a store and
-/// don't own it, so a store must outlive the images that use it. Most stores are static.
+/// don't own it, so a store must outlive the images that use it.
 ///
 /// Only transfers to and from OpenGL use `swapbytes`. The functions of this library ignore it.
 struct image_store_t {
@@ -347,8 +345,8 @@ unsigned long long row_stride(unsigned long long pixels, unsigned long long pixe
                               image_store_t const* store);
 
 /// Returns true if the bytes of the record contain all its pixels, with `pixelbits` bits each, at
-/// the positions given by its store and window. `pixelbits` is a parameter because OpenGL uses the
-/// size of its own pixel type, whatever the description says. A record without pixels is accepted,
+/// the positions given by its store and window. OpenGL may use another pixel size than the
+/// description has, so it is a parameter. A record without pixels is accepted,
 /// and a compressed one is rejected. A row may extend beyond the row length of its window if the
 /// bytes suffice.
 bool pixels_within(image1d_t const& image, unsigned long long pixelbits);

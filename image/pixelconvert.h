@@ -47,9 +47,9 @@ namespace libgr {
 /// Converts BGR to RGB, and BGRA to RGBA, with 8-bit integer components. A source that is RGB or
 /// RGBA already is shared, whatever its components, even if it is compressed. Others are rejected.
 ///
-/// Rows of `dst` are always written from the start of its bytes and padded to 4 bytes. But its
-/// window and store are kept and used to allocate, so with a window or another alignment, `dst`
-/// doesn't describe its pixels, or there are too few bytes and the result is false.
+/// Rows of `dst` are always written from the start of its bytes and padded to 4 bytes, but its
+/// window and store are kept. So if they mean another layout, `dst` shows wrong pixels, or its
+/// bytes are too few and the result is false.
 bool bgr2rgb(image2d_t& dst, image2d_t const& src);
 
 /// Converts RGB to BGR, and RGBA to BGRA. The rules of `bgr2rgb` apply, but for RGB the store of
