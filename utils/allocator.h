@@ -4,13 +4,13 @@
 
 namespace libutils {
 
-/// A platform context that callers may pass to a load. The library doesn't use it.
+/// The type of the last argument of each load. The library ignores this argument: pass null.
 struct android_app;
 
-/// The protection of a file mapping. With any other value, `alloc_mmap_unix::allocate` fails.
+/// The protection of a file mapping; see the table below. `alloc_mmap_unix` rejects other values.
 enum e_prot_t : unsigned int {
     PROTECTION_READ = 0,
-    PROTECTION_READWRITE = 1,  ///< writing to the mapping changes the file
+    PROTECTION_READWRITE = 1,
 };
 
 /// Returns the unused pages of the heap to the system.
@@ -21,15 +21,16 @@ enum e_prot_t : unsigned int {
 /// that is returned. It does nothing if the C library isn't glibc.
 void release_unused_memory();
 
-/// The text for a failed allocation. The library reports failures by results and never prints it.
+/// A message that callers can print if there isn't enough memory. The library never prints it.
 extern char const* const memory_error;
 
 // All allocators have the same functions. An allocator object manages one block of memory. Use the
 // arrays in utils/ofsvector.h and utils/refvector.h instead of calling an allocator.
 //
 //   allocate(bytes, path, protection, offset, app)
-//       Returns a block of `bytes` bytes. With a path, the block contains the bytes of the file
-//       after `offset`. If `bytes` is 0, it is set to the number of these bytes.
+//       Returns a block of `bytes` bytes. With a path, the block contains the bytes of the file,
+//       starting at byte `offset`. If `bytes` is 0, sets it to the number of bytes from `offset` to
+//       the end of the file.
 //   reallocate(p, newsize, offset)
 //       Returns a new block with the bytes of `p` that fit, and frees `p`. On failure, `p` stays
 //       valid.
@@ -39,9 +40,23 @@ extern char const* const memory_error;
 //       Returns true if `p`, returned by `allocate` or `reallocate`, means failure.
 //   writable()
 //       Returns true if the block may be written to.
+//
+// The differences between the allocators:
+//
+//                                   alloc_new                      alloc_mmap_unix
+//   no path: the new bytes          undefined                      0
+//   no path, any `protection`       writable                       writable
+//   file, PROTECTION_READ           a writable copy                writing raises SIGSEGV
+//   file, PROTECTION_READWRITE      a writable copy                writing changes the file
+//   `offset`                        ignored: always starts at 0    a multiple of the page size
+//   missing file, `bytes` is 0      fails                          fails
+//   missing file, other `bytes`     succeeds, undefined bytes      fails
+//   file without read permission    succeeds, undefined bytes      fails
+//   file with too few bytes         succeeds, undefined rest       fails
+//
+// The page size is sysconf(_SC_PAGESIZE).
 
-/// Heap memory. `protection` and `offset` are ignored: a file is read from its start. A missing
-/// file is an error only if `bytes` is 0. If the file can't be read, the block is undefined.
+/// Heap memory. A file is copied into it.
 struct alloc_new {
     unsigned long size = 0;  ///< bytes
 
@@ -55,11 +70,18 @@ struct alloc_new {
 
 /// Memory mappings: the pages of a file, or anonymous pages, which are 0.
 ///
-/// Bytes that another program removes from a mapped file read as 0; see utils/mappingguard.h. One
-/// anonymous mapping of 4 to 256 MiB is kept after its deallocation and used for the next one.
+/// Another program can make a mapped file shorter, or its device can fail. The lost bytes are then
+/// read as 0, without a SIGBUS. Bytes that are written to the lost pages don't reach the file. For
+/// this, the first load of a file installs a handler for SIGBUS, which calls the previous handler
+/// for faults at other addresses. A program with a handler for SIGBUS must install it before the
+/// first load, or its handler must call the one that it replaces.
 ///
-/// `allocate` and `reallocate` return MAP_FAILED if mmap fails, and always for 0 bytes, which the
-/// arrays accept as an empty file. Test results with `failed`. `reallocate` to 0 bytes frees `p`.
+/// One anonymous mapping of 4 to 256 MiB is kept after its deallocation and used for the next one,
+/// because new pages from the system are slow.
+///
+/// On failure, `allocate` returns null or MAP_FAILED, and `reallocate` returns MAP_FAILED. Both
+/// also return MAP_FAILED for 0 bytes, because mmap can't map 0 bytes. The arrays accept this as an
+/// empty block. `reallocate` to 0 bytes frees `p`.
 struct alloc_mmap_unix {
     int fd = -1;             ///< the open file, or -1 for an anonymous mapping; owned
     unsigned long size = 0;  ///< bytes mapped
@@ -67,13 +89,12 @@ struct alloc_mmap_unix {
     int prot = 0;            ///< PROT_READ, or PROT_READ | PROT_WRITE
     int flags = 0;           ///< MAP_SHARED for a file, otherwise MAP_ANON | MAP_PRIVATE
 
-    /// Returns null if the file doesn't have the range: reading after its end would raise SIGBUS.
-    /// `offset` must be a multiple of the page size.
+    /// Fails if the file has fewer than `bytes` bytes after `offset` at the time of the call.
     void* allocate(unsigned long& bytes, char const* path, e_prot_t protection,
                    unsigned long long offset, android_app* app);
 
     /// Replaces a read-only file mapping by an anonymous, writable copy. For a writable file
-    /// mapping, fails if the file doesn't have the range.
+    /// mapping, fails if the file has fewer than `newsize` bytes after `offset`.
     void* reallocate(void* p, unsigned long newsize, unsigned long long offset);
     void deallocate(void* p);
     static bool failed(void const* p);

@@ -37,8 +37,9 @@ class motorola_byteorder final : public byteorder {
     }
 };
 
-// The same conversions, for a byte order known at compile time: i for little-endian, m for
-// big-endian.
+// The same conversions for a byte order known at compile time. The first letter of a name is the
+// byte order of the file: i (Intel) is little-endian, m (Motorola) is big-endian. The last letters
+// are the size: s is 16 bits, l is 32 bits, ll is 64 bits.
 constexpr unsigned short itohs(unsigned short value) {
     return value;
 }

@@ -2,6 +2,35 @@
 // Reporting of errors, a function for breakpoints, and helpers for lines of text on streams.
 #pragma once
 
+// Functions return false on failure. To get the reason as a text:
+//
+// ```cpp
+// #include <cerrno>
+// #include "utils/diagnostics.h"
+// #include "utils/replacefile.h"
+//
+// libutils::clear_failure_reason();
+// if (!libutils::replace_file("a.txt", "text\n")) {
+//     libutils::reject_errno(errno);
+//     std::cerr << libutils::failure_reason() << std::endl;  // "Permission denied"
+// }
+// ```
+//
+// The functions of this library that can fail:
+//
+//   function                        prints a line   records a reason   sets errno
+//   reject, reject_errno            no              yes                no
+//   report_error, report_limit      yes             yes                no
+//   read_small_file: TOO_LONG       yes             yes                no
+//   read_small_file: UNREADABLE     no              no                 if a system call failed
+//   load and resize of an array     no              no                 if a system call failed
+//   replace_file                    no              no                 yes
+//
+// Set errno to 0 before a call that doesn't always set it. `reject_errno(0)` records "read error".
+//
+// The process has one recorded reason, without a lock. So one thread must call all functions that
+// print or record.
+
 #include <iomanip>
 #include <ios>
 #include <iostream>
@@ -14,7 +43,8 @@ namespace libutils {
 /// breakpoint in it stops at all of them.
 void error();
 
-/// Restores the format flags of a stream at the end of the block.
+/// Saves the format flags of a stream. The destructor restores them. The width, the precision and
+/// the fill character aren't saved.
 struct keepflag {
     explicit keepflag(std::ostream& out) : stream(out), flags(out.flags()) {}
     keepflag(keepflag const&) = delete;
@@ -31,8 +61,7 @@ std::ostream* begin_failure_reason();
 
 /// Records the reason why the running operation fails, and prints nothing. The first reason is kept
 /// until `clear_failure_reason`, because the innermost function knows it best. At most 255 bytes
-/// are kept, in a static buffer, so that this also works without memory. The process has one
-/// buffer, so all calls must come from one thread. Always returns false.
+/// are kept, in a static buffer, so that this also works without memory. Always returns false.
 template <typename... Parts>
 bool reject(Parts const&... parts) {
     if (std::ostream* const out = begin_failure_reason()) {
@@ -41,11 +70,12 @@ bool reject(Parts const&... parts) {
     return false;
 }
 
-/// Records the text of a value of errno, such as "Permission denied". Always returns false.
+/// Records the text of a value of errno, for example "Permission denied", as `reject` does. Records
+/// "read error" for 0. Always returns false.
 bool reject_errno(int error);
 
-/// Returns the recorded reason without a final full stop. Empty if there is none. The view is valid
-/// until `clear_failure_reason`. The reason may contain unescaped names: print it with `putname`.
+/// Returns the recorded reason without a final full stop, or an empty text. The view is valid until
+/// `clear_failure_reason`. The reason may contain unescaped names: print it with `putname`.
 std::string_view failure_reason();
 
 /// Forgets the recorded reason. Call it before an operation if you need the reason of its failure.
@@ -82,7 +112,7 @@ struct _putname {
     std::string_view text;
 };
 
-/// A value for the operator below.
+/// A value that its operator<< writes in hexadecimal.
 template <typename T>
 struct _puthex {
     T value;
@@ -122,10 +152,15 @@ std::ostream& operator<<(std::ostream& out, _putcn const& run);
 std::ostream& operator<<(std::ostream& out, _putn const& bytes);
 std::ostream& operator<<(std::ostream& out, _putname const& name);
 
-/// Writes the value in hexadecimal with at least 2 digits. Writes "0x" first if the stream has the
-/// flag showbase. An unsigned char is written as "0" and the character itself, not as a number.
-/// Existing output depends on this. Convert it to unsigned int for its number. The flags and the
-/// fill character of the stream don't change.
+/// Writes the value in hexadecimal with at least 2 digits. The flags and the fill character of the
+/// stream don't change.
+///
+///   _puthex<unsigned>{10}          0a
+///   _puthex<unsigned>{255}         ff
+///   the same with showbase         0x0xff: the operator and the stream both write "0x"
+///   _puthex<unsigned char>{'A'}    0A: "0" and the character, not its number
+///
+/// Existing output depends on the last two. For the number of a byte, use `_puthex<unsigned>`.
 template <typename T>
 std::ostream& operator<<(std::ostream& out, _puthex<T> const& hex) {
     keepflag const keep(out);

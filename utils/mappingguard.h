@@ -16,9 +16,7 @@ namespace libutils {
 /// protection; the pages of zeros get the same protection. `offset` is the position in the file, in
 /// bytes. `fd` must stay open until `unguard_mapping`.
 ///
-/// The first call installs a handler for SIGBUS. The handler calls the previous handler for faults
-/// at other addresses. A program with its own handler must install it before it loads the first
-/// file, or its handler must call the one that it replaces.
+/// The first call installs a handler for SIGBUS; see `alloc_mmap_unix` in utils/allocator.h.
 ///
 /// Returns false if there isn't enough memory. A load with `alloc_mmap_unix` then fails. All calls,
 /// also those of `alloc_mmap_unix`, must come from one thread.

@@ -20,10 +20,15 @@
 /// The mapping is removed, and the file closed, with the last handle that shares it. For a new
 /// array instead of a file, call `resize(number, 0)`.
 ///
-/// Functions don't throw and print nothing: they return false on failure. The reference counts
-/// aren't atomic: all handles on one block must be used by one thread. With `alloc_mmap_unix`, one
-/// thread must load, resize and free all arrays of the program, because they share the list of
-/// guarded mappings and a spare block.
+/// Functions don't throw and print nothing: they return false on failure. No function of this
+/// library needs a GL context.
+///
+/// Threads: the reference counts have no lock, so one thread must use all handles on one block.
+/// With `alloc_mmap_unix`, one thread must load, resize and free all arrays of the program, because
+/// they share the list of mappings and a spare block. Another thread may use a pointer from `begin`
+/// as long as a handle keeps the block and doesn't resize it. If the pointer is into a mapped file
+/// that may become shorter, free no other mapped file meanwhile: the handler for SIGBUS searches
+/// the list.
 
 #include <cstring>
 #include <limits>
@@ -55,8 +60,8 @@ struct shared_block_t {
     ~shared_block_t() { allocator.deallocate(data); }
 
     /// Returns a block of `bytes` bytes from the allocator, or null on failure. With a path, 0
-    /// bytes mean all bytes from `offset` to the end of the file. If the size is 0, a failed
-    /// mapping counts as success, because no memory is needed.
+    /// bytes mean all bytes from `offset` to the end of the file. A block of 0 bytes needs no
+    /// memory: its `data` is null if the allocator can't make one.
     static std::unique_ptr<shared_block_t> make(unsigned long bytes, char const* path,
                                                 e_prot_t prot, unsigned long long offset,
                                                 android_app* app) {
@@ -75,8 +80,8 @@ struct shared_block_t {
 };
 
 /// A handle on a shared array of T. Copies of a handle share the block; no elements are copied.
-/// Numbers and sizes are in elements, unless their comments say otherwise. New elements are 0 with
-/// `alloc_mmap_unix`, and undefined with `alloc_new`.
+/// Numbers and sizes are in elements, unless their comments say otherwise. The table in
+/// utils/allocator.h lists the values of new elements.
 template <typename T, typename A>
 class refvector2 {
     static_assert(std::is_trivially_copyable_v<T>, "elements are copied as bytes");
@@ -107,22 +112,26 @@ class refvector2 {
     virtual T* operator->() { return at_byte(0); }
     virtual T const* operator->() const { return at_byte(0); }
 
-    /// Loads `number` elements of the file at `path`, starting at byte `offset`. If `number` is 0,
-    /// loads all bytes from `offset` to the end; an empty file gives an empty array. If `path` is
-    /// null, allocates `number` new elements.
+    /// Replaces the block of this handle by a new one. Other handles keep the old block. Loads
+    /// `number` elements of the file at `path`, starting at byte `offset`. If `number` is 0, loads
+    /// all bytes from `offset` to the end; an empty file gives an empty array. If `path` is null,
+    /// allocates `number` new elements; `offset` must be 0. `app` is ignored.
     ///
-    /// With `alloc_mmap_unix`, `offset` must be a multiple of the page size. Writing to a
-    /// PROTECTION_READ mapping raises SIGSEGV; writing to a PROTECTION_READWRITE mapping changes
-    /// the file. `alloc_new` accepts more; see utils/allocator.h. `app` may be null.
+    /// The table in utils/allocator.h lists, for each allocator, the effect of `prot` and `offset`,
+    /// the files that make the function fail, and whether the elements are writable.
     ///
-    /// If `keep` is false, the handle is emptied first. If `keep` is true, the old elements are
-    /// copied over the start of the new block. If it maps a file, this changes the file, and fails
-    /// for a read-only mapping. If `number` is 0, the old elements are dropped. With `keep`,
-    /// nothing changes on failure.
+    /// If `keep` is true and `number` isn't 0, the elements of the old block are copied over the
+    /// start of the new one. This changes a file that is mapped with PROTECTION_READWRITE. It fails
+    /// for PROTECTION_READ with `alloc_mmap_unix`, unless there are no old elements.
     ///
-    /// Returns false on failure: the file can't be opened, it has fewer elements, or there isn't
-    /// enough memory. Sets errno if a system call failed, for example to EINVAL for a misaligned
-    /// `offset`, but not for too few elements. Records no reason; see `reject_errno`.
+    /// Returns false on failure. Then:
+    ///
+    ///   block, `keep` is false    the handle has none
+    ///   block, `keep` is true     unchanged
+    ///   window of an `ofsvector`  the whole block, for both values of `keep`
+    ///   errno                     set if a system call failed, for example to EINVAL for a wrong
+    ///                             `offset`; not set for a file with too few elements
+    ///   message                   none; see the example in utils/diagnostics.h
     virtual bool load(unsigned long number, char const* path, e_prot_t prot,
                       unsigned long long offset, bool keep, android_app* app);
 
@@ -133,9 +142,9 @@ class refvector2 {
     /// writable file mapping, `offset` is the byte of the file at which the new mapping starts, and
     /// the old elements are copied over this part of the file. Otherwise pass 0.
     ///
-    /// Returns false, and changes nothing, if there isn't enough memory or a writable file doesn't
-    /// have the range. With `alloc_mmap_unix`, `resize(0, 0)` of a block also returns false, but
-    /// empties the block.
+    /// Returns false, and changes nothing, if there isn't enough memory or if the writable file has
+    /// too few bytes after `offset`. An exception: `resize(0, 0)` of a block with `alloc_mmap_unix`
+    /// empties the block but returns false, because the result is true only if there is memory.
     virtual bool resize(unsigned long number, unsigned long long offset);
     virtual void clear() { deallocate(); }
     virtual ~refvector2() { deallocate(); }
@@ -149,7 +158,7 @@ class refvector2 {
     /// Returns the number of handles that share the block, or 0 if there is none.
     unsigned long refcount() const { return m_block != nullptr ? m_block->refcount : 0; }
 
-    /// Replaces the block by a new one. See `load`.
+    /// Calls `refvector2::load` with `keep` false. The window of an `ofsvector` doesn't change.
     bool allocate(unsigned long number, char const* path, e_prot_t prot,
                   unsigned long long offset) {
         return refvector2::load(number, path, prot, offset, false, nullptr);
@@ -158,8 +167,8 @@ class refvector2 {
     /// Empties the handle. The block is freed if no other handle shares it.
     void deallocate() { set_block(nullptr); }
 
-    /// Shares the block of a handle with another element type. Doesn't change the `offset` and the
-    /// `count` of an `ofsvector`.
+    /// Shares the block of a handle with another element type. Doesn't change the window
+    /// of an `ofsvector`.
     template <typename U>
     void share(refvector2<U, A> const& other) {
         set_block(other.m_block);
@@ -209,8 +218,17 @@ class refvector2 {
 /// A window into a shared block: `count` elements, starting at byte `offset`.
 ///
 /// Several windows, also with different element types, can share one block: assign the handle, or
-/// call `share`, then set `offset` and `count`. A window is clamped to the last whole element,
-/// counted from the start of the block, so the range from `begin` to `end` is always valid.
+/// call `share`, then set `offset` and `count`. Assignment copies the window; `share` doesn't.
+///
+/// `offset` must be a multiple of alignof(T). It needn't be a multiple of sizeof(T). `begin` and
+/// `end` are always in the block or at its end. Bytes after the last whole element, counted from
+/// the start of the block, are in no window. Example: a block of 10 bytes with packed elements of 4
+/// bytes.
+///
+///   `offset`   `size()`
+///   0          2
+///   2          1          bytes 2 to 5: the whole elements of the block end at byte 8
+///   8          0
 template <typename T, typename A>
 class ofsvector : public refvector2<T, A> {
     using base = refvector2<T, A>;
@@ -240,20 +258,19 @@ class ofsvector : public refvector2<T, A> {
     T* operator->() override { return begin(); }
     T const* operator->() const override { return begin(); }
 
-    /// Loads like the function of the base class. The window is the whole block afterwards, also on
-    /// failure.
+    /// See `refvector2::load`. The window is the whole block afterwards, also on failure.
     bool load(unsigned long number, char const* path, e_prot_t prot, unsigned long long position,
               bool keep, android_app* app) override;
 
     /// Copies the window to a new, writable block of `number` elements. Other handles keep the old
-    /// block. The window is the whole new block afterwards. Pass 0 as `position`: other values have
-    /// no effect or fail.
+    /// block. The window is the whole new block afterwards. Without a block, allocates one and
+    /// doesn't change the window. `position` must be 0.
     ///
     /// Copies at most `count` bytes, not elements, because callers depend on it. For elements of
-    /// several bytes, set `count` to `to_end` first if all must be kept. Without a block, the
-    /// function does the same as that of the base class.
+    /// several bytes, set `count` to `to_end` first if all must be kept.
     ///
-    /// Returns false, and changes nothing, if there isn't enough memory. `resize(0, 0)` succeeds.
+    /// Returns false, and changes nothing, if there isn't enough memory. `resize(0, 0)` succeeds,
+    /// unlike `refvector2::resize`.
     bool resize(unsigned long number, unsigned long long position) override;
     void clear() override {
         base::clear();

@@ -7,10 +7,14 @@
 
 namespace libutils {
 
-// Both "/" and "\" are separators, on all systems. Paths are text in the current locale
-// (setlocale): a byte inside a multibyte character is never a separator. A byte that isn't valid in
-// the locale counts as one character. No function changes a file. Only `searchpath` looks at the
-// file system.
+// Both "/" and "\" are separators on all systems, so that a path gives the same parts on each
+// system. Callers depend on this. So a file name that contains "\" is split there: the stem of
+// "a\b.jpg" is "b".
+//
+// Paths are text in the current locale (setlocale): a byte inside a multibyte character is never a
+// separator. A byte that isn't valid in the locale counts as one character. Only `searchpath` reads
+// the file system. No function prints or records a reason. All may be called from any thread if no
+// other thread calls setlocale or setenv.
 
 /// The four parts of a path, each with a NUL at the end. See `splitpath`.
 struct splitpath_t {
@@ -66,14 +70,21 @@ void split(splitpath_t& parts, char const* path);
 /// Writes the four fields and a NUL to `dst`, which must have 4093 bytes. Returns `dst`.
 char* concat(char* dst, splitpath_t const& parts);
 
-/// Returns the path of the first file that exists. Tries, in this order, `name`, `name` in the
-/// directory "./", `name` in each directory of the environment variable PATH, and `name` in the
-/// directory of the file path `extra`, for example argv[0]. Skips the last if `extra` is null.
-/// Returns `name` if there is none, so open the result to find out if the file exists.
+/// Returns the first of these paths that exists, also if it is a directory:
+///
+///   1. `name`
+///   2. ".//" and `name`
+///   3. each directory in the environment variable PATH, "/" and `name`
+///   4. the drive and the directory of `extra` (see `splitpath`), "/" and `name`
+///
+/// `extra` is the path of a file, for example argv[0], or null for no fourth path. If `extra` has
+/// no directory, the fourth path is "/" and `name`. Returns `name` if no path exists, so open the
+/// result to find out.
 std::string searchpath(std::string const& name, char const* extra);
 
-/// Convert "/" to the separator of the system, and back. Both return the text unchanged, because
-/// the separator is "/" on the supported systems. They exist because callers use their names.
+/// Return `path` unchanged, because the separator is "/" on the supported systems. Elsewhere, the
+/// first would convert each "/" to the separator of the system, and the second would convert it
+/// back. Callers depend on both names.
 std::string delimconvert(std::string const& path);
 std::string deliminvert(std::string const& path);
 

@@ -1,12 +1,26 @@
 // SPDX-License-Identifier: MIT
-// An owning pointer to an object of a polymorphic class.
+// A pointer that owns one object.
 #pragma once
 
 #include <utility>
 
 namespace libutils {
 
-/// Owns an object, or is null. The class needs a virtual destructor. The pointer can't be copied.
+/// Owns one object that was created with `new`, or is null.
+///
+/// ```cpp
+/// #include <string>
+///
+/// libutils::ptr_t<std::string> text;  // null
+/// text = new std::string("a");        // becomes the owner
+/// std::size_t const length = text->size();
+/// text.free();  // destroys the object, as the end of the block would
+/// ```
+///
+/// There is no constructor with an object. The pointer can't be copied, moved or returned from a
+/// function, and it never gives up its object. Use std::unique_ptr to transfer an object.
+///
+/// T needs a virtual destructor if the object is of a class derived from T.
 template <typename T>
 class ptr_t {
   public:
@@ -15,7 +29,8 @@ class ptr_t {
     ptr_t& operator=(ptr_t const&) = delete;
     ~ptr_t() { free(); }
 
-    /// Destroys the object and becomes the owner of `object`, which may be null.
+    /// Destroys the old object and becomes the owner of `object`, which may be null. Does nothing
+    /// if it owns `object` already.
     ptr_t& operator=(T* object) {
         if (object != m_object) {
             free();

@@ -29,7 +29,7 @@ class refobject {
     }
 
     /// Replaces the object by a new one, which isn't shared. Passes `arguments` to its constructor.
-    /// Throws std::bad_alloc, or what the constructor throws. The pointer is then unchanged.
+    /// Throws std::bad_alloc or the exceptions of the constructor. The pointer is then unchanged.
     template <typename... Arguments>
     T& create(Arguments&&... arguments) {
         record_t* const record = new record_t{1, T(std::forward<Arguments>(arguments)...)};

@@ -15,12 +15,12 @@ namespace libutils {
 
 /// A handle on a shared array of T. The header of the array and its elements are in one allocation.
 ///
-/// Handles share an array only by assignment. `resize` gives the handle its own copy. All handles
-/// on an array must be used by one thread.
+/// Handles share an array only by assignment: `b = a`. `resize` makes a copy for one handle. One
+/// thread must use all handles on an array.
 ///
-/// Don't loop with `size` or `end`; use `count`. They keep their odd meaning, and the virtual
-/// functions their order, because existing users depend on them. Colour palettes store their own
-/// number of elements.
+/// `count` is the number of elements. `size` is a number of bytes, and `end` isn't the end of the
+/// elements: don't use them in a loop. Callers depend on the results of both, and on the order of
+/// the virtual functions.
 template <typename T, typename A>
 class refvector {
     static_assert(std::is_trivially_copyable_v<T>, "elements are copied as bytes");

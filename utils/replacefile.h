@@ -21,7 +21,11 @@ namespace libutils {
 /// synced in any case.
 ///
 /// Returns false and sets errno on failure. `path` is then unchanged, and the new file is removed.
-/// SIGHUP, SIGINT and SIGTERM are blocked during the call.
+/// Prints nothing and records no reason; utils/diagnostics.h has an example with the reason.
+///
+/// SIGHUP, SIGINT and SIGTERM are blocked in the calling thread during the call, so that they don't
+/// leave the new file. Two threads must not call the function at the same time, because both use
+/// one counter for the names of new files.
 bool replace_file(std::string const& path, std::string_view bytes);
 
 /// Returns the target of the symbolic link at `path`, or `path` if it isn't a link. A relative

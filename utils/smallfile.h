@@ -15,9 +15,21 @@ enum class small_file_t {
 
 /// Reads all bytes of the regular file at `path` into `buffer`, without a NUL at the end.
 ///
-/// Prints the line of `report_limit` for `TOO_LONG`, and nothing for `UNREADABLE`. In both cases
-/// the content of `buffer` is undefined. For `UNREADABLE`, errno is set if a system call failed. It
-/// is unchanged if the file isn't regular or became shorter.
+/// ```cpp
+/// #include <cerrno>
+/// #include "utils/diagnostics.h"
+///
+/// std::vector<char> text;
+/// errno = 0;
+/// if (libutils::read_small_file(text, "a.txt") == libutils::small_file_t::UNREADABLE) {
+///     libutils::reject_errno(errno);  // `failure_reason` is then "No such file or directory"
+/// }
+/// ```
+///
+/// `TOO_LONG` prints the line of `report_limit` and records a reason. `UNREADABLE` does neither. It
+/// sets errno only if a system call failed, so not for a file that isn't regular or that becomes
+/// shorter during the call. The content of `buffer` is undefined for both results. The function has
+/// the same threads as `reject`; see utils/diagnostics.h.
 small_file_t read_small_file(std::vector<char>& buffer, char const* path);
 
 }  // namespace libutils

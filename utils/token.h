@@ -10,25 +10,25 @@
 namespace libutils {
 
 /// Splits `text` at each character that is in `delimiters`, and at each NUL. Appends the pieces to
-/// `out`. Empty pieces are kept, except for an empty last one.
+/// `out`. Empty pieces are kept, but not an empty last piece: "a,,b," gives "a", "" and "b".
 void separate_token(std::list<std::string>& out, std::string const& text, char const* delimiters);
 
-/// Splits `text` at the first `delimiter`. Returns false, and doesn't change `out`, if there is
-/// none.
+/// Sets `out` to the text before and the text after the first `delimiter`: "k" and "a=b" for
+/// "k=a=b" and '='. Returns false if `text` doesn't contain the delimiter. `out` is then unchanged.
 bool separate_first_token(std::pair<std::string, std::string>& out, std::string const& text,
                           char delimiter);
 
-/// Sets `out` to the tokens, with `separator` between them.
+/// Sets `out` to one text: all tokens with `separator` between each two. `tokens` doesn't change.
 void concatenate_token(std::string& out, std::list<std::string>& tokens, char const* separator);
 
-/// Sets `out` to the strings of `in`.
+/// Replaces the strings of `out` by copies of the strings of `in`, which doesn't change.
 void copy(std::vector<std::string>& out, std::list<std::string>& in);
 
-/// Appends the strings of `in` to `out`.
+/// Appends copies of the strings of `in` to `out`.
 void cat(std::vector<std::string>& out, std::list<std::string> const& in);
 
 /// Sets `out` to the addresses of the strings of `in`, without a null pointer at the end. They are
-/// valid until a string changes.
+/// valid until a string changes or is destroyed.
 void makecharptrarray(std::vector<char const*>& out, std::list<std::string> const& in);
 
 /// Removes all CR and LF at the end.
