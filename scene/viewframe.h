@@ -35,10 +35,10 @@ enum e_frametype_t : unsigned int {
 ///
 /// `make_graph` of a bump-mapped look creates new programs for all frames. The old ones can't be
 /// deleted afterwards. `free_graph` deletes the current programs, even if other frames need them.
-/// Then OpenGL reports GL_INVALID_OPERATION and draws only the pictures of these frames.
-/// `make_graph` of one frame repairs all. In a ViewScene, call `ViewScene::free_graph` and
-/// `ViewScene::make_graph`, which otherwise skips pictures that have their OpenGL objects. Frames
-/// without programs aren't affected. The textures are never deleted.
+/// Then OpenGL reports GL_INVALID_OPERATION for these frames and draws only their pictures.
+/// `make_graph` of one frame repairs all. In a ViewScene, call `ViewScene::free_graph` before
+/// `ViewScene::make_graph`, which skips pictures that have their OpenGL objects. Frames without
+/// programs aren't affected. The textures are never deleted.
 ///
 /// The bump-mapped looks use the first of these paths that the context supports:
 ///
@@ -56,7 +56,7 @@ enum e_frametype_t : unsigned int {
 ///   flower.bmp                  `init`        the frame of this look has no texture
 ///   bumpmapv.vp1, bumpmapf.fp1  `make_graph`  prints an error line, uses the next path
 ///
-/// If OpenGL is older than 2.0, the sides of the two textures must be powers of two.
+/// If OpenGL is older than 2.0, the sides of the two BMP pictures must be powers of two.
 class ViewFrame : public libgr::grObject3D {
   public:
     ViewFrame() = default;
