@@ -7,6 +7,11 @@
 
 namespace libgr {
 
+// Only `color3ub(ycbcrub_t)` clamps channels. No function converts between linear and sRGB values,
+// or multiplies by alpha: the caller defines the meaning of the numbers. No function converts
+// records of floats to bytes. Cast `std::clamp(v, 0.0f, 1.0f) * 255.0f + 0.5f` to unsigned char for
+// each one.
+
 /// Red, green and blue, each from 0 to 1.
 struct color3_t {
     float r, g, b;
@@ -46,7 +51,7 @@ struct color3b_t {
     signed char r, g, b;
 };
 
-/// Luma and two chroma values, each from 0 to 255. Chroma has an offset of 128, its value for gray.
+/// Luma and two chroma values, each from 0 to 255. See `ycbcrub` for their scale.
 struct ycbcrub_t {
     unsigned char y, cb, cr;
 };
@@ -92,10 +97,17 @@ constexpr color3a_t operator*(color3a_t const& c, float f) {
     return {c.r * f, c.g * f, c.b * f, c.a * f};
 }
 
-/// Converts with `matrix_rgb2ycbcr`. A chroma value of 1 is 127 above the offset of 128, so the
-/// chroma bytes of RGB colours are between 64 and 192.
+/// Converts with `matrix_rgb2ycbcr` (geometry/constants.h), and rounds to the nearest byte:
+///
+///   y         255 * luma              0 to 255
+///   cb, cr    128 + 127 * chroma      64 to 192, because chroma is -0.5 to 0.5
+///
+/// The scale is 127 because a signed byte has the symmetric range -127 to 127. JFIF uses the scale
+/// 255, so these bytes aren't those of a JPEG file.
 ycbcrub_t ycbcrub(color3ub_t c);
-/// Converts with `matrix_ycbcr2rgb`. Channels outside the range of 0 to 255 are clamped to it.
+/// Converts with `matrix_ycbcr2rgb`, the inverse of the above. Accepts all bytes, rounds to the
+/// nearest byte, and clamps channels to 0 to 255. Each channel of `color3ub(ycbcrub(c))` differs
+/// from `c` by at most 2.
 color3ub_t color3ub(ycbcrub_t c);
 
 }  // namespace libgr

@@ -15,6 +15,18 @@
 ///     return libgr::SpecializeToPos(libgr::Generalize(p) * m);
 /// }
 /// ```
+///
+/// Transforms a direction and the normal of a surface. Both have w = 0, so they aren't translated:
+///
+/// ```cpp
+/// #include "geometry/matrix.h"
+///
+/// void transform(libgr::direction3_t& d, libgr::direction3_t& n, libgr::matrix3w_t const& m) {
+///     libgr::vector3w_t const v = libgr::vector3w(d.x, d.y, d.z, 0) * m;
+///     d = {v.x, v.y, v.z};  // SpecializeToDir(v) would scale it to length 1
+///     n = libgr::SpecializeToDir(libgr::Invert(m) * libgr::vector3w(n.x, n.y, n.z, 0));
+/// }
+/// ```
 
 #include <bit>
 #include <cstddef>
@@ -41,7 +53,8 @@ struct matrix3w_t {
     constexpr vector3w_t& operator[](std::size_t r) { return rows[r]; }
     constexpr vector3w_t const& operator[](std::size_t r) const { return rows[r]; }
 
-    /// The address of 16 consecutive floats, starting with m[0][0].
+    /// Returns the address of the 16 floats, m[0][0] first. They belong to the matrix, and the
+    /// address is valid until the matrix is destroyed.
     float* data() { return &rows[0].x; }
     float const* data() const { return &rows[0].x; }
 
@@ -95,8 +108,11 @@ constexpr float Determinant(tmatrix_t<N, N> const& m) {
     }
 }
 
-/// Returns the inverse: the adjugate divided by the determinant. A singular matrix isn't detected;
-/// its inverse contains infinities or NaNs.
+/// Returns the inverse: the adjugate divided by the determinant. N must be at least 2.
+///
+/// A singular matrix isn't detected. If the determinant is 0, every element of the result is an
+/// infinity or NaN, so it is enough to test one element with std::isfinite. Rounding can make the
+/// determinant of a singular matrix nonzero. The result is then finite but meaningless.
 template <std::size_t N>
 constexpr tmatrix_t<N, N> Invert(tmatrix_t<N, N> const& m) {
     float const factor = 1.0f / Determinant<N>(m);
@@ -110,10 +126,10 @@ constexpr tmatrix_t<N, N> Invert(tmatrix_t<N, N> const& m) {
     return inverse;
 }
 
-/// Returns the determinant of all four rows. For a product of rotations, translations and one
-/// uniform scale it is the cube of the scale.
+/// Returns the determinant of the 4x4 matrix. The determinant of a product of rotations,
+/// translations and one scale that is equal on all axes is the cube of that scale.
 float Determinant(matrix3w_t const& m);
-/// Returns the inverse. The inverse of a singular matrix contains infinities or NaNs.
+/// Returns the inverse. See the template `Invert` for singular matrices.
 matrix3w_t Invert(matrix3w_t const& m);
 
 /// Returns a translation by `p`: the identity with `p` in row 3.

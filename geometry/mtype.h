@@ -16,7 +16,7 @@
 
 namespace libgr {
 
-/// The number of a value type.
+/// The number of a value type: its row in `mtype_table` and its alternative in `mtype_value_t`.
 enum e_mtype_t : std::uint32_t {
     MTYPE_FLOAT,
     MTYPE_POS3,
@@ -62,7 +62,7 @@ struct mtype_name_t {
     char const* name;
 };
 
-/// The names of all types. Row n is type n. The last row is an end mark with an empty name.
+/// The names of all types, in the order of their numbers, and a last row with an empty name.
 inline constexpr mtype_name_t mtype_table[] = {
     {MTYPE_FLOAT, "float"},
     {MTYPE_POS3, "pos3"},
@@ -104,12 +104,14 @@ inline constexpr mtype_name_t mtype_table[] = {
 };
 static_assert(std::size(mtype_table) == MTYPE_END + 1);
 
+/// The readers read at most this number of characters as a name.
 inline constexpr std::size_t max_mtype_name_length = 16;
 
-/// Returns the type of that name, or `MTYPE_END` if there is none. Upper and lower case differ.
+/// Returns the type with this name in `mtype_table`, or `MTYPE_END` if the name is unknown or
+/// empty. Case matters. `name` must not be null.
 e_mtype_t get_mtype(char const* name);
 
-/// A value of any type of the table. Alternative n has type n.
+/// A value of any type in `mtype_table`. `value.index()` is the number of its type.
 using mtype_value_t =
     std::variant<float, position3_t, direction3_t, position2_t, direction2_t, position2l_t,
                  direction2l_t, quaternion_t, rotation3_t, posture3w_t, polarpos3_t, angles3_t,
@@ -120,8 +122,8 @@ using mtype_value_t =
 static_assert(std::variant_size_v<mtype_value_t> == MTYPE_END);
 static_assert(std::is_trivially_copyable_v<mtype_value_t>);
 
-/// Reads and writes one value of the type that the text names. `value` is meaningless if `type` is
-/// `MTYPE_END`.
+/// A value whose type is read from text: see the second example in `geometry/textstream.h`. If
+/// `type` is `MTYPE_END`, the name was unknown or empty, and no value was read.
 struct mtype_reader {
     e_mtype_t type = MTYPE_END;
     mtype_value_t value;
@@ -134,7 +136,7 @@ consteval e_mtype_t find_mtype(std::variant<Ts...> const*) {
     return static_cast<e_mtype_t>(index);
 }
 
-/// The number of a value type, `MTYPE_END` for a type without a text form.
+/// The number of the type T, or `MTYPE_END` if T isn't in `mtype_table`.
 template <typename T>
 inline constexpr e_mtype_t mtype_of = find_mtype<T>(static_cast<mtype_value_t*>(nullptr));
 

@@ -15,24 +15,25 @@ struct rotation3_t {
     bool operator==(rotation3_t const&) const = default;
 };
 
-// The records up to `posture3w_t` have no arithmetic. They exist for the text form.
+// No function computes with the records from `quaternion_t` to `posture3w_t`: they are only written
+// and read as text. So the units, the signs and the order of their angles are the caller's choice.
 
 /// A quaternion with the scalar part `w`.
 struct quaternion_t {
     float x, y, z, w;
 };
 
-/// Angles or angular speeds about the three axes.
+/// Angles, or angular speeds, about the x, y and z axes.
 struct revolution3_t {
     float x, y, z;
 };
 
-/// Angles about the three axes.
+/// Angles about the x, y and z axes.
 struct angles3_t {
     float x, y, z;
 };
 
-/// A point in polar coordinates.
+/// A point in polar coordinates: two angles and a distance.
 struct polarpos3_t {
     float azimuth, elevation, distance;
 };
@@ -49,7 +50,7 @@ struct inertial3_t {
     straight3_t straight;
 };
 
-/// A pose: two rotations and a position.
+/// A position and two rotations. Its text can't be read back: see `read_value`.
 struct posture3w_t {
     revolution3_t turn1, turn2;
     position3_t position;
@@ -81,19 +82,30 @@ constexpr posture3w_t posture3w(revolution3_t const& turn1, revolution3_t const&
     return {turn1, turn2, position};
 }
 
-/// Returns the matrix that glRotatef(angle, x, y, z) multiplies by. For an axis of length 0 the
-/// result is the diagonal (cos(angle), cos(angle), cos(angle), 1), not the identity.
+/// Returns the matrix that glRotatef(angle, x, y, z) multiplies by. The axis should have a nonzero
+/// length. For an axis of length 0 the result is the diagonal (c, c, c, 1) with c = cos(angle).
 matrix3w_t getRotateMatrix(rotation3_t const& r);
 
-/// Returns the axis of the rotation in `m`, and HALF of its angle: 0 to 90 degrees. The command
-/// that turns a view upright depends on this: each use undoes half of the rotation that is left.
+/// Returns the axis of the rotation in `m`, and HALF of its angle. The rotation is
+/// `{2 * r.angle, r.axis}`. Callers depend on the half: each use of the command that turns a view
+/// upright undoes half of the remaining rotation. `m` must not contain a scale.
 ///
-/// `m` must have the scale 1. The axis is (0, 0, 0) if the upper left 3x3 matrix is symmetric, for
-/// example in the identity. The result is `Irot` if the trace doesn't belong to a rotation.
+///   rotation in `m`            angle       axis
+///   none                       0           (0, 0, 0)
+///   between 0 and 180 degrees  0 to 90     length 1
+///   180 degrees                90          (0, 0, 0), or a wrong axis because of rounding
+///   no valid trace             0           (0, 0, 1), which is `Irot`
+///
+/// For 180 degrees the axis is unknown. So test for an angle near 90 before you pass the result to
+/// `getRotateMatrix`. The trace is valid if m[0][0] + m[1][1] + m[2][2] is from -1 to 3. Rounding
+/// can make it invalid near 0 and near 180 degrees.
 rotation3_t getRotation3(matrix3w_t const& m);
 
-/// Returns the rotation from direction `a` to direction `b`, which both must have length 1. For
-/// parallel and for opposite directions the result is `Irot`.
+/// Returns the rotation that takes direction `a` to direction `b`. Both must have length 1.
+///
+/// Returns `Irot` if `a` and `b` are parallel, or opposite, because opposite directions have no
+/// unique axis: ScalarProduct(a, b) is then negative. The angle is NaN if rounding makes
+/// ScalarProduct(a, b) greater than 1 or less than -1.
 rotation3_t calcRotation3(direction3_t const& a, direction3_t const& b);
 
 /// Returns the rotation by the negated angle about the same axis.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Boxes, lines, planes, triangles and projections: records without arithmetic, for the text form.
+// Boxes, lines, planes, triangles and projections. Only their text form has functions.
 #pragma once
 
 #include "geometry/matrix.h"
@@ -7,12 +7,12 @@
 
 namespace libgr {
 
-/// Two opposite corners of a rectangle.
+/// Two opposite corners of a rectangle, in any order.
 struct box2_t {
     position2_t p0, p1;
 };
 
-/// Two opposite corners of a box.
+/// Two opposite corners of a box, in any order.
 struct box3_t {
     position3_t p0, p1;
 };
@@ -27,23 +27,23 @@ struct dim3_t {
     unsigned long x, y, z;
 };
 
-/// The plane ax + by + cz + d = 0.
+/// The plane ax + by + cz + d = 0 with the normal (a, b, c), of any length.
 struct surface_t {
     float a, b, c, d;
 };
 
-/// The line ax + by + c = 0.
+/// The line ax + by + c = 0 in two dimensions.
 struct line2d_t {
     float a, b, c;
 };
 
-/// A line and two transformations.
+/// The direction of a line in three dimensions, and two transformations that the caller defines.
 struct line3d_t {
     direction3_t direction;
     matrix3w_t transform1, transform2;
 };
 
-/// A triangle and the values derived from it.
+/// A triangle, and values that the caller computes from its corners. Its text can't be read.
 struct triangle_t {
     matrix3w_t matrix;
     surface_t surface;

@@ -2,7 +2,7 @@
 // The text form of the value types: the name of the type and its numbers in parentheses.
 #pragma once
 
-/// Writes a size and a matrix to a file and reads them back:
+/// Writes a size and a matrix to a file and reads them back, rounded to 6 decimals:
 ///
 /// ```cpp
 /// #include <fstream>
@@ -16,7 +16,27 @@
 /// }
 /// ```
 ///
-/// The names of the types are in `mtype_table` in `geometry/mtype.h`.
+/// Copies values of any types, one per line. Without std::ws, a line end would be read as an empty
+/// name. Values are separated by blanks or line ends, not by commas.
+///
+/// ```cpp
+/// #include <iostream>
+///
+/// #include "geometry/textstream.h"
+///
+/// bool copy_values(std::istream& in, std::ostream& out) {
+///     libgr::mtype_reader reader;
+///     while (in >> std::ws >> reader) {
+///         if (reader.type != libgr::MTYPE_END) {  // false for an unknown name
+///             libgr::write_value(out, reader.value) << "\n";
+///         }
+///     }
+///     return reader.type == libgr::MTYPE_END;  // false after a bad number or a cut value
+/// }
+/// ```
+///
+/// The names of the types are in `mtype_table` in `geometry/mtype.h`. A stream must not be used by
+/// two threads at the same time. No function prints a message.
 
 #include <iosfwd>
 
@@ -24,30 +44,37 @@
 
 namespace libgr {
 
-/// A type of the type table. A float isn't included: the standard library has its operators.
+/// True for the types in `mtype_table`, except float. The standard library has operators for float.
 template <typename T>
 concept has_text_form = (mtype_of<T> < MTYPE_END) && (mtype_of<T> != MTYPE_FLOAT);
 
-/// Writes the name of the type, "(", the fields separated by ", ", and ")". Writes no line end.
+/// Writes the name of the type, "(", the fields in the order of their declaration with ", " between
+/// them, and ")". Writes no line end. A record within a record has its own name, and a matrix takes
+/// four lines. Example: `rot3(90.000000, dir3(0.000000, 0.000000, 1.000000))`.
 ///
-/// Example: `rot3(90.000000, dir3(0.000000, 0.000000, 1.000000))`. Floats are written in fixed
-/// notation with the precision of the stream. A nested record is written with its own name, a
-/// matrix in four lines. The format flags of the stream don't change.
+/// Floats have fixed notation and the precision of the stream. The default is 6 decimals, so values
+/// are rounded to 0.000001. `out << std::setprecision(149)` writes every float without loss.
+/// Infinities and NaNs can be written but not read. The format flags of the stream don't change.
 ///
-/// The channels of a byte colour are written as characters, each after a "0", and not as numbers.
-/// Existing text depends on this form. It isn't meant to be read back.
+/// The channels of a byte colour are written as characters, each after a "0", and can't be read
+/// back. Existing text depends on this form. To write numbers, convert it: `color3a(c)`.
 std::ostream& write_value(std::ostream& out, mtype_value_t const& value);
 
-/// Reads a value of the type of `value`'s current alternative.
+/// Reads the fields of the type that `value` contains. Skips all characters before "(", including
+/// the name, which isn't checked. The separator of two fields is any one character. Blanks are
+/// skipped.
 ///
-/// The reader skips all characters before "(", including the name of the type. A separator may be
-/// any one character. The ")" is optional. Blanks between these items are ignored. The name of a
-/// nested record is checked, and reading ends at a wrong name, without failbit. A `pst3w` can't be
-/// read back: its reader expects the name `rot3`, while its writer writes `rev3`. Existing text
-/// depends on both names.
+///   text                         failbit    fields of `value`
+///   no "("                       set        unchanged; the stream is at its end
+///   bad number, end of stream    set        changed only before that number
+///   wrong name within a record   not set    changed only before that name; reading stops after it
+///   no ")" after the last field  not set    all changed
 ///
-/// If a number can't be parsed, or the stream ends, failbit is set. The fields before that number
-/// are stored, the others keep their values. An `irt3` or a `pst3w` is stored only as a whole.
+/// An `irt3` or a `pst3w` changes only as a whole. A float is read between any two characters,
+/// which must both exist. To go on after a bad number, use in.clear() and in.ignore(n, '\n').
+///
+/// A `pst3w` can't be read back: the reader expects the names `rot3`, `rot3` and `pos3`, but the
+/// writer writes `rev3` for `rot3`. Existing text depends on both.
 void read_value(std::istream& in, mtype_value_t& value);
 
 template <has_text_form T>
@@ -63,25 +90,33 @@ std::istream& operator>>(std::istream& in, T& value) {
     return in;
 }
 
-/// Writes labelled lines for debug output. There is no reader.
+/// Writes lines with labels, for debug output.
 std::ostream& operator<<(std::ostream& out, triangle_t const& value);
 
-/// Writes the name of the type, without a line end. For a value without a name, writes "no type",
-/// "table error" or "range over", with a line end.
+/// Writes the name of the type without a line end. Writes "no type" for `MTYPE_END`, and
+/// "range over" for greater numbers, with a line end.
 std::ostream& operator<<(std::ostream& out, e_mtype_t type);
 
-/// Reads the name of a type. The name ends before "(", ")", ",", a tab, a line end or a NUL, or
-/// after 16 characters. Blanks are skipped, even inside the name. An unknown name gives
-/// `MTYPE_END`. The flag skipws of the stream is set afterwards. An empty name at the end of the
-/// stream sets failbit.
+/// Reads the name of a type. Skips spaces, even within the name. The name ends after 16 characters,
+/// or before a parenthesis, a comma, a tab, a line end, a NUL or the end of the stream. So it is
+/// empty if a tab or a line end precedes it: use `in >> std::ws >> type`.
+///
+/// `type` is `MTYPE_END` after an unknown or empty name. Only an empty name at the end of the
+/// stream sets failbit. The function sets the flag skipws of the stream.
 std::istream& operator>>(std::istream& in, e_mtype_t& type);
 
-/// Writes the value with the writer of its type. Writes nothing for the types `box2`, `box3`,
-/// `dim2`, `dim3`, `surface`, `line2d`, `line3d` and `MTYPE_END`. Existing output depends on this.
+/// Writes `reader.value` with `write_value`. Writes nothing if `reader.type` is `MTYPE_END` or
+/// isn't the type of the value, or is `box2`, `box3`, `dim2`, `dim3`, `surface`, `line2d` or
+/// `line3d`. Existing output depends on this. For these types, use `write_value`.
 std::ostream& operator<<(std::ostream& out, mtype_reader const& reader);
 
-/// Reads the name of a type and a value of that type. After an unknown name, skips the text up to
-/// and including the next ")".
+/// Reads the name of a type into `reader.type`, and with `read_value` a value of this type into
+/// `reader.value`. If the previous value had another type, all fields are 0 before they are read.
+/// After a failed read of the value, `reader.type` is still its type.
+///
+/// After an unknown or empty name, the type is `MTYPE_END`, the value is unchanged, and the text up
+/// to and including the next ")" is skipped. Failbit is set if there is no ")". An unknown
+/// value that contains other values takes several reads, each with the type `MTYPE_END`.
 std::istream& operator>>(std::istream& in, mtype_reader& reader);
 
 }  // namespace libgr

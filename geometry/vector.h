@@ -12,15 +12,18 @@
 
 namespace libgr {
 
-// All types of this folder are plain records. `direction3(x, y, z)` returns a `direction3_t`, and
-// so on for most types. Except for the text form, no function allocates memory, throws, or fails.
-// None needs an OpenGL context. The suffixes of the names are:
+// The types of this library are plain records. For most types, the function of the same name
+// without `_t` returns a record: `direction3(x, y, z)` returns a `direction3_t`. The suffixes are:
 //
 //   2, 3     number of dimensions               l, ul    32-bit integers, signed or unsigned
 //   w, q     with a homogeneous coordinate      s        16-bit integers
 //   a        with alpha                         b, ub    bytes, signed or unsigned
 //
-// Components without a suffix for their type are floats.
+// Types without l, ul, s, b or ub contain floats. The exceptions are `dim2_t` and `dim3_t`
+// (unsigned long) and `projection_t` (double).
+//
+// All functions may be called from any thread. None needs an OpenGL context or keeps the address of
+// an argument. None allocates memory, throws or fails, except those in `geometry/textstream.h`.
 
 using libutils::max2;
 using libutils::min2;
@@ -37,13 +40,14 @@ struct direction2_t {
     bool operator==(direction2_t const&) const = default;
 };
 
-/// A point in pixels.
+/// A point in pixels or in screen coordinates. The record defines no origin and no direction of y:
+/// see the function that takes or returns the point.
 struct position2l_t {
     std::int32_t x, y;
     bool operator==(position2l_t const&) const = default;
 };
 
-/// A size or an offset in pixels.
+/// A size or an offset in pixels or in screen coordinates.
 struct direction2l_t {
     std::int32_t x, y;
     bool operator==(direction2l_t const&) const = default;
@@ -194,8 +198,8 @@ constexpr direction2l_t direction2l(direction2_t v) {
 /// The largest difference between two floats that `compare` treats as equal.
 inline constexpr float COMPARE_THRESHOLD = 1e-05f;
 
-/// Returns 0 if the difference is at most `COMPARE_THRESHOLD`, otherwise -1 if `a` is less than
-/// `b`, and 1 if it is not. The result is never 0 if one of them is NaN.
+/// Returns 0 if `a` and `b` differ by at most `COMPARE_THRESHOLD`. Otherwise returns -1 if `a` is
+/// less than `b`, else 1. Returns 1 if `a` or `b` is NaN, and for two equal infinities.
 inline int compare(float a, float b) {
     float const difference = a - b;
     if (std::fabs(difference) <= COMPARE_THRESHOLD) {
@@ -217,13 +221,13 @@ constexpr direction2_t operator/(float f, direction2_t v) {
     return {f / v.x, f / v.y};
 }
 
-/// Divides component by component. The quotient of equal components is exactly 1, even 0 / 0: the
-/// scale of an empty picture in an empty window is 1.
+/// Divides component by component. The quotient of equal components is 1, even for 0 / 0, so that
+/// the scale of an empty picture in an empty window is 1.
 constexpr direction2_t operator/(direction2_t a, direction2_t b) {
     return {a.x == b.x ? 1.0f : a.x / b.x, a.y == b.y ? 1.0f : a.y / b.y};
 }
 
-/// Returns true if both components equal `n`. So `v != n` is true if either component differs.
+/// Returns true if both components are equal to `n`. `v != n` is true if at least one differs.
 constexpr bool operator==(direction2l_t v, int n) {
     return v.x == n && v.y == n;
 }
@@ -272,7 +276,7 @@ inline float Length(direction3_t const& v) {
     return std::sqrt(ScalarProduct(v, v));
 }
 
-/// Returns the vector scaled to length 1. The result for a vector of length 0 is (0, 0, 0).
+/// Returns `v` scaled to length 1, or (0, 0, 0) if the length of `v` is 0.
 inline direction3_t Normalize(direction3_t const& v) {
     float const length = Length(v);
     return length == 0.0f ? direction3_t{} : v * (1.0f / length);
@@ -290,7 +294,8 @@ inline vector3w_t Normalize(vector3w_t const& v) {
 constexpr direction3_t CrossProduct(direction3_t const& a, direction3_t const& b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
-/// Returns (p1 - p0) x (p2 - p1), the normal of a triangle with counter-clockwise corners.
+/// Returns (p1 - p0) x (p2 - p1), a normal of the triangle. It points to the side from which the
+/// corners are counter-clockwise.
 constexpr direction3_t CrossProduct(position3_t const& p0, position3_t const& p1,
                                     position3_t const& p2) {
     return CrossProduct(p1 - p0, p2 - p1);
@@ -320,16 +325,17 @@ constexpr vector3w_t Generalize(position3_t const& p) {
 constexpr position3_t SpecializeToPos(vector3w_t const& v) {
     return v.w == 0.0f ? position3(v.x, v.y, v.z) : position3(v.x / v.w, v.y / v.w, v.z / v.w);
 }
-/// Returns (x, y, z) scaled to length 1. The value of w is ignored.
+/// Returns (x, y, z) scaled to length 1. Ignores w.
 inline direction3_t SpecializeToDir(vector3w_t const& v) {
     return Normalize(direction3(v.x, v.y, v.z));
 }
 
-/// Truncates `c` towards zero to a multiple of `q`.
+/// Returns `c` rounded towards zero to a multiple of `q`, or NaN if `q` is 0. The factor 1 / `q` is
+/// a rounded float, so a multiple of `q` can become the one before it: (41, 41) returns 0.
 inline float round_to_quotient(float c, float q) {
     return std::trunc(c * (1.0f / q)) * q;
 }
-/// Rounds `c` up, towards positive infinity, to a multiple of `q`, which must be positive.
+/// Returns `c` rounded towards positive infinity to a multiple of `q`, which must be positive.
 inline float roundup_to_quotient(float c, float q) {
     float const r = round_to_quotient(c, q);
     return r < c ? r + q : r;
