@@ -9,8 +9,8 @@ namespace libgr {
 
 // Only `color3ub(ycbcrub_t)` clamps channels. No function converts between linear and sRGB values,
 // or multiplies by alpha: the caller defines the meaning of the numbers. No function converts
-// records of floats to bytes. Cast `std::clamp(v, 0.0f, 1.0f) * 255.0f + 0.5f` to unsigned char for
-// each one.
+// float channels to bytes. For a channel `v`, cast `std::clamp(v, 0.0f, 1.0f) * 255.0f + 0.5f` to
+// unsigned char.
 
 /// Red, green and blue, each from 0 to 1.
 struct color3_t {

@@ -57,7 +57,8 @@ concept has_text_form = (mtype_of<T> < MTYPE_END) && (mtype_of<T> != MTYPE_FLOAT
 /// Infinities and NaNs can be written but not read. The format flags of the stream don't change.
 ///
 /// The channels of a byte colour are written as characters, each after a "0", and can't be read
-/// back. Existing text depends on this form. To write numbers, convert it: `color3a(c)`.
+/// back. Existing text depends on this form. To write numbers, convert a `color3aub_t` to a
+/// `color3a_t` with `color3a`.
 std::ostream& write_value(std::ostream& out, mtype_value_t const& value);
 
 /// Reads the fields of the type that `value` contains. Skips all characters before "(", including
