@@ -31,7 +31,7 @@
 /// note isn't an error. Existing files depend on these rules.
 ///
 ///   Part          Errors
-///   payload       it doesn't begin with "Exif" and a NUL (prints nothing)
+///   payload       it doesn't begin with "Exif" and a NUL
 ///   TIFF header   less than 8 bytes, neither "II" nor "MM", or no number 42
 ///   0th IFD       the first 8 bytes of an entry aren't inside the block; a value of more than
 ///                 4 bytes begins after the block (if it only ends there, it is skipped or cut)
@@ -67,11 +67,12 @@ namespace libgr {
 inline constexpr unsigned int exiftypesize[14] = {0, 1, 1, 2, 4, 8, 0, 1, 2, 4, 8, 0, 0, 4};
 
 /// A parser for the payload of an APP1 segment: the bytes after the segment's length field (Exif
-/// 2.32, CIPA DC-008). It never reads bytes outside the payload, even if the payload is damaged.
+/// 2.32). It never reads bytes outside the payload, even if the payload is damaged.
 ///
-/// A function that fails returns false and prints at most one line on the error stream. The line
-/// doesn't contain the name of the file. It is also recorded; see utils/diagnostics.h. The records
-/// keep the values that were read before the failure, until `clear`.
+/// A function that fails returns false and prints one line on the error stream (nothing if the
+/// payload isn't Exif, and for some errors in makers' notes). The line doesn't contain the name of
+/// the file. It is also recorded; see utils/diagnostics.h. The records keep the values that were
+/// read before the failure, until `clear`.
 ///
 /// Objects can be moved, but not copied. For threads, see `jpeg_bytes_t` in metadata/jpegcursor.h.
 class app1_marker_t : public jpeg_bytes_t {
@@ -133,8 +134,7 @@ class app1_marker_t : public jpeg_bytes_t {
         // the start of `note`, or of the TIFF block if there is no `note`. Each function stores the
         // values in the record of its kind. It returns false if the IFD is invalid, or if
         // `byteorder` is null. `parse_0th_ifd` also reads the Exif IFD and the maker's note.
-        // `parse_1st_ifd` sets `thumbnail` and always returns true. `parse_gps_ifd` only returns
-        // true.
+        // `parse_1st_ifd` sets `thumbnail` and always returns true. `parse_gps_ifd` does nothing.
 
         bool parse_0th_ifd(jpeg_bytes_t const& ifd);
         bool parse_exif_ifd(jpeg_bytes_t const& ifd);
@@ -161,7 +161,7 @@ class app1_marker_t : public jpeg_bytes_t {
     /// viewer then ignores an orientation that was read before the error.
     bool parse();
 
-    /// Empties this object, all views and all records, as if the object were new.
+    /// Empties this object, all views and all records.
     void clear() override;
 };
 

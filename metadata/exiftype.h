@@ -46,7 +46,7 @@ class ExifType {
         std::string ImageDescription;
         std::string Make;
         std::string Model;
-        short_t Orientation;      ///< 1 to 8 in a valid file
+        short_t Orientation;      ///< see metadata/exif.h
         rationals_t XResolution;  ///< pixels per ResolutionUnit
         rationals_t YResolution;  ///< pixels per ResolutionUnit
         short_t ResolutionUnit;   ///< 2: inch, 3: centimetre
@@ -68,7 +68,7 @@ class ExifType {
         long_t ISOSpeed;
         std::string DateTimeOriginal;    ///< "YYYY:MM:DD HH:MM:SS"; empty if not 20 bytes
         std::string DateTimeDigitized;   ///< "YYYY:MM:DD HH:MM:SS"; empty if not 20 bytes
-        rationals_t ApertureValue;       ///< APEX: the f-number is 2 to the power of value / 2
+        rationals_t ApertureValue;       ///< APEX: the f-number is 2^(value / 2)
         srationals_t ExposureBiasValue;  ///< APEX: steps of exposure (EV)
         rationals_t MaxApertureValue;    ///< APEX, as ApertureValue
         short_t MeteringMode;

@@ -31,10 +31,9 @@ unsigned int long_at(jpeg_bytes_t const& source, std::uint64_t at,
                      libutils::byteorder const& order);
 
 /// Returns the size, in bytes, of an IFD with `n` entries, without the offset of the next IFD. This
-/// is also the offset of entry `n` in the IFD.
-///
-/// An IFD is a 16-bit count of entries and 12 bytes for each entry: the tag (16 bits), the type
-/// (16), the number of values (32), and the value or its offset (32). See TIFF 6.0, section 2.
+/// is also the offset of entry `n`. An IFD is a 16-bit count of entries and 12 bytes for each
+/// entry: the tag (16 bits), the type (16), the number of values (32), and the value or its offset
+/// (32). See TIFF 6.0, section 2.
 constexpr std::size_t ifd_size(std::size_t n) {
     return 2 + 12 * n;
 }
@@ -68,11 +67,10 @@ struct ifd_rules_t {
     bool skips_outside_values = false;  ///< skips a value outside the base instead of failing
 };
 
-/// An entry of an IFD.
 struct ifd_entry_t {
     unsigned short tag;
-    /// Bytes: the number of values times the size of the type. The product wraps at 2^32. The
-    /// checks use it, so with a product of 64 bits, they would reject files that are valid now.
+    /// Bytes: the number of values times the size of the type, modulo 2^32. With a product of
+    /// 64 bits, the checks would reject files that are valid now.
     unsigned int size;
 
     jpeg_bytes_t value;  ///< the bytes of the value that the file has, at most `size`

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Views of the bytes of JPEG data, the numbers of marker segments, and a cursor over entropy-coded
-// bytes.
+// Views of JPEG data, numbers of marker segments, and a cursor over entropy-coded bytes.
 #pragma once
 
 /// Copies a buffer to a view for the parsers of this folder:

@@ -16,8 +16,8 @@
 /// }
 /// ```
 ///
-/// The payload is the bytes after the segment's length field (ITU-T T.81, B.2). The caller has to
-/// find the segments in the file, as in examples/jpegtool.cpp.
+/// The payload is the bytes after the segment's length field (ITU-T T.81, B.2). For a function that
+/// finds the segments in a file, see examples/jpegtool.cpp.
 
 #include <array>
 #include <vector>
@@ -37,11 +37,11 @@ namespace libgr {
 //   clear()                  Releases the payload and resets the fields.
 //
 // If a file has several DQT or DHT segments, call set_..._buffer and parse of one object for each
-// segment. A new table replaces the table with the same destination. Other tables are kept until
-// `clear`. Call `clear` before the next file.
+// segment. A new table replaces the table with the same destination. Call `clear` before the next
+// file, because the other tables are kept.
 //
-// The parsers are intended for tools. The decoder of the viewer doesn't use them and accepts more
-// files. Payloads that end early are invalid, and also these:
+// The parsers are intended for tools. The decoder of the viewer accepts more files. Payloads that
+// end early are invalid, and also these:
 //
 //   Segment (code)  Invalid
 //   SOF0 (0xC0)     precision other than 8 bits; sampling factor 0, or not a divisor of the largest
