@@ -17,30 +17,31 @@ struct bmpimage_t {
 
     /// Reads the file without its palette.
     ///
-    /// Returns false without a message if the file cannot be opened, does not begin with "BM", or
-    /// ends before its pixels. Returns false with a line on std::cerr if the pixels exceed the
-    /// limit picture-memory (utils/limits.h). The height is read as unsigned, so a file with the
-    /// top row first (negative height) usually exceeds this limit. Returns true for a file that
-    /// ends within its pixels; the missing bytes are 0 and use no memory until they are read or
-    /// written.
+    /// Returns false without a line on std::cerr if the file cannot be opened, does not begin with
+    /// "BM", or ends before its pixels. Returns false with a line if the pixels exceed the limit
+    /// picture-memory (utils/limits.h), or for most files with the top row first (see `biHeight`).
+    /// Returns true for a file that ends within its pixels; the missing bytes are 0.
     ///
-    /// The bits of a row are rounded down to whole bytes. If a row has fewer than 8 bits, for
-    /// example 7 pixels of 1 bit, `pixels` becomes empty and the function returns true.
+    /// The size of a row is rounded down to bytes before the padding is added, which callers
+    /// depend on. This distorts some pictures of 1 or 4 bits per pixel. If a row has fewer than 8
+    /// bits, `pixels` becomes empty and the function returns true.
     bool load(char const* path, libutils::android_app* app);
 
-    /// Sets the remaining header fields and writes headers and pixels, without a palette. Returns
-    /// false if the file cannot be opened or written. Truncates an existing file.
+    /// Writes the headers and the pixels, without a palette. Sets the fields of `fileheader`, and
+    /// `biSize`. Returns false without a line on std::cerr if the file cannot be opened or written,
+    /// or would exceed 4 GiB. Truncates an existing file.
     bool save(char const* path, libutils::android_app* app);
 };
 
-/// Makes a picture that shares the pixels. Indices of a palette become levels of gray. Returns
-/// false for compressed files, and for depths other than 1, 4, 8 and 24 bits.
+/// Makes a picture that shares the pixels: a change of one is visible in the other. Indices of a
+/// palette become levels of gray. Returns false without a line on std::cerr for compressed files,
+/// and for depths other than 1, 4, 8 and 24 bits.
 bool convert(image2d_t& image, bmpimage_t const& bmp);
 
-/// Makes a BMP that shares the pixels, which are not converted. The rows must be padded to 4 bytes,
-/// and the window is ignored. Accepts integer pictures of GRAYSCALE with 1, 4 and 8 bits and of BGR
-/// with 8 bits. For other formats, returns false and prints a line on std::cerr. For compressed
-/// data, returns false without a line.
+/// Makes a BMP that shares the pixels. The rows must be padded to 4 bytes, which is not checked.
+/// The window is ignored. Accepts integer pictures of GRAYSCALE with 1, 4 and 8 bits and of BGR
+/// with 8 bits. Returns false with a line on std::cerr for other formats, and without a line and a
+/// reason for compressed data.
 bool convert(bmpimage_t& bmp, image2d_t const& image);
 
 /// The codec that uses bmpimage_t.

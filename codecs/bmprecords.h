@@ -20,8 +20,10 @@ struct tagBITMAPFILEHEADER {
 /// The 40 bytes after the file header.
 struct tagBITMAPINFOHEADER {
     std::uint32_t biSize;
-    std::uint32_t biWidth;   ///< pixels
-    std::uint32_t biHeight;  ///< rows, bottom row first; unsigned here
+    std::uint32_t biWidth;  ///< pixels
+    /// Rows, bottom row first. A file with the top row first has a negative height, which is read
+    /// as unsigned, so that the size of its pixels is usually rejected.
+    std::uint32_t biHeight;
     std::uint16_t biPlanes;
     std::uint16_t biBitCount;     ///< bits per pixel
     std::uint32_t biCompression;  ///< 0: none, the only supported value

@@ -6,8 +6,8 @@
 
 namespace libgr {
 
-/// The base class of the codecs. Make a new object for each file. To keep the markers of a JPEG,
-/// save with the object that loaded it.
+/// The base class of the codecs. Make a new object for each file, because a new load does not reset
+/// `rightrotatecount`. To keep the markers of a JPEG, save with the object that loaded it.
 ///
 /// ```cpp
 /// #include <iostream>
@@ -21,50 +21,69 @@ namespace libgr {
 /// if (codec.load(picture, "photo.png")) {
 ///     std::cout << picture.m_width << "x" << picture.m_height << " pixels\n";
 /// } else {
-///     std::cout << "not loaded: " << libutils::failure_reason() << "\n";
+///     std::cout << "not loaded: " << libutils::putname(libutils::failure_reason()) << "\n";
 /// }
 /// ```
 ///
-/// The codecs:
-/// - image_jpeg1_t (codecs/jpegobject.h) reads JPEG in gray, YCbCr and RGB, but not CMYK. It
-///   delivers GRAYSCALE or RGB with 8 bits, and writes these two and YCbCr.
-/// - image_png_t (codecs/png.h) reads PNG of all colour types and depths, and delivers the pixel
-///   layout of the file. It writes the same formats without palettes.
-/// - image_bmp2_t (codecs/bmpimage2.h) is the usual BMP reader. It reads uncompressed BMP of 1, 4,
-///   8, 24 and 32 bits. It delivers INDEX or GRAYSCALE up to 8 bits, BGR or BGRA. It does not
-///   write.
-/// - image_bmp_t (codecs/bmpimage.h) is the BMP writer. It writes GRAYSCALE and BGR. It also reads
-///   uncompressed BMP of 1, 4, 8 and 24 bits, but ignores palettes.
-/// - image_tga_t (codecs/tga.h) reads uncompressed TGA of 8, 16, 24 and 32 bits with padded rows.
-///   It delivers GRAYSCALE, BGR or BGRA, and writes RGB and RGBA.
+/// The codecs, and the formats that they load and save, with 8 bits per component unless the header
+/// of the codec says otherwise:
 ///
-/// The function BmpLoad (codecs/bmpload.h) reads BMP files whose pixel format the caller knows.
+///   Codec          Header               Loads files with      Delivers            Saves
+///   image_jpeg1_t  codecs/jpegobject.h  gray, YCbCr, RGB      GRAYSCALE, RGB      these and YCbCr
+///   image_png_t    codecs/png.h         all types and depths  the file's layout   see there
+///   image_bmp2_t   codecs/bmpimage2.h   1, 4, 8, 24, 32 bits  see there           nothing
+///   image_bmp_t    codecs/bmpimage.h    1, 4, 8, 24 bits      GRAYSCALE, BGR      these
+///   image_tga_t    codecs/tga.h         8, 16, 24, 32 bits    see there           RGB, RGBA
+///
+/// Use image_bmp2_t to load BMP files, and image_bmp_t to save them. image_bmp_t ignores palettes.
+/// BMP and TGA files must be uncompressed. BmpLoad (codecs/bmpload.h) loads BMP files with a known
+/// pixel format.
+///
+/// The codecs deliver rows that are padded to 4 bytes. `save` accepts any padding, because it reads
+/// the store and the window of the image. But image_bmp_t, and image_tga_t for 16 bits, write the
+/// bytes without a check. For them the rows must be padded to 4 bytes, without a window. Otherwise
+/// the picture in the file is distorted.
 ///
 /// The codecs look at the bytes of a file, not at the extension of its name. To load a file of
-/// unknown format, try image_jpeg1_t, image_png_t, image_tga_t and image_bmp2_t in this order. The
-/// first two check the signature of the file, the others only check header fields.
+/// unknown format, try image_jpeg1_t, image_png_t, image_tga_t and image_bmp2_t in this order.
+/// Before each attempt, call `image.clear()` and `libutils::clear_failure_reason()`. Otherwise the
+/// reason of the first codec remains. image_tga_t precedes image_bmp2_t because image_bmp2_t does
+/// not check the signature and can accept a TGA. image_tga_t accepts no BMP, because a BMP has a 0
+/// in place of the depth. image_jpeg1_t prints lines on std::cerr for a file that is not a JPEG.
 ///
-/// The codecs need no GL context. Sizes in headers are checked before memory is allocated for them
-/// (docs/limits.md). Error lines go to std::cerr. The codecs, the pictures and the failure reason
-/// share static data without locks: use all of them from one thread.
+/// The functions of this library need no GL context. They check the sizes in headers before they
+/// allocate memory (docs/limits.md). Use all of them, and the pictures and the JPEG data, from one
+/// thread: they share static data without locks.
+///
+/// A function that reads picture data and fails records the reason (utils/diagnostics.h), also if
+/// it returns false without a line on std::cerr. A function that writes may record no reason, or a
+/// wrong one.
 class image_object_t {
   public:
-    /// Reads the file at `path` into `image`, bottom row first. Returns false if the picture cannot
-    /// be loaded; `libutils::failure_reason` returns the reason, and `image` may have been changed.
-    /// The image owns its bytes, or a share of the mapped file, and may outlive this object.
+    /// Reads the file at `path` into `image`, bottom row first. `image` must have no window, and a
+    /// null store or a store with an alignment of 4.
+    ///
+    /// Returns false if the picture cannot be loaded. `image` may then have a new size without
+    /// pixels: call `image.clear()` before you use it again. Returns true for a JPEG of which only
+    /// a part can be decoded; see jpeginfo_t::decompress (codecs/jpeginfo.h).
+    ///
+    /// The image may outlive this object. The bytes delivered by image_bmp2_t are usually
+    /// read-only; see codecs/bmpimage2.h.
     virtual bool load(image2d_t& image, char const* path) = 0;
 
-    /// Writes `image`, bottom row first, to the file at `path` and replaces an existing file.
-    /// Returns false if the codec cannot write, if the file format does not have the pixel format,
-    /// or if writing fails. But image_png_t returns true, and writes no file, for a pixel format
-    /// that PNG does not have. `libutils::failure_reason` can be empty or wrong after a failed
-    /// save.
+    /// Writes `image`, bottom row first, to the file at `path`. Returns false if the codec does not
+    /// save the pixel format, or if the file cannot be written. A failure has this effect on an
+    /// existing file:
     ///
-    /// If the pixel format is rejected, the old file is unchanged, except that image_png_t
-    /// truncates it for a picture with a palette. image_jpeg1_t writes a new file and renames it,
-    /// so every failure leaves the old file. The other codecs truncate the old file before they
-    /// write, so a failure leaves a part of the new file. Do not save an image with them to the
-    /// file that image_bmp2_t has mapped for it: its pixels would be lost.
+    ///   Codec          Format is not saved                     Error while writing
+    ///   image_jpeg1_t  unchanged                               unchanged
+    ///   image_png_t    unchanged, and the result is true; for  has a part of the new file
+    ///                  exceptions see savepng in codecs/png.h
+    ///   image_bmp_t    unchanged                               has a part of the new file
+    ///   image_tga_t    unchanged                               has a part of the new file
+    ///
+    /// image_jpeg1_t writes a new file and renames it. The others truncate the existing file, so do
+    /// not use them to save an image of image_bmp2_t to its own file: its pixels would be lost.
     virtual bool save([[maybe_unused]] image2d_t const& image, [[maybe_unused]] char const* path) {
         return false;
     }
@@ -72,7 +91,7 @@ class image_object_t {
     virtual ~image_object_t() = 0;
 
     /// Returns the number of clockwise quarter turns that make the loaded picture upright. `load`
-    /// does not turn the picture.
+    /// does not turn the picture. Mirrored orientations count as 0; see codecs/orientation.h.
     unsigned long rightrotatecount() const { return m_rightrotatecount; }
 
   protected:

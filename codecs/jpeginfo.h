@@ -25,12 +25,14 @@ struct jpeg_info_desc_t {
 /// The formats that are decoded and encoded: RGB, YCbCr and GRAYSCALE, all with 8 bits.
 extern jpeg_info_desc_t const jpeg_info_desc_table[3];
 
-/// Decodes and encodes JPEG data. Error lines go to std::cerr. They begin with the name of the
-/// data, and a line with libjpeg's message follows them.
+/// Decodes and encodes JPEG data. Error lines on std::cerr begin with the name of the data. If
+/// libjpeg fails, the next line is its message. Threads: see codecs/imageobject.h.
 ///
 /// To read the markers of a file without decoding it:
 ///
 /// ```cpp
+/// #include <iostream>
+///
 /// #include "metadata/exif.h"
 ///
 /// libgr::jpegdata_t file;
@@ -38,7 +40,9 @@ extern jpeg_info_desc_t const jpeg_info_desc_table[3];
 /// libgr::app1_marker_t exif;
 /// if (file.load("photo.jpg", nullptr) && info.analyze_markers(file)) {
 ///     exif.set_app1_buffer(info.get_marker(libgr::MARKER_APP1));
-///     exif.parse();
+///     if (exif.parse()) {
+///         std::cout << exif.tiff_header.tag_0th_ifd.Make.c_str() << "\n";
+///     }
 /// }
 /// ```
 class jpeginfo_t {
@@ -47,34 +51,46 @@ class jpeginfo_t {
     unsigned long height = 0;     ///< pixels, from the last header read
     std::list<marker_t> markers;  ///< APPn and COM in file order; `compress` writes them
 
-    /// Decodes `data`, bottom row first, directly into the memory of `image`, and stores the
-    /// markers in `markers`, without empty and truncated ones. The format is RGB or GRAYSCALE with
-    /// 8 bits.
+    /// Decodes `data`, bottom row first, into new memory of `image`, as RGB or GRAYSCALE with 8
+    /// bits. `image` must have no window. Its store becomes a static one with an alignment of 4.
+    /// `markers` gets the segments of the file, except empty ones.
     ///
-    /// If `square_unit` is not 0, the image memory is a square whose side, in pixels, is the longer
-    /// side of the picture, rounded up to a multiple of `square_unit`. Without `border`, the other
-    /// pixels are 0. With `border`, the side is 2 pixels longer, `window.skiprows` is 1, and a
-    /// frame of one pixel in `border_color` is painted as if the picture began in row 1 and
-    /// column 1. The picture is then decoded to row 0 and column 0 and overwrites a part of the
-    /// frame. With `border` and a `square_unit` of 0, the side is the width plus 2, and rows that
-    /// do not fit are dropped.
+    /// The memory can be a square that is larger than the picture, for a texture:
     ///
-    /// Returns true if the header is valid, even if some or all rows cannot be decoded. A line on
-    /// std::cerr reports missing rows; they are 0 if the image was empty. Returns false with an
-    /// error line for a damaged header, and if the picture or the square exceeds the limit
-    /// jpeg-ratio or picture-memory (utils/limits.h). Returns false without a line for other
-    /// colours, such as CMYK.
+    ///   square_unit  border  Side of the square in pixels
+    ///   0            false   no square: the memory has the size of the picture
+    ///   n            false   the longer side, rounded up to a multiple of n; the rest is 0
+    ///   n            true    2 more than without `border`
+    ///   0            true    the width plus 2; rows that do not fit are dropped
+    ///
+    /// With `border`, `window.skiprows` is 1, and a frame in `border_color`, one pixel wide, is
+    /// painted around the place of a picture that begins in row 1 and column 1. But the picture is
+    /// decoded to row 0 and column 0, and overwrites a part of the frame. Callers depend on it.
+    ///
+    /// Returns true if the header is valid, even if rows cannot be decoded, as in a file that is
+    /// cut in the middle. Missing rows are 0 if `image` was empty, and otherwise have old bytes.
+    /// The only sure sign of them is a line with "decompress fail" on std::cerr. The failure reason
+    /// is usually set, too, but not for all files of several scans.
+    ///
+    /// Returns false with an error line for a damaged header, if the picture or the square exceeds
+    /// the limit jpeg-ratio or picture-memory (utils/limits.h), and for a square of more than 65535
+    /// pixels a side. Returns false without a line for other colours, for example CMYK. The size
+    /// and the format of `image` may have changed then.
     bool decompress(image2d_t& image, jpegdata_t const& data, unsigned short square_unit,
                     bool border, color3ub_t const& border_color);
 
-    /// Encodes `image` into new bytes of `data`, and writes the markers before it. `quality` is
-    /// from 1 to 100. `force_baseline` limits the quantisation to 8 bits. The format must be in the
-    /// table. Returns false and sets errno on failure: EINVAL for another format or an image with
-    /// too few bytes, and EINVAL or ENOMEM, after an error line, if libjpeg fails.
+    /// Encodes `image` and replaces the bytes of `data`. The segments in `markers` are written
+    /// before the pixels. The format must be in jpeg_info_desc_table; the rows may have any
+    /// padding. `quality` is from 1 to 100. If `force_baseline` is true, the steps of the
+    /// quantisation are limited to 8 bits, so that all decoders can read the data.
+    ///
+    /// Returns false and sets errno on failure. EINVAL without a line on std::cerr means another
+    /// format, or an image with too few bytes; `data` is empty. EINVAL or ENOMEM after an error
+    /// line means that libjpeg has failed; the bytes of `data` are not a JPEG.
     bool compress(jpegdata_t& data, image2d_t const& image, int quality, bool force_baseline);
 
-    /// Reads only the header: `width`, `height`, and all markers, including empty and truncated
-    /// ones. Returns false with an error line if the header is damaged.
+    /// Reads only the header: `width`, `height`, and all markers, including empty ones. Returns
+    /// false with an error line if the header is damaged.
     bool analyze_markers(jpegdata_t const& data);
 
     /// Returns the payload of the first marker with this number, or empty bytes. The payload is

@@ -28,8 +28,9 @@ struct my_error_mgr {
 /// Initialises `error` and returns the value for cinfo->err. `data` must exist as long as `error`.
 jpeg_error_mgr* use_error_mgr(my_error_mgr& error, jpegdata_t const& data);
 
-/// Calls `step(state)`, where `state.error` is a my_error_mgr. Returns false if libjpeg fails in
-/// it. The step is then left by a jump, so it must not have objects with destructors.
+/// Calls `step(state)`. `state.error` must be the my_error_mgr of the libjpeg structs that the step
+/// uses. Returns false if libjpeg fails. my_error_exit then leaves the step with longjmp, so the
+/// step must not have objects with destructors.
 template <typename state_t>
 [[gnu::noinline]] bool run_jpeg_step(void (*step)(state_t&), state_t& state) {
     if (setjmp(state.error.jump) != 0) {
@@ -39,16 +40,16 @@ template <typename state_t>
     return true;
 }
 
-/// A source manager that delivers the whole of `data`.
+/// A source manager that delivers all bytes of `data`.
 ///
 /// The first fill delivers the file. A file that ends within its header is an error. Later fills
 /// deliver the file again from its first byte, so that the decoder finds a marker in the
 /// entropy-coded data and continues with the data it has. In two cases, later fills deliver an
 /// end-of-image marker:
-/// - if the file has several scans. All scans are read before the first row, and the start of the
-///   file would be an error there.
-/// - if all rows have been decoded. A segment that is longer than the rest of the file would
-///   otherwise read the file again without end.
+/// - if the file has several scans. libjpeg reads all of them before it decodes the first row, and
+///   would fail at the start-of-image marker of the file.
+/// - if all rows have been decoded. If a segment claims more bytes than the file has, libjpeg would
+///   otherwise read the file without end.
 struct jpeg_memory_source_t {
     jpeg_source_mgr base;
     jpegdata_t const* data;
@@ -59,7 +60,8 @@ struct jpeg_memory_source_t {
     bool has_run_out() const { return fills > 1; }
 };
 
-/// Sets a new source, in the permanent pool of the decompressor, which must have been created.
+/// Sets and returns a new source. It is allocated in the permanent pool of the decompressor, which
+/// must have been created.
 jpeg_memory_source_t* use_memory_source(j_decompress_ptr cinfo, jpegdata_t const& data);
 
 /// Makes the source deliver an end-of-image marker next. Call it after the header has been read.
@@ -69,8 +71,8 @@ void end_source(jpeg_memory_source_t& source);
 /// interval or scan can have data again.
 bool lacks_data(j_decompress_ptr cinfo);
 
-/// Sets a destination that writes to `data`, in the permanent pool of the compressor, which must
-/// have been created.
+/// Sets a new destination that writes to `data`. It is allocated in the permanent pool of the
+/// compressor, which must have been created.
 void use_memory_destination(j_compress_ptr cinfo, jpegdata_t& data);
 
 }  // namespace libgr

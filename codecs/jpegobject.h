@@ -8,8 +8,9 @@
 
 namespace libgr {
 
-/// Reads mapped JPEG files and their Exif orientation. Also loads a picture that can only be partly
-/// decoded; its missing rows are black if `image` was empty. Rejects CMYK.
+/// The JPEG codec. jpeginfo_t::decompress (codecs/jpeginfo.h) lists the files that it loads, and
+/// the signs of damage. The Exif orientation is read from the first APP1 segment; if that is not a
+/// complete Exif segment, `rightrotatecount` is not set.
 ///
 /// Writes at quality 95, with the markers of the file that the object has loaded. They include the
 /// Exif orientation, so do not turn the picture before you save it with the same object.

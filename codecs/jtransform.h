@@ -23,8 +23,9 @@ namespace libgr {
 // called.
 //
 // An iMCU (interleaved minimum coded unit, ITU-T T.81, A.2) is the smallest part of a picture that
-// can be moved. Its width is 8 samples times the largest horizontal sampling factor; its height
-// likewise. In a picture with one component, it has 8 by 8 samples.
+// can be moved. Its width is 8 samples times the largest horizontal sampling factor, and its height
+// 8 samples times the largest vertical one: 16 by 16 samples for 4:2:0. In a picture with one
+// component, it has 8 by 8 samples.
 
 enum JXFORM_CODE {
     JXFORM_NONE = 0,        ///< copy
@@ -39,14 +40,14 @@ enum JXFORM_CODE {
     JXFORM_DROP = 9,  ///< insert another picture; not implemented: the error JERR_NOT_COMPILED
 };
 
-/// The meaning of a number of a crop.
+/// The meaning of a size or an offset of a crop.
 enum JCROP_CODE {
     JCROP_UNSET = 0,     ///< the number is not used
     JCROP_POSITIVE = 1,  ///< a size, or an offset from the left or the top
     JCROP_NEGATIVE = 2,  ///< an offset from the right or the bottom
     JCROP_FORCED =
-        3,  ///< a size used as given; blocks outside the picture get the mean of the nearest block
-    JCROP_REFLECT = 4,  ///< a size; the area outside of the picture gets mirror images of it
+        3,  ///< an exact size; blocks outside the picture get the mean of the nearest block
+    JCROP_REFLECT = 4,  ///< a size; outside the picture, its mirror images are repeated
 };
 
 /// The marker segments that are copied.
@@ -54,7 +55,7 @@ enum JCOPY_OPTION {
     JCOPY_NONE = 0,
     JCOPY_COMMENTS = 1,
     JCOPY_ALL = 2,             ///< comments and all APPn
-    JCOPY_ALL_EXCEPT_ICC = 3,  ///< comments and all APPn but APP2
+    JCOPY_ALL_EXCEPT_ICC = 3,  ///< comments and all APPn except APP2
     JCOPY_ICC = 4,             ///< APP2
 };
 
@@ -65,12 +66,12 @@ struct jpeg_transform_info {
     bool perfect = false;          ///< fail if a part of the picture cannot be moved
     bool trim = false;             ///< remove the part that cannot be moved
     bool force_grayscale = false;  ///< keep only Y of YCbCr; other colours are an error
-    bool crop = false;             ///< use the following numbers
+    bool crop = false;             ///< use the sizes and offsets below
     bool slow_hflip =
         false;  ///< use a workspace for JXFORM_FLIP_H, and do not change the arrays of the source
 
     JDIMENSION crop_width = 0;
-    JCROP_CODE crop_width_set = JCROP_UNSET;  ///< unset: the rest after the offset
+    JCROP_CODE crop_width_set = JCROP_UNSET;  ///< unset: up to the edge
     JDIMENSION crop_height = 0;
     JCROP_CODE crop_height_set = JCROP_UNSET;
     JDIMENSION crop_xoffset = 0;
@@ -96,11 +97,15 @@ struct jpeg_transform_info {
 
 /// Computes the sizes and the crop, and requests the workspace, which libjpeg allocates and owns.
 ///
-/// The offset of a crop is rounded down to a whole iMCU. The size grows by the same amount, so that
-/// the right and the lower edge do not move, unless the size is JCROP_FORCED. The first sample of
-/// the region must be inside the uncropped output, and so must the whole region unless its size is
-/// JCROP_FORCED, or JCROP_REFLECT and the output has at least one whole iMCU. Any other region
-/// causes the error JERR_BAD_CROP_SPEC, and so does a side of 0 or above JPEG_MAX_DIMENSION.
+/// A crop must have a size from 1 to JPEG_MAX_DIMENSION. Its first sample must be inside the
+/// uncropped output. It may extend beyond the right or lower edge only with a size that is
+/// JCROP_FORCED, or that is JCROP_REFLECT if the output has at least one whole iMCU. Otherwise the
+/// request is the error JERR_BAD_CROP_SPEC.
+///
+/// Only whole iMCUs can be moved, so the offset is rounded down. A size that is not JCROP_FORCED
+/// grows by the same amount, so that the right and lower edges do not move. With iMCUs of 16 by 16
+/// samples, "30x20+5+5" results in 35 by 25 samples from offset 0, and "30fx20f+5+5" in 30 by 20.
+///
 /// Returns false if `perfect` is set and a part of the picture cannot be moved.
 bool jtransform_request_workspace(jpeg_decompress_struct* source, jpeg_transform_info* info);
 
@@ -120,10 +125,11 @@ void jtransform_execute_transform(jpeg_decompress_struct* source, jpeg_compress_
 bool jtransform_perfect_transform(unsigned int width, unsigned int height, int mcu_width,
                                   int mcu_height, JXFORM_CODE code);
 
-/// Parses a crop of the form "WIDTHxHEIGHT+XOFF+YOFF". Each part is optional. Numbers are decimal.
-/// A size may end in "f" or "F" (JCROP_FORCED), or in "r" or "R" (JCROP_REFLECT). An offset with
-/// "-" in place of "+" is from the right or lower edge. Returns false, with the request unchanged,
-/// for any other text.
+/// Parses a crop of the form "WIDTHxHEIGHT+XOFF+YOFF" into the crop of the request, and sets `crop`
+/// to true. Each part is optional, but "+YOFF" needs "+XOFF". A part that is left out becomes
+/// JCROP_UNSET: an offset of 0, or a size up to the edge. Numbers are decimal. A size may end in
+/// "f" or "F" (JCROP_FORCED), or in "r" or "R" (JCROP_REFLECT). An offset with "-" in place of "+"
+/// is from the right or lower edge. Returns false, with the request unchanged, for any other text.
 bool jtransform_parse_crop_spec(jpeg_transform_info* info, char const* text);
 
 /// Makes the decompressor save the segments of the option. Call it before jpeg_read_header.
@@ -134,7 +140,7 @@ void jcopy_markers_setup(jpeg_decompress_struct* source, JCOPY_OPTION option);
 void jcopy_markers_execute(jpeg_decompress_struct* source, jpeg_compress_struct* destination,
                            JCOPY_OPTION option);
 
-/// Carries out a request.
+/// Applies a request to the JPEG `in` and stores the result in `out`, which may be `in`.
 ///
 /// ```cpp
 /// libgr::jpegdata_t file;
@@ -146,13 +152,14 @@ void jcopy_markers_execute(jpeg_decompress_struct* source, jpeg_compress_struct*
 /// }
 /// ```
 ///
-/// `in` is the source. `out` receives the result and may be `in`. The result is sequential and uses
-/// the Huffman tables described in codecs/jpegtransform.h, but keeps the markers selected by
-/// `option`. The Exif orientation among them is not reset. `info` may be used again.
+/// `out` is sequential, with the Huffman tables described in codecs/jpegtransform.h, and has the
+/// markers selected by `option`. An Exif orientation among them is kept. If the operation makes the
+/// picture upright, pass JCOPY_NONE or JCOPY_ICC, which drop the Exif data. `info` may be used
+/// again.
 ///
-/// Fails for the reasons listed there, and also, with a line on std::cerr, if `perfect` is set and
-/// a part of the picture cannot be moved, or if the request cannot be carried out. On failure,
-/// `out` is empty, even if it is `in`. After a warning about damage, `out` contains the result.
+/// The table in codecs/jpegtransform.h lists the results. A request that cannot be carried out, for
+/// example because `perfect` is set and a part of the picture cannot be moved, also leaves `out`
+/// empty and prints a line on std::cerr.
 bool transform(jpeg_transform_info& info, JCOPY_OPTION option, jpegdata_t& out,
                jpegdata_t const& in);
 
