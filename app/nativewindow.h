@@ -33,21 +33,21 @@ libgr::direction2l_t work_area();
 libgr::direction2l_t clamped_window_size(libgr::direction2l_t const& size);
 
 /// Requests a window size in screen coordinates, clamped by `clamped_window_size`. Prints an error
-/// line if a side exceeds the limit window-side. A window manager may change the size later than
-/// this call, or not at all.
+/// line if a side exceeds the limit window-side. The window manager changes the size after this
+/// call, and may ignore the request; see `await_window_size`.
 void set_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
 /// Requests a position of the window's upper left corner, in screen coordinates.
 void set_window_position(GLFWwindow* window, libgr::position2l_t const& position);
 /// Sets the title, which is in UTF-8. Control characters are escaped.
 void set_title(GLFWwindow* window, std::string const& title);
 
-/// Waits until the window has the size that was requested, at most 0.1 seconds. Call it before a
-/// picture is fitted into the window, since window managers change the size after the request.
+/// Waits until the window has the size that was requested, at most 0.1 seconds. Call it after
+/// `set_window_size` and before a picture is fitted into the window.
 void await_window_size(GLFWwindow* window, libgr::direction2l_t const& size);
 
-/// Iconifies the window. If a window manager manages it, waits until it is iconified, at most 0.1
-/// seconds: a window manager ignores an earlier request to restore it. Otherwise waits for at most
-/// one reply of the X server.
+/// Iconifies the window. Waits until it is iconified, at most 0.1 seconds, because a window manager
+/// ignores a request to restore a window that isn't iconified yet. Doesn't wait if there is no
+/// window manager (`is_managed` in app/windowmanager.h).
 void iconify(GLFWwindow* window);
 /// Restores an iconified window.
 void restore(GLFWwindow* window);

@@ -34,7 +34,7 @@ class picture_loader_t {
 enum class walk_t {
     no_move,       ///< there is nowhere to go; nothing was loaded or unloaded
     moved,         ///< the picture at the new place is loaded
-    nothing_loads  ///< the old picture was unloaded, no other one loads, the place is the old one
+    nothing_loads  ///< no entry that was tried loads; no picture is loaded, same place
 };
 
 /// Returns true if a name has the extension of a picture; see ViewObject::has_picture_extension.
@@ -51,25 +51,27 @@ void report_skipped(std::string const& path);
 /// Returns false if there was nothing to append.
 bool append_pictures(picture_list_t& list, std::string const& path);
 
-/// Loads the first picture of the list that can be loaded. Returns false if there is none, and then
-/// `place` is the list's end.
+/// Loads the first picture of the list that can be loaded, and sets `place`. Returns false if there
+/// is none, and then `place` is the list's end.
 bool walk_initial(picture_list_t& list, picture_place_t& place, picture_loader_t& loader);
 
 /// Moves `n` entries forward, or not at all if fewer than `n` entries follow.
 ///
-/// Entries that don't load are skipped. If none loads up to the end of the list, tries the entries
-/// before them, backward to the second one of the list. The first entry is never tried.
+/// Tries to load the entries from there to the end of the list, and then from the last one backward
+/// to the second one. The first one that loads is the new place. The first entry of the list isn't
+/// tried; users depend on this order. After `nothing_loads`, the caller loads the old picture
+/// again, also if it is the first entry (`ViewWindow::next_image`).
 walk_t walk_forward(picture_list_t& list, picture_place_t& place, unsigned long n,
                     picture_loader_t& loader);
 
-/// Moves `n` entries backward, or to the first entry if fewer precede.
+/// Moves `n` entries backward, or to the first entry if there are fewer before the place.
 ///
-/// Entries that don't load are skipped. If none loads down to the second one of the list, tries all
-/// entries from the first one on.
+/// Tries to load the entries from there backward to the second one of the list, and then from the
+/// first one to the last one. The first one that loads is the new place.
 walk_t walk_backward(picture_list_t& list, picture_place_t& place, unsigned long n,
                      picture_loader_t& loader);
 
-/// Moves to the first entry, or to the last one, that loads.
+/// Move to the first entry of the list that loads, and to the last one.
 walk_t walk_first(picture_list_t& list, picture_place_t& place, picture_loader_t& loader);
 walk_t walk_last(picture_list_t& list, picture_place_t& place, picture_loader_t& loader);
 

@@ -24,8 +24,8 @@ enum e_message_local_t : unsigned {
     MESSAGE_NO_PICTURE = 1         ///< the text in the title bar if there is no picture
 };
 
-/// Returns a text of the message file, or "message not loaded.". It is valid for the rest of the
-/// program.
+/// Returns a text of the message file, or "message not loaded." if there is none. It is valid for
+/// the rest of the program.
 char const* getmsg(e_message_local_t id);
 
 /// A drag with one mouse button.
@@ -51,21 +51,28 @@ struct drag_t {
 /// zanoview2::native::stop();
 /// ```
 ///
-/// All members run on the main thread. After `init`, the window's OpenGL context must be current,
-/// as it is in the event functions. The viewer may be destroyed after GLFW was terminated.
+/// Call all members from the main thread. The constructor, `setImagePath` and `getCurrentTitleName`
+/// need no window. The others need the window and its OpenGL context, which is current in `init`
+/// and in the event functions. The viewer may be destroyed after GLFW was terminated.
 ///
-/// The scene has at most one picture. A picture that can't be loaded is skipped. One that OpenGL
-/// has no memory for is skipped with a line on the error stream.
+/// Sizes are in framebuffer pixels. The arguments of events and of app/nativewindow.h are in screen
+/// coordinates. `reshape` calculates the ratio of the two, by which `mouse` and `motion` multiply
+/// positions. `residue_set_window_size` doesn't convert its size.
+///
+/// The scene has at most one picture. A picture that can't be loaded is skipped. One for which
+/// OpenGL has no memory is skipped with a line on the error stream. If no picture of the
+/// command line can be loaded, the window is empty, with `MESSAGE_NO_PICTURE` in its title.
 class ViewWindow : public wenk::glutyAPI4 {
   public:
-    /// Reads the message file, the user default file and the options of the command line. All other
-    /// arguments are pictures or directories of pictures. Without them, shows the current
-    /// directory. `argv[0]` gives the names of the message file and of the user default file.
+    /// Reads the message file, the user default file and the options of the command line. The names
+    /// of the two files are made from `argv[0]`. If there is no message file, prints an error line.
     ///
-    /// After the option "-h", prints the help and ends the process with status 0.
+    /// Removes the options from `*argc` and `argv` as `option_enter_argument` does. The other
+    /// arguments are pictures or directories of pictures. Without them, shows the current
+    /// directory. After the option "-h", prints the help and ends the process with status 0.
     ViewWindow(int* argc, char** argv);
 
-    // Events. Positions are in screen coordinates from the window's upper left corner.
+    // Events. See glutyAPI4 in window/glutyapi.h.
     void reshape(int width, int height) override;
     void display() override;
     void keyboard(unsigned char key, int x, int y) override;
@@ -76,16 +83,20 @@ class ViewWindow : public wenk::glutyAPI4 {
     void mousewheel(int wheel, int direction, int x, int y) override;
     void drop(int count, char const** paths) override;
 
-    // Paging.
-    /// Appends a picture, or the pictures of a directory, to the list. Returns false if there are
-    /// none.
+    // Paging. `init` loads the first picture of the constructor's list. To show other pictures,
+    // call `clear`, `setImagePath` for each path, `initial_load` and `first`, as `drop` does.
+    /// Appends a picture, or the pictures of a directory, to the list, and makes the first entry of
+    /// the list the current one. Loads nothing. Returns false if there is nothing to append.
     bool setImagePath(char const* path);
     /// Removes all pictures from the list and the scene.
     void clear();
-    /// Loads the first picture into the scene that can be loaded. Returns false if there is none.
+    /// Loads the first picture of the list that can be loaded into the scene, which must be empty.
+    /// Returns false if there is none.
     bool initial_load();
-    /// Loads another picture into the scene, by the rules of app/picturelist.h. Return false if the
-    /// scene was left unchanged.
+    /// Load another picture into the scene, by the rules of app/picturelist.h. Return false if
+    /// there is nowhere to go, and then the scene is unchanged. If no other picture loads, they
+    /// load the old one again and return true. If it doesn't load either, they return true, too:
+    /// the scene is then empty, and the place in the list is unchanged.
     bool next_image(unsigned long n);
     bool back_image(unsigned long n);
     bool first_image();
@@ -96,7 +107,7 @@ class ViewWindow : public wenk::glutyAPI4 {
     /// Change to another picture, adapt the window to it, and request a redisplay.
     void first();
     void last();
-    /// Creates the picture's GL resources again. Iconifies and restores the window.
+    /// Iconifies the window, restores it and creates the picture's GL resources again.
     void reload();
     /// Sets the window's title to the picture's path, its number and the program's name.
     void update_title();
@@ -104,44 +115,52 @@ class ViewWindow : public wenk::glutyAPI4 {
     std::string getCurrentTitleName() const;
 
     // Sizes, all in framebuffer pixels.
-    /// Adapts the window and the view to a new picture, by the options resetview, reproduce and
-    /// resizetype: to the stored view if there is one (`residue_resume`), otherwise to the
-    /// picture's size (`residue_new`). Changes the window's size only if `resize` is true.
-    ///
-    /// `residue_resume` returns false if there is no stored view. No caller uses the other results.
+    /// Adapts the window, only if `resize` is true, and the view to a new picture, by the option
+    /// resizetype. Calls `residue_resume` if the option reproduce is set, and then `residue_new` if
+    /// the result was false. Returns the last result, which no caller uses. If the option resetview
+    /// isn't set, does nothing and returns true.
     bool residue(bool resize);
+    /// Uses the stored view (app/zvwfile.h). Returns false if there is none.
     bool residue_resume(bool resize);
+    /// Uses the picture's size. Returns true if resizetype is 1, or if it is 2 and the picture
+    /// needs another window size.
     bool residue_new(bool resize);
     /// Returns the result of `limited_window_size` (app/sizing.h) for the window and the options.
     libgr::direction2l_t residue_calc_window_size(libgr::direction2l_t const& target,
                                                   libgr::direction2l_t const& current) const;
-    /// Requests the window size `target`. Adapts the scene if the window has this size already.
+    /// If `target` differs from `current`, returns true and, if `resize` is true, requests this
+    /// window size. Otherwise calls `set_shape` and returns false.
+    ///
+    /// The pixels are used as screen coordinates. On a display with two pixels for each screen
+    /// coordinate, the window becomes twice as large. Users' settings depend on this.
     bool residue_set_window_size(libgr::direction2l_t const& target,
                                  libgr::direction2l_t const& current, bool resize);
     /// Adapts the scene's projection to the window's size.
     void set_shape();
-    /// Moves the picture to the window's centre without a turn, and fits it into the window.
+    /// Shows the picture upright in the centre of the window, and fits it into the window.
     void go_center();
-    /// Returns the picture's size after its turn by the Exif orientation, or 0, 0.
+    /// Returns the picture's size after the rotation by its Exif orientation, or 0, 0 if there is
+    /// no picture.
     libgr::direction2l_t getCurrentImageSize() const;
-    /// Multiply the picture's matrix by a scale or by another matrix.
+    /// Multiply the picture's view matrix by a scale, and by another matrix. They don't replace it.
     void setScale(float scale);
     void setMatrix(libgr::matrix3w_t const& matrix);
     libgr::direction2l_t get_window_size() const;
     libgr::matrix3w_t const& getMatrix() const;
 
     // Commands. The first three do nothing if there is no picture.
-    /// Stores the view in the view state file (app/zvwfile.h). On failure, prints the file's path
+    /// Saves the view in the view state file (app/zvwfile.h). On failure, prints the file's path
     /// and the reason on the error stream.
     void menu_edit_save_zvwfile();
     /// Deletes the view state file. Prints nothing on failure.
     void menu_edit_delete_zvwfile();
-    /// Draws the scene and stores it as a JPEG file beside the picture. Failures are printed as for
-    /// the view.
+    /// Draws the scene and saves it as a JPEG file with the size of the framebuffer: "a.zvw.jpg" in
+    /// the directory of "a.png". On failure, prints the same as `menu_edit_save_zvwfile`.
     void menu_file_savejpeg();
-    /// Stores the options in the user default file. Prints nothing on failure.
+    /// Saves the options in the user default file. Prints nothing on failure.
     void menu_edit_writedefault();
-    /// Moves the picture by 10 pixels. `key` is an arrow key's number in GLFW.
+    /// Moves the picture, or the camera by the option cursor_movement, by 10 pixels. `key` is the
+    /// number of an arrow key in GLFW.
     void cursor_move(int key);
     /// Makes the window as large as the monitor's work area, or gives it its old size and position.
     void toggle_work_area();

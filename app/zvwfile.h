@@ -15,22 +15,26 @@ namespace zanoview2 {
 /// differ only in the extension share one file.
 std::string make_zvwpath(char const* picture);
 
-/// The view of a picture.
+/// The view of a picture. Its file is text (geometry/textstream.h): the size in the first line, and
+/// the matrix in four lines, each with a row m[r] of matrix3w_t. The reader uses only the numbers.
 ///
-/// Its file has five lines with two values in the text form of geometry/textstream.h, `dir2l` and
-/// `mtx3w`. Reading uses only the numbers.
+///     dir2l(800, 600)
+///     mtx3w(  1.000000, 0.000000, 0.000000, 0.000000,
+///             0.000000, 1.000000, 0.000000, 0.000000,
+///             0.000000, 0.000000, 1.000000, 0.000000,
+///             -10.000000, 0.000000, 0.000000, 1.000000)
 struct zvwfile_t {
     libgr::direction2l_t size = libgr::datum2l;  ///< size of the framebuffer, in pixels
     libgr::matrix3w_t matrix = libgr::Imtx;      ///< the view matrix
 
     /// Reads the view state file of `picture`. Returns false, with unchanged members, if it can't
-    /// be opened, isn't a regular file or has more than 1 MiB. Values that can't be read don't
-    /// change, and are not an error.
+    /// be opened, isn't a regular file or has more than 1 MiB (with an error line). From
+    /// the first number that can't be read, the members don't change, and the result is true.
     bool load(char const* picture);
     /// Replaces the view state file of `picture`. Returns false and sets errno on failure, and then
     /// an existing file doesn't change.
     bool save(char const* picture) const;
-    /// Deletes the view state file of `picture`. Returns false on failure.
+    /// Deletes the view state file of `picture`. Returns false and sets errno on failure.
     bool del(char const* picture) const;
 };
 
