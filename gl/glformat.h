@@ -31,23 +31,42 @@ struct gl_loading_format_t {
 ///     INDEX             -                           1 8                           -
 ///
 /// "packed" is R5G5B5A1 and R10G10B10A2. RG, DEPTH_STENCIL and YCbCr422 are rejected. YCbCr images
-/// are uploaded as if they were RGB. The rows are in gl/glformattables.cpp. OpenGL rejects some of
-/// the results, for example the pixel format of INTENSITY and the pixel type of DEPTH.
+/// are uploaded as if they were RGB. The rows are in gl/glformattables.cpp.
 ///
-/// `compress` selects a compressed internal format for images whose internal format is GL_ALPHA, if
-/// ARB_texture_compression is supported. It has no effect on other images. Returns true if `out` is
-/// valid. Otherwise reports the description on the error stream and may have changed `out->format`.
-/// Makes no GL call, but `gl_extloader_init` must have been called.
+/// OpenGL rejects the upload of these, and the texture level doesn't change:
+///
+///     Description                   Error                 Reason
+///     INTENSITY                     GL_INVALID_ENUM       GL_INTENSITY is no pixel format.
+///     DEPTH                         GL_INVALID_ENUM       The pixel type is GL_DEPTH_COMPONENT.
+///     UINT 1, except INDEX          GL_INVALID_ENUM       GL_BITMAP is a type for indices only.
+///     GRAYSCALE_ALPHA UINT L12A4    GL_INVALID_ENUM       The same.
+///     GREEN, BLUE                   GL_INVALID_VALUE      These are no internal formats.
+///     INDEX                         GL_INVALID_VALUE      GL_COLOR_INDEX is no internal format.
+///     RED SINT and UINT 8 16 32     GL_INVALID_OPERATION  GL_R8I and others need GL_RED_INTEGER.
+///     BGR R3G3B2 and R5G6B5         GL_INVALID_OPERATION  These pixel types need GL_RGB.
+///     `compressed` images           GL_INVALID_ENUM       No result is a compressed data format.
+///
+/// This is kept because callers depend on the GL calls. Convert INDEX images with `index2rgb`
+/// (image/pixelconvert.h). A core profile also rejects GRAYSCALE, GRAYSCALE_ALPHA and ALPHA.
+///
+/// If `compress` is true, the internal format GL_ALPHA becomes GL_COMPRESSED_ALPHA, if the context
+/// has ARB_texture_compression. Other internal formats don't change.
+///
+/// Returns true if `out` contains the result. Otherwise calls `grReportUnsupportedImage` and
+/// returns false; ignore `out` then. Makes no GL call. Before `gl_extloader_init`, `compress` has
+/// no effect.
 bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t desc, bool compress);
 
-/// Does the same without a report. Returns nothing for a rejected description.
+/// Does the same, but prints nothing. Returns std::nullopt for a rejected description.
 std::optional<gl_loading_format_t> find_gl_format(image_desc_t desc, bool compress);
 
-/// Returns the internal format, or reports the description and returns GL_INVALID_VALUE.
+/// Returns the internal format. For a rejected description, calls `grReportUnsupportedImage` and
+/// returns GL_INVALID_VALUE.
 unsigned int internal_format_of(image_desc_t desc, bool compress);
 
-/// Prints four lines about a rejected description on the error stream, and leaves the stream in
-/// hexadecimal mode: integers printed later appear in hexadecimal.
+/// Prints four lines about a description on the error stream: "Not supported image format!", and
+/// the names of its format, type and bits. Then the stream prints integers in hexadecimal. This is
+/// kept because readers of the stream depend on it. Use std::dec before you print integers.
 void grReportUnsupportedImage(image_desc_t desc);
 
 }  // namespace libgr

@@ -7,14 +7,23 @@
 
 namespace libgr {
 
-/// Upload all mipmap levels of the texture that is bound to `target`. The unpack parameters must be
-/// those of the image, and `is_read_within_bytes` (gl/unpackbounds.h) must be true for it. Need a
-/// current context.
+/// Upload all mipmap levels of the texture that is bound to `target`. GLU scales the image to sides
+/// that are powers of two. Need a current context. The texture classes call these functions after
+/// `setBuildMipmap(true)`, so most programs don't need them.
 ///
-/// The pixels of a volume are copied without padding. Those of other images are copied only if GLU
-/// could read past the end of the bytes. Return false, without a GL call that uploads, if GLU would
-/// access memory outside its buffers, if there is no memory, or if the image exceeds
-/// `libutils::limits::glu_texels`, which is reported. The result of GLU is ignored.
+/// Before the call, call grPixelStoreUnpack (gl/pixelstore.h) with the store and with the window of
+/// the image. The image must have all bytes that OpenGL reads for a pixel of `glformat`: check this
+/// with `pixels_within` (image/image.h).
+///
+/// Return false, and upload nothing, in these cases:
+///
+///   - The image has more texels than `libutils::limits::glu_texels`. This prints a line.
+///   - There is no memory for a copy of the pixels. GLU may read past the end of the pixels, so it
+///     gets a copy of a volume, or if too few bytes follow the pixels.
+///   - GLU would access memory outside its buffers: the pictures of a volume have only one row, or
+///     the sides of a volume of packed pixels differ.
+///
+/// Otherwise return true, even if GLU returned an error. GLU rejects the pixel type GL_HALF_FLOAT.
 bool build_mipmaps(unsigned int target, gl_loading_format_t const& glformat,
                    image1d_t const& image);
 bool build_mipmaps(unsigned int target, gl_loading_format_t const& glformat,

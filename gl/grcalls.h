@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// GL calls with the types of geometry/. Each function is one GL call and needs a current context.
+// GL calls with the types of geometry/.
 #pragma once
 
 #include "geometry/color.h"
@@ -10,6 +10,9 @@
 
 namespace libgr {
 
+// Each function makes one GL call, unless its comment says otherwise, and needs a current context.
+
+/// Multiplies the current matrix by a rotation. The angle is in degrees.
 inline void grRotate(rotation3_t const& r) {
     glRotatef(r.angle, r.axis.x, r.axis.y, r.axis.z);
 }
@@ -19,10 +22,12 @@ inline void grScale(direction3_t const& d) {
 inline void grTranslate(position3_t const& p) {
     glTranslatef(p.x, p.y, p.z);
 }
+/// Multiplies the current matrix by `m`. OpenGL and geometry/matrix.h use the same memory order, so
+/// `m` isn't transposed. OpenGL's documents call the rows `m[0]` to `m[3]` columns.
 inline void grMultMatrix(matrix3w_t const& m) {
     glMultMatrixf(m.data());
 }
-/// Reads a matrix, for example GL_MODELVIEW_MATRIX.
+/// Reads a matrix, for example GL_MODELVIEW_MATRIX. `m` has the memory order of grMultMatrix.
 inline void grGet(GLenum pname, matrix3w_t& m) {
     glGetFloatv(pname, m.data());
 }
@@ -54,7 +59,7 @@ inline void grGetLightPos(GLenum light, position3_t& p) {
     grGetLightPos(light, v);
     p = SpecializeToPos(v);
 }
-/// Reads the direction of a light from the eye as a vector of length 1.
+/// Reads the direction from the eye to a light, in eye coordinates. The vector has length 1.
 inline void grGetLightPos(GLenum light, direction3_t& d) {
     vector3w_t v{};
     grGetLightPos(light, v);
@@ -71,22 +76,26 @@ inline void grTexEnv(GLenum target, GLenum pname, color3a_t const& c) {
     glTexEnvfv(target, pname, &c.r);
 }
 
-/// Sets four local parameters of a vertex or fragment program, from `index` on, to the rows `m[0]`
-/// to `m[3]` (ARB_vertex_program). Makes four GL calls.
+/// Sets the local parameters `index` to `index` + 3 of the program that is bound to `target` to
+/// `m[0]`, `m[1]`, `m[2]` and `m[3]`. Makes four GL calls. Needs ARB_vertex_program.
+///
+/// The DP4 of a vector and these four parameters is `m * v`. To transform `v` as grMultMatrix(m)
+/// does, which is `v * m` in geometry/matrix.h, pass `Transpose(m)`.
 inline void grProgramLocalParameterARB(GLenum target, GLuint index, matrix3w_t const& m) {
     for (unsigned int row = 0; row < 4; ++row) {
         glProgramLocalParameter4fvARB(target, index + row, &m[row].x);
     }
 }
 
-// Vertex arrays. `stride` is the number of bytes from one element to the next, or 0 if there is no
-// padding. OpenGL keeps the pointer and reads the elements in grDrawElements.
+// Vertex arrays. `stride` is the distance, in bytes, from one element to the next, or 0 if there is
+// no padding. OpenGL keeps the pointer and reads the elements in grDrawElements.
 inline void grVertexPointer(position2_t const* pointer, int stride) {
     glVertexPointer(2, GL_FLOAT, stride, pointer);
 }
 inline void grTexCoordPointer(texcoord2_t const* pointer, int stride) {
     glTexCoordPointer(2, GL_FLOAT, stride, pointer);
 }
+/// Draws the elements with the `count` numbers in `indices`.
 inline void grDrawElements(GLenum mode, int count, unsigned char const* indices) {
     glDrawElements(mode, count, GL_UNSIGNED_BYTE, indices);
 }

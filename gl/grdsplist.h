@@ -16,13 +16,13 @@ class grDspListMgr {
     /// Deletes the list. Needs a current context if `is_generated()` is true.
     ~grDspListMgr() { Release(); }
 
-    /// Creates a list name unless there is one. Needs a current context.
+    /// Creates a list name if there is none. Needs a current context.
     void Generate();
     /// Deletes the list. Needs a current context if `is_generated()` is true. A later `Generate`
     /// creates a new name.
     void Release();
     bool is_generated() const { return m_generated; }
-    /// Returns the name, or 1281 (GL_INVALID_VALUE) if there is none.
+    /// Returns the name, or GL_INVALID_VALUE (1281) if there is none.
     unsigned int listname() const;
 
   private:
@@ -30,24 +30,25 @@ class grDspListMgr {
     bool m_generated = false;
 };
 
-/// Replays the GL calls that another node made when the list was compiled. Copies share one GL
-/// list. The destructor of the last copy deletes the list and needs a current context if there is
-/// one. Construction and copying make no GL call.
+/// Replays the GL calls that another node made in `Preload`. gl/grobject.h has an example.
+///
+/// Construction and copying make no GL call. Copies made after the first `Preload` share one GL
+/// list. A copy made before is empty and independent. The destructor of the last copy deletes the
+/// list. It needs a current context, unless `Preload` was never called or `Unload` was called last.
 class grDspList : public grObject3D {
   public:
     ~grDspList() override = default;
     using grObject3D::Draw;
-    /// Calls the list. Does nothing before `Preload` and after `Unload`. Needs a current context if
-    /// there is a list.
+    /// Draws the list. Does nothing before `Preload` and after `Unload`. Needs a current context.
     void Draw() const override;
 
-    /// Compiles the GL calls that `object` makes in `Draw`. `object` may be null, which gives an
-    /// empty list, and isn't kept. The calls are not executed, so their errors only occur when the
-    /// list is drawn. A second call replaces the list. Always returns true. Needs a current
-    /// context.
+    /// Compiles the GL calls that `object` makes in `Draw` and doesn't execute them. Errors of
+    /// these calls occur in `Draw`. The list doesn't change when `object` changes: call `Preload`
+    /// again. `object` may be destroyed after the call. If it is null, the list is empty. Always
+    /// returns true. Needs a current context.
     bool Preload(grObject3D const* object);
-    /// Deletes the GL list of this object and all its copies. Needs a current context if there is a
-    /// list.
+    /// Deletes the GL list, also for the copies that share it. Needs a current context if there is
+    /// a list.
     void Unload();
 
   private:

@@ -19,11 +19,30 @@ class grDrawable3D {
     virtual ~grDrawable3D() = default;
 };
 
-/// A node of a scene tree. Drawing doesn't change it.
+/// A node of a scene tree. Drawing doesn't change it. This example compiles a node into a display
+/// list and draws it 5 units in front of the eye:
 ///
-/// Nodes have pointers to their children and don't own them: a child must outlive its parent or be
-/// removed from it. Only `Draw` makes GL calls. Nodes can be created and destroyed without a
-/// context, except grDspList (gl/grdsplist.h).
+/// ```cpp
+/// #include "gl/grdsplist.h"
+///
+/// void draw_moved(libgr::grObject3D const& node) {
+///     libgr::grDspList list;
+///     list.Preload(&node);
+///     libgr::grTranslater translater;
+///     translater.m_position = {0, 0, -5};
+///     translater.setObject(&list);
+///     libgr::grContainer scene;  // restores the matrix after the child
+///     scene.addObject(&translater);
+///     scene.Draw();
+/// }
+/// ```
+///
+/// Nodes have pointers to their children and don't own them. A child must outlive the last `Draw`
+/// of its parent, or be removed from it. A child may have several parents.
+///
+/// Nodes can be created, changed and destroyed without a context, and only `Draw` makes GL calls.
+/// grDspList (gl/grdsplist.h) is the exception: `Preload`, `Unload` and its destructor make GL
+/// calls.
 class grObject3D : public grDrawable3D {
   public:
     /// Calls `Draw() const`.
@@ -33,10 +52,9 @@ class grObject3D : public grDrawable3D {
     virtual void Draw() const = 0;
 };
 
-// The transform nodes multiply the current matrix of the current matrix mode before they draw their
-// child. They don't restore it, so the transform also applies to everything that is drawn later:
-// put them into a grContainer, which selects GL_MODELVIEW and restores the matrix after each child.
-// Without a child they do nothing.
+// The transform nodes multiply the current matrix before they draw their child. They don't restore
+// the matrix, so the transform also applies to everything that is drawn later. To prevent this, add
+// them to a grContainer. Without a child they do nothing.
 
 /// Rotates its child by `m_rotation` (degrees and axis).
 class grRotater : public grObject3D {
@@ -55,8 +73,10 @@ class grRotater : public grObject3D {
     rotation3_t m_rotation = Irot;
 };
 
-/// Scales its child by powers of two. The exponents of a new node are 1, but it scales by 1 until
-/// the first call of addZoom or setZoom.
+/// Scales its child by powers of two: the scale of an axis is 2 to the power of its exponent.
+///
+/// A new node has the scale 1 but the exponents 1, so addZoom(d) on a new node sets the exponents
+/// to 1 + d. This is kept because callers depend on it. Call setZoom first.
 class grZoomer : public grObject3D {
   public:
     ~grZoomer() override = default;
@@ -65,9 +85,9 @@ class grZoomer : public grObject3D {
 
     grObject3D const* getObject() const { return m_object; }
     void setObject(grObject3D const* object) { m_object = object; }
-    /// Adds to the exponents of 2, one for each axis.
+    /// Adds `d` to the exponents of the three axes.
     void addZoom(direction3_t const& d);
-    /// Sets the exponents of 2, one for each axis.
+    /// Sets the exponents of the three axes.
     void setZoom(direction3_t const& d);
 
   private:
@@ -109,18 +129,18 @@ class grTransformer : public grObject3D {
     matrix3w_t m_matrix = Imtx;  ///< may be changed at any time between two draws
 };
 
-/// Draws its children in order. Selects GL_MODELVIEW and saves the matrix before each child, and
-/// restores the matrix and the mode after it. Each nested container needs one level of the GL
-/// matrix stack; grMatrixPusher (gl/matrixmgr.h) describes the limit.
+/// Draws its children in order. Before each child it selects GL_MODELVIEW and saves the matrix.
+/// After each child it restores the matrix and the mode. Each nested container needs one level of
+/// the GL matrix stack, which is limited: see grMatrixPusher (gl/matrixmgr.h).
 class grContainer : public grObject3D {
   public:
     ~grContainer() override = default;
     using grObject3D::Draw;
     void Draw() const override;
 
-    /// Appends a child, which may be null.
+    /// Appends a child. Null is accepted and draws nothing.
     void addObject(grObject3D const* object) { m_objects.push_back(object); }
-    /// Returns child `n`, counted from 0, or null if there are at most `n` children.
+    /// Returns child `n`, counted from 0. Returns null if `n` is not less than `size()`.
     grObject3D const* getObject(unsigned long n) const;
     void clear() { m_objects.clear(); }
     unsigned long size() const { return m_objects.size(); }

@@ -10,7 +10,13 @@
 namespace libgr {
 
 // Constructors and destructors need a current context. Destroy the objects in the reverse order of
-// their construction.
+// their construction. This draws with a translation that ends with the block:
+//
+//     {
+//         libgr::grMatrixPusher const pusher(GL_MODELVIEW);
+//         glTranslatef(0, 0, -5);
+//         // ... draw ...
+//     }
 
 /// Calls glBegin, and glEnd in the destructor. Call only vertex, colour and texture coordinate
 /// functions in between.
@@ -37,13 +43,15 @@ class grMatrixModeKeeper {
 
 /// Saves the current matrix of a mode. The destructor restores the matrix and then the mode.
 ///
-/// The nesting depth is limited by the GL matrix stack, which often has 32 levels for GL_MODELVIEW.
-/// If the stack is full, OpenGL reports GL_STACK_OVERFLOW and saves nothing, and the destructor
-/// restores the last matrix that was saved. In enhanced mode, which is off at the start, there is
-/// no limit: matrices that don't fit on the GL stack are saved in memory.
+/// The GL matrix stack limits the nesting depth. It often has 32 levels for GL_MODELVIEW, of which
+/// the current matrix uses one. If the stack is full, OpenGL reports GL_STACK_OVERFLOW and saves
+/// nothing, and the destructor restores the matrix of an outer grMatrixPusher. In enhanced mode
+/// there is no limit: matrices that don't fit on the GL stack are saved in memory.
+///
+/// The mode, the limits and the matrices in memory are static: a second context isn't supported.
 class grMatrixPusher : public grMatrixModeKeeper {
   public:
-    /// A matrix stack of OpenGL and the matrices that don't fit on it.
+    /// A matrix stack of OpenGL, and the matrices in memory that don't fit on it.
     class grMatrixManager {
       public:
         grMatrixManager(GLenum mode, GLenum maxdepth_name, GLenum depth_name, GLenum matrix_name)
@@ -53,9 +61,9 @@ class grMatrixPusher : public grMatrixModeKeeper {
               m_matrix_name(matrix_name) {}
 
         GLenum mode() const { return m_mode; }
-        /// Returns true if the GL stack has room for one more matrix. In enhanced mode this needs a
-        /// current context. Outside enhanced mode always returns true, even if the stack is full,
-        /// and makes no GL call.
+        /// In enhanced mode, returns true if the GL stack has room for one more matrix, and needs a
+        /// current context. Otherwise always returns true, even if the stack is full, and makes no
+        /// GL call.
         bool canPush() const;
 
       private:
@@ -72,18 +80,21 @@ class grMatrixPusher : public grMatrixModeKeeper {
         std::vector<matrix3w_t> m_overflow;
     };
 
-    /// Selects `mode` and saves its matrix. 0 selects the current mode.
+    /// Selects `mode`, or keeps the current mode if `mode` is 0, and saves the matrix. See
+    /// `getMatrixManager` for the modes that are accepted.
     explicit grMatrixPusher(GLenum mode);
     ~grMatrixPusher();
 
-    /// Switches enhanced mode on or off for all stacks. Call it when no grMatrixPusher exists.
-    /// Needs a current context if `on` is true.
+    /// Switches enhanced mode on or off for all stacks. It is off at the start. Call this function
+    /// when no grMatrixPusher exists. If `on` is true, it needs a current context and reads the
+    /// sizes of the GL stacks. Without a colour matrix (ARB_imaging), OpenGL then reports
+    /// GL_INVALID_ENUM.
     static void setEnhanceMode(bool on);
     static bool getEnhanceMode() { return g_enhance; }
     /// Returns the manager of GL_MODELVIEW, GL_PROJECTION, GL_TEXTURE or GL_COLOR. For 0, returns
     /// the manager of the current mode and needs a current context. For another value, prints a
-    /// line on standard output and returns the modelview manager. This leaves std::cout in
-    /// hexadecimal mode: integers printed later appear in hexadecimal.
+    /// line on standard output and returns the modelview manager. Then std::cout prints integers in
+    /// hexadecimal. This is kept because readers of the output depend on it.
     static grMatrixManager& getMatrixManager(GLenum mode);
 
   private:

@@ -6,8 +6,13 @@
 
 namespace libgr {
 
-/// Makes OpenGL convert the indices of uploaded images to colours. Uploads between `Load` and the
-/// destructor use the palette.
+/// Makes OpenGL convert colour indices to colours. The pixels that are sent to OpenGL between
+/// `Load` and the destructor use the palette.
+///
+/// The texture classes load the palette of their first image themselves, if its format is
+/// IMAGE_FORMAT_INDEX, and use it for all images. grPalette is only needed for GL calls of your
+/// own, for example glDrawPixels. OpenGL rejects textures from INDEX images (see gl/glformat.h):
+/// convert them with `index2rgb` (image/pixelconvert.h).
 class grPalette {
   public:
     grPalette() = default;
@@ -17,9 +22,13 @@ class grPalette {
     /// current context.
     ~grPalette();
 
-    /// Sets GL_MAP_COLOR to 1 and the pixel maps GL_PIXEL_MAP_I_TO_R, _G and _B to the planes of
-    /// `palette`, `palette.size` values from 0 to 65535 each. Does nothing if the palette is empty
-    /// or a plane has fewer values. Needs a current context.
+    /// Sets GL_MAP_COLOR to 1. Then sets the pixel maps GL_PIXEL_MAP_I_TO_R, _G and _B to the red,
+    /// green and blue values of `palette`. Needs a current context.
+    ///
+    /// Does nothing if `palette.size` is 0 or more than the `count()` of a plane. OpenGL accepts
+    /// 2^n entries, at most GL_MAX_PIXEL_MAP_TABLE. For other numbers it reports GL_INVALID_VALUE
+    /// and keeps the old maps. A palette has no alpha: GL_PIXEL_MAP_I_TO_A keeps its value, which
+    /// makes alpha 0 if you didn't set it.
     void Load(palette_t const& palette);
 
   private:

@@ -60,17 +60,25 @@ void grPixelStorePack(image_window2d_t const& window);
 /// GL_PACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
 void grPixelStorePack(image_window3d_t const& window);
 
-/// Allocates the bytes of an image into which OpenGL will write pixels of `pixelbytes` bytes (at
-/// most 16) with the row layout (`store`) and window of the image. The image gets at least the
-/// bytes of `image.allocate()`, and more if OpenGL writes more bytes for a pixel than the
-/// description has. Returns false if the image has no pixels or there is no memory. Makes no GL
-/// call.
+/// Allocates the bytes of an image for glReadPixels or glGetTexImage. Set the description, sizes,
+/// store and window before, and call grPixelStorePack with both afterwards.
+///
+/// `pixelbytes` is the number of bytes that OpenGL writes for a pixel, at most 16. It may differ
+/// from the pixel size of the description. The image gets at least the bytes that
+/// `image.allocate()` allocates. If the image has no store, the bytes suffice for every value of
+/// GL_PACK_ALIGNMENT. Returns false if a side is 0 or there is no memory. Makes no GL call.
 bool grAllocateForPack(image2d_t& image, unsigned int pixelbytes);
 
-/// Returns the components of a pixel format, 1 to 4, or 0 for GL_STENCIL_INDEX and unknown formats.
+/// Returns the number of components, 1 to 4, of a pixel format of gl/glformat.h. Returns 0 for
+/// GL_INTENSITY, GL_STENCIL_INDEX and all other formats.
 unsigned long grFormatToComponents(GLenum format);
-/// Returns the bytes of one component of a pixel type, 1 for GL_BITMAP, or 0 for packed and unknown
-/// types and GL_HALF_FLOAT.
+/// Returns the size, in bytes, of one component of a pixel type:
+///
+///     1  GL_BYTE, GL_UNSIGNED_BYTE, GL_BITMAP
+///     2  GL_SHORT, GL_UNSIGNED_SHORT
+///     4  GL_INT, GL_UNSIGNED_INT, GL_FLOAT
+///     8  GL_DOUBLE
+///     0  all other types, also GL_HALF_FLOAT and packed types
 unsigned long grTypeToSize(GLenum type);
 /// Returns GL_UNSIGNED_BYTE, GL_UNSIGNED_SHORT, GL_FLOAT or GL_DOUBLE for components of 1, 2, 4 or
 /// 8 bytes, or 0 for other sizes.

@@ -6,24 +6,33 @@
 
 namespace libgr {
 
-/// Reads the rectangle of the viewport from the front buffer, which has the picture that the window
-/// shows. The image gets the size of the viewport and RGB pixels of 8 bits, row 0 at the bottom. It
-/// keeps its row layout (`store`) and window. If it has no row layout, GL_PACK_ALIGNMENT must be 4,
-/// the initial value. Needs a current context.
+/// Reads the rectangle of the viewport (GL_VIEWPORT) from the front buffer, whose contents the
+/// window shows. Needs a current context, and framebuffer 0 bound for reading.
 ///
-/// Some drivers have no readable front buffer and return black pixels. If all pixels are black, the
-/// back buffer is read instead: to support these drivers, draw the frame again before the call and
-/// don't swap the buffers.
+/// The old bytes of the image are released. It gets the size of the viewport, the description RGB,
+/// UINT, 8 bits, and new bytes. Row 0 is the bottom row. `image.store` and `image.window` are kept
+/// and determine the positions of the pixels: see image2d_t. Pixels outside the window are
+/// undefined. Without a store, GL_PACK_ALIGNMENT must be 4, the initial value.
+///
+/// Some drivers return black pixels for the front buffer. If all pixels are black, this function
+/// reads the back buffer instead. To support these drivers, draw the frame again before the call
+/// and don't swap the buffers.
 ///
 /// Returns false, without a message, if there is no memory or the viewport is empty. The image then
-/// has its new size and description, but no valid pixels. Changes GL_READ_BUFFER and the pack
-/// parameters.
+/// has its new size and description: ignore its bytes. GL errors don't change the result; call
+/// grPrintError to detect them. Changes GL_READ_BUFFER and the pack parameters of grPixelStorePack
+/// (gl/pixelstore.h), and doesn't restore them.
 bool grReadPixelsRGB(image2d_t& image);
 
-/// Reads the depth of the same rectangle from the front buffer, and never from the back buffer. The
-/// description of the image has 24 bits, but each pixel has 4 bytes: a GL_UNSIGNED_INT from 0
-/// (near) to 2^32 - 1 (far). The length of a row is calculated with 4 bytes a pixel and then
-/// padded. Row layout and failures are as in grReadPixelsRGB. Needs a current context.
+/// Reads the depth buffer in the same rectangle. Each pixel is a GL_UNSIGNED_INT of 4 bytes. With
+/// the initial glDepthRange, 0 is the near plane and 2^32 - 1 the far plane.
+///
+/// The description is DEPTH, UINT, 24 bits, although a pixel has 32 bits: callers depend on it.
+/// Therefore `rowsize`, `pixel_row` and the pixel operations compute wrong addresses. The distance
+/// from one row to the next is `rowlength()` * 4 bytes, padded to the alignment of the store. With
+/// an alignment of 1, 2 or 4 there is no padding.
+///
+/// Everything else is as in grReadPixelsRGB. GL_READ_BUFFER is set to GL_FRONT.
 bool grReadPixelsDepth(image2d_t& image);
 
 }  // namespace libgr

@@ -4,8 +4,8 @@
 
 /// This example makes a texture from a picture and draws with it. The order of calls is: set the
 /// images, call `Preload` once, and call `Load` before and `Unload` after each use. Keep both
-/// objects between frames; this example uploads on every call. From OpenGL 3.0 on, enable
-/// GL_TEXTURE_2D yourself for fixed-function drawing.
+/// objects between frames. From OpenGL 3.0 on, enable GL_TEXTURE_2D yourself for fixed-function
+/// drawing.
 ///
 /// ```cpp
 /// #include "gl/texture2d.h"
@@ -22,9 +22,49 @@
 /// }
 /// ```
 ///
-/// Call everything in this library from the thread of the GL context. Each function says if it
-/// needs a current context. `gl_extloader_init` (glext/glextloader.h) must have been called.
-/// gl/glformat.h lists the image descriptions that are accepted.
+/// gl/glformat.h lists the image descriptions that are accepted. gl/texture2d.h describes the
+/// texture coordinates that a picture covers.
+///
+/// Context: call everything in this library from the thread of the GL context. Each function says
+/// if it needs a current context. Before `gl_extloader_init` (glext/glextloader.h) the GL functions
+/// are null pointers and each call of one crashes. A second context isn't supported.
+///
+/// Owners: a grTextureObject owns the GL texture. Other objects aren't owned. Keep them until their
+/// last use:
+///
+///     Object                              Last use
+///     image record                        setImage, which keeps a copy that shares its bytes
+///     `store` of the image                the last upload
+///     texture parameters, border colour   the last upload
+///     texture class, e.g. grTexture2D     the last Preload, Reload or BindImage
+///
+/// An upload is a `Preload` or `Reload` of a texture object, or a `Load` or `Reload` of a texture
+/// class. If you change the bytes, the next upload sends them.
+///
+/// Mipmaps: OpenGL's initial minfilter, GL_NEAREST_MIPMAP_LINEAR, needs all mipmap levels. Without
+/// them, set GL_NEAREST or GL_LINEAR with setTextureParameter. Otherwise OpenGL draws as if the
+/// texture were disabled, shaders read black, and there is no error. A texture with one image, or
+/// six for a cube map, can be drawn in these cases:
+///
+///     Class                     Without setBuildMipmap              setBuildMipmap(true)
+///     grTexture1D, grTexture2D  `size` 0, GL_NEAREST or GL_LINEAR   yes
+///     grTexture3D               no                                  yes
+///     grTextureCubeMap          `size` > 0, GL_NEAREST or GL_LINEAR yes
+///     grTextureRectangle        yes                                 -
+///
+/// Failures: uploads return no result. Images whose description gl/glformat.h rejects, or that have
+/// too few bytes, are reported on the error stream and skipped. If OpenGL rejects a level, for
+/// example because it exceeds GL_MAX_TEXTURE_SIZE, the level doesn't change. Call grPrintError
+/// (gl/grerror.h) after `Preload`: the error is printed by it, or was printed before. Errors of GLU
+/// are ignored. grMemoryWatch (gl/grerror.h) detects a lack of memory.
+///
+/// These functions change GL state and don't restore it:
+///
+///     Preload, Load, Reload         the texture binding
+///     Load, Unload                  before OpenGL 3.0, the enable of the target
+///     Preload, Reload               the unpack parameters: see gl/texture2d.h
+///     the same for INDEX images     GL_MAP_COLOR and pixel maps: see gl/palette.h
+///     GetTexImage, GetTextureImage  the pack parameters: see gl/pixelstore.h
 
 #include "geometry/color.h"
 #include "image/image.h"
@@ -35,7 +75,7 @@ namespace libgr {
 /// The base of image sets and texture objects.
 class grTexturable {
   public:
-    /// Returns 1, 2 or 3, and 6 for a cube map. Makes no GL call.
+    /// Returns the number of dimensions: 1, 2 or 3. Returns 6 for a cube map. Makes no GL call.
     virtual unsigned long Dimension() const = 0;
     /// Uploads the images, or binds the texture object. Needs a current context.
     virtual void Load() const = 0;
@@ -80,10 +120,6 @@ struct grTextureMgr {
 /// A texture object. Copies made after `Preload` share one GL name. A copy made before is empty and
 /// independent. The destructor of the last copy deletes the texture and needs a current context if
 /// `isPreload()` is true.
-///
-/// The object doesn't copy pixels and doesn't notice their change. Pixels are uploaded by `Preload`
-/// and `Reload` only. Uploads return no result: failures are printed on the error stream, and
-/// grMemoryWatch (gl/grerror.h) detects GL_OUT_OF_MEMORY.
 class grTextureObject : public grTexturableObject {
   public:
     /// Makes no GL call.
@@ -95,8 +131,9 @@ class grTextureObject : public grTexturableObject {
     /// Creates the texture unless this object has one, binds it to the active texture unit, and
     /// uploads `image`. The texture stays bound. Its target isn't enabled. Needs a current context.
     ///
-    /// `image` must not be null. It isn't owned and must outlive this object and its copies. A
-    /// texture can't change its target: until `clear`, all images must have the same dimension.
+    /// `image` must not be null and isn't owned. The object and its copies use it in `Reload` and
+    /// `BindImage`. A texture can't change its target: until `clear`, all images must have the same
+    /// dimension.
     void Preload(grTexturableImageGL const* image);
 
     /// Returns the dimension of the target, or 0 before `Preload`. Makes no GL call.
@@ -118,26 +155,33 @@ class grTextureObject : public grTexturableObject {
     /// Returns true if the texture is resident (EXT_texture_object), false without the extension.
     /// Needs a current context.
     bool isResident() const;
-    /// Binds a mipmap level to an image unit with the `access` of glBindImageTexture. Does nothing
-    /// before OpenGL 4.2. Needs a current context.
+    /// Calls glBindImageTexture for mipmap level `level`, layer 0, with the internal format of the
+    /// first image. `access` is GL_READ_ONLY, GL_WRITE_ONLY or GL_READ_WRITE. OpenGL accepts
+    /// GL_RGBA8, for example, but not GL_RGB8. Does nothing before `Preload` and before OpenGL 4.2.
+    /// Needs a current context.
     void BindImage(unsigned int unit, int level, unsigned int access) const;
-    /// Unbinds an image unit. Does nothing before OpenGL 4.2. Needs a current context.
+    /// Binds no texture to an image unit. Does nothing before `Preload` and before OpenGL 4.2.
+    /// Needs a current context.
     void UnbindImage(unsigned int unit) const;
 
-    /// Reads mipmap level `level` of the texture bound to `target` into `img`, row 0 at the bottom.
-    /// The target is GL_TEXTURE_1D, GL_TEXTURE_2D, GL_TEXTURE_RECTANGLE or a cube map face. Needs a
-    /// current context.
+    /// Reads mipmap level `level` of the texture bound to `target`, which needn't be this one, into
+    /// `img`. Row 0 is at t = 0. The target is GL_TEXTURE_1D, GL_TEXTURE_2D, GL_TEXTURE_RECTANGLE
+    /// or a face, for example GL_TEXTURE_CUBE_MAP_POSITIVE_X. Needs a current context.
     ///
-    /// The pixels of a floating-point texture become RGBA pixels of type GL_FLOAT. Each component
-    /// takes 4 bytes, even if `img.desc` has fewer bits, so each pixel takes 16 bytes. For a
-    /// normalized or integer texture OpenGL reports an error and the pixels of `img` are 0, but the
-    /// function returns true: callers depend on these GL calls.
+    /// The pixels of a floating-point texture become RGBA. Each component is a float of 4 bytes,
+    /// even if `img.desc` has 16 bits. For a normalized or integer texture, for example GL_RGBA8,
+    /// OpenGL reports an error and the pixels of `img` are 0, but the function returns true:
+    /// callers depend on these GL calls. Use glGetTexImage for these textures.
     ///
-    /// Returns false if the target or the component type is not supported. Prints a line and
-    /// returns false if the component size is not supported or there is no memory.
+    /// Returns false if the target is another one or the level has no red component. Prints a line
+    /// and returns false if no e_image_bits_t has the component size or there is no memory. After
+    /// false, ignore the sizes, description and bytes of `img`; its old bytes are released. The
+    /// store and window of `img` are used as in grReadPixelsRGB (gl/readpixels.h).
     bool GetTexImage(unsigned int target, int level, image2d_t& img) const;
-    /// Does the same for this object's texture, without binding it. Returns false before `Preload`
-    /// and before OpenGL 4.5. Needs a current context.
+    /// Does the same for this object's texture, without binding it. For a cube map or a volume of
+    /// several pictures, OpenGL reports GL_INVALID_OPERATION and the pixels of `img` are 0, but the
+    /// function returns true: call GetTexImage for each face. Returns false before `Preload` and
+    /// before OpenGL 4.5. Needs a current context.
     bool GetTextureImage(int level, image2d_t& img) const;
 
   private:
@@ -148,7 +192,7 @@ class grTextureObject : public grTexturableObject {
 };
 
 // Texture parameters, with the values of glTexParameter. The texture classes keep a pointer to the
-// record that they are given, so make it a constant or let it outlive the texture class.
+// record: make it a static constant.
 
 struct texparameter1d_t {
     unsigned int minfilter;
@@ -208,10 +252,10 @@ void grTexParameter(texparameter3d_t const* parameter);
 /// current context.
 void grTexParameter(unsigned int target, color3a_t const* color);
 
-/// Returns the target of textures of 1, 2 or 3 dimensions, or of cube maps for 6. Returns
-/// GL_INVALID_VALUE for other numbers.
+/// Returns GL_TEXTURE_1D, GL_TEXTURE_2D, GL_TEXTURE_3D or GL_TEXTURE_CUBE_MAP for the results 1, 2,
+/// 3 or 6 of `Dimension`. Returns GL_INVALID_VALUE for other numbers.
 unsigned int grTextureDimToEnum(unsigned long dim);
-/// Returns the dimensions of a target, 6 for a cube map, or 0 for any other target.
+/// Returns 1, 2, 3 or 6 for these four targets, and 0 for all others.
 unsigned long grTextureEnumToDim(unsigned int target);
 
 }  // namespace libgr

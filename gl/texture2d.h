@@ -9,34 +9,41 @@
 
 namespace libgr {
 
-/// The images of a GL_TEXTURE_2D, one for each mipmap level, row 0 at the bottom.
+/// The images of a GL_TEXTURE_2D, one for each mipmap level. Row 0, the bottom row of the picture,
+/// is at the texture coordinate t = 0.
 ///
-/// OpenGL reads the pixels in place. The window and row layout (`store`) of an image are set as
-/// unpack parameters. They aren't restored after the upload. An image without a row layout uses the
-/// byte order and alignment of the image before it, and the first image those of the context. GLU
-/// may read past the end of the pixels, so it gets a copy if there is not enough room after them.
+/// OpenGL reads the pixels of an image with the unpack parameters of its `window` and `store`, as
+/// grPixelStoreUnpack (gl/pixelstore.h) sets them. They aren't restored after the upload. An image
+/// whose `store` is null is read with the current GL_UNPACK_SWAP_BYTES and GL_UNPACK_ALIGNMENT,
+/// which an image that was uploaded before may have set.
 ///
-/// A level without bytes is skipped. A level with an unsupported description, or with fewer bytes
-/// than OpenGL would read, is reported on the error stream and skipped. An image larger than
-/// GL_MAX_TEXTURE_SIZE isn't detected: OpenGL reports an error and doesn't change the level. Only
-/// GLU scales the image down.
+/// A level without bytes is skipped. gl/texture.h lists the failures. Only GLU scales an image down
+/// if it exceeds GL_MAX_TEXTURE_SIZE.
 class grTexture2D : public grTexturableLevels<image2d_t, texparameter2d_t> {
   public:
     /// Sets the image of mipmap level `level`, counted from 0, and removes the levels with higher
     /// numbers. If `level` is `libutils::limits::texture_images` or more, only prints a line.
     ///
-    /// If `size` is 0, the texture has the size of the image. Otherwise the texture is a square.
-    /// Its side is the smallest power of two that is at least `size` and the sides of the image, in
-    /// texels. The image is in the lower left corner and the other texels are undefined. In the
-    /// square the image covers the texture coordinates 0 to width / side and 0 to height / side.
-    /// Use this to give the tiles of a picture textures of one size. The `size` of the last
-    /// setImage or setImages call is used.
+    /// `size` determines the size of the texture and the texture coordinates that the image covers.
+    /// These are examples for an image of 200 by 100 pixels and `setBuildMipmap(true)`:
     ///
-    /// If mipmaps aren't generated, leave `size` 0. Any other value allocates a texture with no
-    /// texels, or only border texels.
+    ///     size  isBuiltByGLU()  Texture     s             t
+    ///     0     false           200 by 100  0 to 1        0 to 1
+    ///     256   false           256 by 256  0 to 200/256  0 to 100/256
+    ///     any   true            2^n by 2^m  0 to 1        0 to 1
+    ///
+    /// A `size` other than 0 makes the texture a square, for example to give the tiles of a picture
+    /// textures of one size. Its side, in texels, is the smallest power of two that is at least
+    /// `size` and the sides of the image. The other texels are undefined. The last `size`
+    /// is used for all levels. With a border, 2 is subtracted before the power of two is chosen and
+    /// added after; the coordinates don't count the border.
+    ///
+    /// With a `size` other than 0, give level 0 only and generate the others: given levels all get
+    /// the same side, so the texture can't be drawn with mipmaps. Without generated mipmaps, it has
+    /// no texels, or only border texels. This is kept because callers depend on the GL calls.
     void setImage(image2d_t const& image, unsigned int size, unsigned long level);
     /// Sets the images of the mipmap levels from `level` on and keeps the other levels. `size`
-    /// works as in setImage, but the side is at least the longest side of all given images.
+    /// works as in setImage, with the longest side of all given images.
     void setImages(std::vector<image2d_t> const& images, unsigned int size, unsigned long level);
 
     unsigned long Dimension() const override { return 2; }
@@ -51,9 +58,9 @@ class grTexture2D : public grTexturableLevels<image2d_t, texparameter2d_t> {
     /// sizes that they had in `Load`; otherwise OpenGL reports an error. Needs a current context.
     void Reload() const override;
 
-    /// Returns true if `Load` uses GLU. GLU scales the image to sides that are powers of two, and
-    /// the image covers the whole texture: the `size` of setImage has no effect. Makes no GL call,
-    /// but `gl_extloader_init` must have been called.
+    /// Returns true if `Load` generates the mipmaps with GLU. GLU scales the image to sides that
+    /// are powers of two and ignores the `size` of setImage. Makes no GL call. The result depends
+    /// on the context, so call `gl_extloader_init` before.
     bool isBuiltByGLU() const;
 
   private:

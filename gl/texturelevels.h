@@ -29,33 +29,35 @@ inline unsigned int longest_side(image3d_t const& image) {
 
 /// The images and upload settings of a texture with mipmap levels of type `image_t`.
 ///
-/// The images share their bytes with the images of the caller. There are at most
-/// `libutils::limits::texture_images` images; each face of a cube map counts as one. Further images
-/// are reported on the error stream and ignored. No member makes a GL call, except `Load` and
-/// `Reload` of the derived classes.
+/// gl/texture.h has a table of owners. All settings are false or null at the start. There are at
+/// most `libutils::limits::texture_images` images; each face of a cube map counts as one. Further
+/// images are ignored, and a line is printed. Only `Load` and `Reload` make GL calls.
 template <typename image_t, typename parameter_t>
 class grTexturableLevels : public grTexturableImageGL {
   public:
-    /// Sets whether textures with the internal format GL_ALPHA are compressed. Other formats are
-    /// never compressed.
+    /// Sets whether OpenGL compresses textures with the internal format GL_ALPHA. It never
+    /// compresses others.
     void setInternalCompression(bool compress) { m_internalcompression = compress; }
-    /// Sets whether the mipmap levels 1 and up are generated from level 0.
+    /// Sets whether the mipmap levels 1 and up are generated from level 0. Given images of these
+    /// levels replace the generated ones.
     void setBuildMipmap(bool build) { m_buildmipmap = build; }
-    /// Sets whether the texture has a border of one texel.
+    /// Sets whether the texture has a border of one texel. If `size` is 0, the outer pixels of the
+    /// image are the border. Otherwise the border is undefined.
     void setBorder(bool border) { m_border = border; }
-    /// Sets the parameters that `Load` applies. They aren't owned and must outlive this object.
-    /// Null applies none.
+    /// Sets the parameters that `Load` and `Reload` set. They aren't owned. If null, the texture
+    /// keeps its parameters; gl/texture.h describes OpenGL's initial minfilter.
     void setTextureParameter(parameter_t const* parameter) { m_texparameter = parameter; }
-    /// Sets the border colour that `Load` applies. It isn't owned and must outlive this object.
-    /// Null applies none.
+    /// Sets the border colour that `Load` and `Reload` set. It isn't owned. If null, the texture
+    /// keeps its border colour.
     void setBorderColor(color3a_t const* color) { m_bordercolor = color; }
 
-    /// Removes the images. The settings and the contents of the GL texture stay.
+    /// Removes the images. The settings and the GL texture don't change.
     void clear() { m_images.clear(); }
 
     /// Returns the internal format of the first image, or GL_INVALID_VALUE if there is no image or
-    /// its description is not supported. The result depends on the image's `compressed` field, not
-    /// on setInternalCompression. This is kept because callers depend on it.
+    /// its description is rejected, which is printed. The result depends on the image's
+    /// `compressed` field, not on setInternalCompression. This is kept because callers depend on
+    /// it.
     unsigned int GetInternalFormat() const override {
         return m_images.empty() ? GL_INVALID_VALUE
                                 : internal_format_of(m_images[0].desc, m_images[0].compressed);

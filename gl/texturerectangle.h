@@ -7,24 +7,22 @@
 
 namespace libgr {
 
-/// The image of a GL_TEXTURE_RECTANGLE, row 0 at the bottom, without mipmaps, border or
-/// compression.
+/// The image of a GL_TEXTURE_RECTANGLE, without mipmaps, border or compression. The texture
+/// coordinates are in pixels, and row 0 begins at t = 0.
 ///
 /// OpenGL reads the pixels with its initial unpack parameters: from the first byte on, each row
-/// padded to a multiple of 4 bytes. The window and the row layout (`store`) of the image have no
-/// effect. The unpack parameters are restored after the upload. An image with an unsupported
-/// description, or with fewer bytes than OpenGL would read, is reported on the error stream and not
-/// uploaded.
+/// padded to a multiple of 4 bytes. The `window` and `store` of the image have no effect. The
+/// unpack parameters are restored after the upload. gl/texture.h lists the failures.
 class grTextureRectangle : public grTexturableImageGL {
   public:
     void setImage(image2d_t const& image) { m_image = image; }
-    /// Sets the parameters that `Load` and `Reload` apply to the texture bound to GL_TEXTURE_2D.
-    /// They aren't owned and must outlive this object. Null applies none.
+    /// Sets the parameters that `Load` and `Reload` set for the texture bound to GL_TEXTURE_2D, not
+    /// for the rectangle. They aren't owned. Null sets none.
     void setTextureParameter(texparameter2d_t const* parameter) { m_texparameter = parameter; }
-    /// Removes the image. The contents of the GL texture stay.
+    /// Removes the image. The GL texture doesn't change.
     void clear() { m_image.clear(); }
 
-    /// Returns GL_INVALID_VALUE if there is no image or its description is not supported.
+    /// Returns GL_INVALID_VALUE if there is no image or its description is rejected.
     unsigned int GetInternalFormat() const override;
     /// Returns 2, so a grTextureObject binds GL_TEXTURE_2D, while `Load` uploads to the texture
     /// that is bound to GL_TEXTURE_RECTANGLE. The mismatch is kept because callers depend on it:
