@@ -28,8 +28,8 @@ struct zvwfile_t {
     libgr::matrix3w_t matrix = libgr::Imtx;      ///< the view matrix
 
     /// Reads the view state file of `picture`. Returns false, with unchanged members, if it can't
-    /// be opened, isn't a regular file or has more than 1 MiB (with an error line). From
-    /// the first number that can't be read, the members don't change, and the result is true.
+    /// be opened, isn't a regular file or has more than 1 MiB, for which it prints an error
+    /// line. Reading ends at the first text that isn't a number, and the result is then true.
     bool load(char const* picture);
     /// Replaces the view state file of `picture`. Returns false and sets errno on failure, and then
     /// an existing file doesn't change.

@@ -19,11 +19,16 @@
 /// }
 /// ```
 ///
-/// Everything here must be called from one thread. The OpenGL 1.1 functions need no flag. The
-/// functions of OpenGL 1.2 to 4.1 have no pointers of their own, with four exceptions (see
-/// `AGL_init_additional`): use the functions of the extensions, for example `glTexImage3DEXT`.
-/// The flag of an extension or core version has its name: `is_GL_EXT_bgra_supported`. To add one,
-/// add it to glext/extension_names.txt and run tools/generate_glext.py.
+/// Everything here must be called from one thread. The flags allow calls of these functions:
+///
+///     no flag needed                       OpenGL 1.1
+///     is_GL_EXT_texture3D_supported        the extension's, with its suffix: glTexImage3DEXT
+///     is_GL_VERSION_1_3_supported          glActiveTexture and glMultiTexCoord3f
+///     is_GL_VERSION_3_0_supported          glGenerateMipmap and glGetStringi
+///     is_GL_VERSION_4_2_supported to 4_6   those that the version added: glTexStorage2D
+///
+/// The other functions of OpenGL 1.2 to 4.1 have no pointers: use those of the extensions. To add
+/// an extension, add it to glext/extension_names.txt and run tools/generate_glext.py.
 
 #include <cstdint>
 
@@ -41,13 +46,13 @@
 #include "glext/glfunctions.gen.h"
 #include "glext/gltypes.gen.h"
 
-/// The name of a core version, and the lowest GL_VERSION text that has it.
+/// The name of a core version, and its lowest GL_VERSION text in the order of `numdotstrcmp`.
 struct addext_t {
     char const* name;
     char const* version;
 };
 
-/// A name that supplements the driver's list of extensions. `name` points into `addexts`.
+/// A supported core version, which drivers don't list. `name` points into `addexts`.
 struct extension_node_t {
     extension_node_t* next;
     char const* name;
@@ -56,21 +61,25 @@ struct extension_node_t {
 /// The core versions from 1.2 to 4.6 in ascending order. The last row contains null pointers.
 extern addext_t const addexts[];
 
-/// The core versions of the context, newest first. The list is built once and never freed.
+/// The core versions that the context supports, newest first. The list is never freed.
 extern extension_node_t* extension_linkedlist;
 
-/// 1 after `gl_extloader_init` has returned, 0 before.
+/// 1 after `gl_extloader_init` has returned, even if it failed, and 0 before.
 extern std::int32_t is_gl_extloader_inited;
 
 /// Resolves all entry points and sets the flags of the extensions that the current context
 /// supports.
 ///
-/// A context must be current. The pointers and flags describe that context; a second context isn't
-/// supported. The functions of unsupported extensions stay null. If the OpenGL library can't be
-/// opened, all functions stay null and all flags 0. There is no error report.
+/// A context must be current. If there is none, all flags stay 0. If the OpenGL library can't be
+/// opened, all functions stay null, too. There is no error report: test if `glGetString` is null.
+/// The functions of unsupported extensions stay null.
+///
+/// A second call in the same context changes nothing. A second context isn't supported: the call
+/// clears no flags, and the core versions stay those of the first context.
 void gl_extloader_init();
 
-/// Returns the address of an entry point in the system's OpenGL library, or null if it has none.
+/// Returns the address of an entry point in the system's OpenGL library, or null if it has none, in
+/// which case the function's pointer stays null even if its flag is 1.
 ///
 /// The library is libGL.so.1, on macOS the OpenGL framework. The first call opens it, and it stays
 /// open. If it can't be opened, the function returns null and the next call tries again.
@@ -79,24 +88,34 @@ void* __gl_GetProcAddress(char const* symbol);
 /// Returns 1 if the current context supports an extension ("GL_EXT_bgra") or has at least a core
 /// version ("GL_VERSION_1_4"), otherwise 0.
 ///
-/// A context must be current. Uses `glGetString`, and on version 3.0 and later `glGetIntegerv` and
-/// `glGetStringi`. Returns 0 if they aren't resolved.
+/// Call `gl_extloader_init` first. A context must be current. The flags are faster, because each
+/// call reads the driver's list again.
 int isExtensionSupported(char const* name);
 
 /// Adds the core versions up to `version`, a GL_VERSION text, to `extension_linkedlist`. If
-/// `version` is null, adds nothing.
+/// `version` is null, adds nothing. `isExtensionSupported` calls it once. A second call adds the
+/// names again.
 void extension_string_init(char const* version);
 
 /// Inserts `name` at the head of `extension_linkedlist`. The text isn't copied and must stay valid.
 void addlist(char const* name);
 
-/// Compares two version texts number by number. Returns -1 if `a` is less than `b`, 1 if it is
-/// greater, 0 if they are equal. Neither text may be empty.
+/// Compares two version texts. Returns -1 if `a` is less than `b`, 1 if it is greater, 0 if they
+/// are equal. Neither text may be empty.
 ///
-/// If one text ends first, it is less: "2.1" is less than "2.1.0". Text after a number counts as a
-/// number 0: "2.1 Mesa" is greater than "2.1.0". So a context with the exact version text "2.1"
-/// doesn't have `GL_VERSION_2_1`. The flags depend on this rule.
+/// The first different numbers decide. Any one character separates numbers, and text in place of a
+/// number is 0. If all numbers are equal, the text that ends first is less:
+///
+///     a              b          result
+///     "2.10"         "2.9"       1   10 is greater than 9
+///     "2.1"          "2.1.0"    -1   `a` ends first
+///     "2.1 Driver"   "2.1.0"     1   "Driver" is 0, and `b` ends first
+///
+/// So a context with the exact GL_VERSION "2.1" has no GL_VERSION_2_1, but usually text follows.
+/// The flags depend on this rule.
 int numdotstrcmp(char const* a, char const* b);
+
+// The steps of `gl_extloader_init`, in the order of its calls. Programs don't call them.
 
 /// Resolves the 334 entry points of OpenGL 1.1 (glext/core_names.txt).
 void AGL_init();
@@ -104,6 +123,6 @@ void AGL_init();
 /// Resolves glActiveTexture, glGenerateMipmap, glGetStringi and glMultiTexCoord3f.
 void AGL_init_additional();
 
-/// Sets the flags of the supported extensions and resolves their entry points, in the order of
-/// glext/extension_names.txt. `gl_extloader_init` calls it.
+/// Sets the flags of the supported extensions and core versions, and resolves their entry points,
+/// in the order of glext/extension_names.txt.
 void init_supported_extensions();
