@@ -115,10 +115,10 @@ class ViewWindow : public wenk::glutyAPI4 {
     std::string getCurrentTitleName() const;
 
     // Sizes, all in framebuffer pixels.
-    /// Adapts the window, only if `resize` is true, and the view to a new picture, by the option
-    /// resizetype. Calls `residue_resume` if the option reproduce is set, and then `residue_new` if
-    /// the result was false. Returns the last result, which no caller uses. If the option resetview
-    /// isn't set, does nothing and returns true.
+    /// Adapts the view to a new picture, and the window if `resize` is true. The option resizetype
+    /// decides how. Calls `residue_resume` if the option reproduce is set. If this isn't called or
+    /// returns false, calls `residue_new`. Returns the last result, which no caller uses. If the
+    /// option resetview isn't set, does nothing and returns true.
     bool residue(bool resize);
     /// Uses the stored view (app/zvwfile.h). Returns false if there is none.
     bool residue_resume(bool resize);
@@ -154,8 +154,8 @@ class ViewWindow : public wenk::glutyAPI4 {
     void menu_edit_save_zvwfile();
     /// Deletes the view state file. Prints nothing on failure.
     void menu_edit_delete_zvwfile();
-    /// Draws the scene and saves it as a JPEG file with the size of the framebuffer: "a.zvw.jpg" in
-    /// the directory of "a.png". On failure, prints the same as `menu_edit_save_zvwfile`.
+    /// Draws the scene and saves it as a JPEG file with the size of the framebuffer: "d/a.zvw.jpg"
+    /// for the picture "d/a.png". On failure, prints the same as `menu_edit_save_zvwfile`.
     void menu_file_savejpeg();
     /// Saves the options in the user default file. Prints nothing on failure.
     void menu_edit_writedefault();

@@ -8,7 +8,7 @@
 ///     -winsize 800x600
 ///
 /// Lines that don't start with a known option, and options without their value, are ignored. One
-/// blank or tab precedes the value; after two, the value is 0.
+/// blank or tab precedes the value; after two, it is read as 0.
 namespace zanolib {
 
 /// Reads the user default file into `g_option`. The file is "$HOME/.<prog>", or "<dir>/.<prog>" if
