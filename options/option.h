@@ -40,10 +40,11 @@ struct option_t {
     float window_ratio_of_image = 1.2f;    ///< side of a fitted window, picture as 1
     bool resize_magnify = true;            ///< a fitted window may grow
     bool resize_shrink = false;            ///< a fitted window may shrink
-    std::uint32_t sizelimit = 1;           ///< limit: 1 `maxmargin`, 2 `maxsize`, others none
-    libgr::direction2l_t maxmargin{10,
-                                   32};  ///< largest: the old window less this, screen coordinates
-    libgr::direction2l_t maxsize{1280, 960};   ///< largest, in framebuffer pixels
+    /// The limit of a fitted window: 1 is its old size less `maxmargin`, in screen coordinates, 2
+    /// is `maxsize`, in framebuffer pixels, and other values are no limit.
+    std::uint32_t sizelimit = 1;
+    libgr::direction2l_t maxmargin{10, 32};
+    libgr::direction2l_t maxsize{1280, 960};
     std::uint32_t cursor_movement = 1;         ///< an arrow key moves: 0 the picture, 1 the camera
     bool magsmooth = true;                     ///< no effect
     bool move_limit = false;                   ///< no effect
