@@ -31,20 +31,22 @@ struct gl_loading_format_t {
 ///     INDEX             -                           1 8                           -
 ///
 /// "packed" is R5G5B5A1 and R10G10B10A2. RG, DEPTH_STENCIL and YCbCr422 are rejected. YCbCr images
-/// are uploaded as if they were RGB. The rows are in gl/glformattables.cpp.
+/// are uploaded as if they were RGB. For example, RGB UINT 8 becomes GL_RGB8, GL_RGB and
+/// GL_UNSIGNED_BYTE.
+///
+/// OpenGL reads these components with more bits than image/image.h describes: 4 bits (except RGBA
+/// and BGRA) and L6A2 as one byte, 12 bits and SINT L12A4 as two bytes, 24 bits as four bytes.
 ///
 /// OpenGL rejects the upload of these, and the texture level doesn't change:
 ///
-///     Description                   Error                 Reason
-///     INTENSITY                     GL_INVALID_ENUM       GL_INTENSITY is no pixel format.
-///     DEPTH                         GL_INVALID_ENUM       The pixel type is GL_DEPTH_COMPONENT.
-///     UINT 1, except INDEX          GL_INVALID_ENUM       GL_BITMAP is a type for indices only.
-///     GRAYSCALE_ALPHA UINT L12A4    GL_INVALID_ENUM       The same.
-///     GREEN, BLUE                   GL_INVALID_VALUE      These are no internal formats.
-///     INDEX                         GL_INVALID_VALUE      GL_COLOR_INDEX is no internal format.
-///     RED SINT and UINT 8 16 32     GL_INVALID_OPERATION  GL_R8I and others need GL_RED_INTEGER.
-///     BGR R3G3B2 and R5G6B5         GL_INVALID_OPERATION  These pixel types need GL_RGB.
-///     `compressed` images           GL_INVALID_ENUM       No result is a compressed data format.
+///     INTENSITY                    GL_INTENSITY is no pixel format
+///     DEPTH                        the pixel type is GL_DEPTH_COMPONENT
+///     UINT 1, except INDEX         the pixel type GL_BITMAP is only allowed for indices
+///     GRAYSCALE_ALPHA UINT L12A4   the same
+///     GREEN, BLUE, INDEX           GL_GREEN, GL_BLUE, GL_COLOR_INDEX are no internal formats
+///     RED SINT and UINT 8 16 32    GL_R8I and others need GL_RED_INTEGER
+///     BGR R3G3B2 and R5G6B5        the packed pixel types need GL_RGB
+///     `compressed` images          no internal format is one of compressed data
 ///
 /// This is kept because callers depend on the GL calls. Convert INDEX images with `index2rgb`
 /// (image/pixelconvert.h). A core profile also rejects GRAYSCALE, GRAYSCALE_ALPHA and ALPHA.
@@ -53,11 +55,10 @@ struct gl_loading_format_t {
 /// has ARB_texture_compression. Other internal formats don't change.
 ///
 /// Returns true if `out` contains the result. Otherwise calls `grReportUnsupportedImage` and
-/// returns false; ignore `out` then. Makes no GL call. Before `gl_extloader_init`, `compress` has
-/// no effect.
+/// returns false; ignore `out` then. Makes no GL call.
 bool grConvertImageFormatToGlFormatFULL(gl_loading_format_t* out, image_desc_t desc, bool compress);
 
-/// Does the same, but prints nothing. Returns std::nullopt for a rejected description.
+/// Does the same without a report. Returns std::nullopt for a rejected description.
 std::optional<gl_loading_format_t> find_gl_format(image_desc_t desc, bool compress);
 
 /// Returns the internal format. For a rejected description, calls `grReportUnsupportedImage` and
@@ -65,8 +66,8 @@ std::optional<gl_loading_format_t> find_gl_format(image_desc_t desc, bool compre
 unsigned int internal_format_of(image_desc_t desc, bool compress);
 
 /// Prints four lines about a description on the error stream: "Not supported image format!", and
-/// the names of its format, type and bits. Then the stream prints integers in hexadecimal. This is
-/// kept because readers of the stream depend on it. Use std::dec before you print integers.
+/// the names of its format, type and bits. Then the stream prints integers in hexadecimal, because
+/// readers of the stream depend on it.
 void grReportUnsupportedImage(image_desc_t desc);
 
 }  // namespace libgr

@@ -40,9 +40,8 @@ class grDrawable3D {
 /// Nodes have pointers to their children and don't own them. A child must outlive the last `Draw`
 /// of its parent, or be removed from it. A child may have several parents.
 ///
-/// Nodes can be created, changed and destroyed without a context, and only `Draw` makes GL calls.
-/// grDspList (gl/grdsplist.h) is the exception: `Preload`, `Unload` and its destructor make GL
-/// calls.
+/// Nodes can be created, changed and destroyed without a context, because only `Draw` makes GL
+/// calls. The exceptions are `Preload`, `Unload` and the destructor of grDspList.
 class grObject3D : public grDrawable3D {
   public:
     /// Calls `Draw() const`.

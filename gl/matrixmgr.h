@@ -10,13 +10,7 @@
 namespace libgr {
 
 // Constructors and destructors need a current context. Destroy the objects in the reverse order of
-// their construction. This draws with a translation that ends with the block:
-//
-//     {
-//         libgr::grMatrixPusher const pusher(GL_MODELVIEW);
-//         glTranslatef(0, 0, -5);
-//         // ... draw ...
-//     }
+// their construction.
 
 /// Calls glBegin, and glEnd in the destructor. Call only vertex, colour and texture coordinate
 /// functions in between.

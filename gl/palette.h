@@ -11,8 +11,7 @@ namespace libgr {
 ///
 /// The texture classes load the palette of their first image themselves, if its format is
 /// IMAGE_FORMAT_INDEX, and use it for all images. grPalette is only needed for GL calls of your
-/// own, for example glDrawPixels. OpenGL rejects textures from INDEX images (see gl/glformat.h):
-/// convert them with `index2rgb` (image/pixelconvert.h).
+/// own, for example glDrawPixels. OpenGL rejects textures from INDEX images: see gl/glformat.h.
 class grPalette {
   public:
     grPalette() = default;

@@ -51,26 +51,22 @@ void grPixelStoreUnpack(image_window2d_t const& window);
 /// GL_UNPACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
 void grPixelStoreUnpack(image_window3d_t const& window);
 
-/// GL_PACK_SWAP_BYTES, GL_PACK_ALIGNMENT. Null does nothing.
+// These set the same parameters with GL_PACK_ instead of GL_UNPACK_.
 void grPixelStorePack(image_store_t const* store);
-/// GL_PACK_SKIP_PIXELS.
 void grPixelStorePack(image_window1d_t const& window);
-/// GL_PACK_ROW_LENGTH, GL_PACK_SKIP_PIXELS, GL_PACK_SKIP_ROWS.
 void grPixelStorePack(image_window2d_t const& window);
-/// GL_PACK_ROW_LENGTH, _IMAGE_HEIGHT, _SKIP_PIXELS, _SKIP_ROWS, _SKIP_IMAGES.
 void grPixelStorePack(image_window3d_t const& window);
 
 /// Allocates the bytes of an image for glReadPixels or glGetTexImage. Set the description, sizes,
 /// store and window before, and call grPixelStorePack with both afterwards.
 ///
 /// `pixelbytes` is the number of bytes that OpenGL writes for a pixel, at most 16. It may differ
-/// from the pixel size of the description. The image gets at least the bytes that
-/// `image.allocate()` allocates. If the image has no store, the bytes suffice for every value of
+/// from the pixel size of the description. If the image has no store, the bytes suffice for every
 /// GL_PACK_ALIGNMENT. Returns false if a side is 0 or there is no memory. Makes no GL call.
 bool grAllocateForPack(image2d_t& image, unsigned int pixelbytes);
 
 /// Returns the number of components, 1 to 4, of a pixel format of gl/glformat.h. Returns 0 for
-/// GL_INTENSITY, GL_STENCIL_INDEX and all other formats.
+/// GL_INTENSITY and all other formats.
 unsigned long grFormatToComponents(GLenum format);
 /// Returns the size, in bytes, of one component of a pixel type:
 ///

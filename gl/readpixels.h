@@ -28,9 +28,9 @@ bool grReadPixelsRGB(image2d_t& image);
 /// the initial glDepthRange, 0 is the near plane and 2^32 - 1 the far plane.
 ///
 /// The description is DEPTH, UINT, 24 bits, although a pixel has 32 bits: callers depend on it.
-/// Therefore `rowsize`, `pixel_row` and the pixel operations compute wrong addresses. The distance
-/// from one row to the next is `rowlength()` * 4 bytes, padded to the alignment of the store. With
-/// an alignment of 1, 2 or 4 there is no padding.
+/// So `rowsize`, `pixel_row` and the pixel operations compute wrong addresses. The distance from
+/// one row to the next is `rowlength()` * 4 bytes, padded to 8 bytes if the store has the alignment
+/// 8.
 ///
 /// Everything else is as in grReadPixelsRGB. GL_READ_BUFFER is set to GL_FRONT.
 bool grReadPixelsDepth(image2d_t& image);

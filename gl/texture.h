@@ -22,15 +22,14 @@
 /// }
 /// ```
 ///
-/// gl/glformat.h lists the image descriptions that are accepted. gl/texture2d.h describes the
-/// texture coordinates that a picture covers.
+/// gl/glformat.h lists the image descriptions that are accepted. grTexture2D::setImage
+/// (gl/texture2d.h) describes the texture coordinates that a picture covers.
 ///
 /// Context: call everything in this library from the thread of the GL context. Each function says
 /// if it needs a current context. Before `gl_extloader_init` (glext/glextloader.h) the GL functions
 /// are null pointers and each call of one crashes. A second context isn't supported.
 ///
-/// Owners: a grTextureObject owns the GL texture. Other objects aren't owned. Keep them until their
-/// last use:
+/// Owners: a grTextureObject owns the GL texture. Keep the other objects until their last use:
 ///
 ///     Object                              Last use
 ///     image record                        setImage, which keeps a copy that shares its bytes
@@ -50,13 +49,13 @@
 ///     grTexture1D, grTexture2D  `size` 0, GL_NEAREST or GL_LINEAR   yes
 ///     grTexture3D               no                                  yes
 ///     grTextureCubeMap          `size` > 0, GL_NEAREST or GL_LINEAR yes
-///     grTextureRectangle        yes                                 -
+///     grTextureRectangle        yes, but without grTextureObject    -
 ///
 /// Failures: uploads return no result. Images whose description gl/glformat.h rejects, or that have
-/// too few bytes, are reported on the error stream and skipped. If OpenGL rejects a level, for
-/// example because it exceeds GL_MAX_TEXTURE_SIZE, the level doesn't change. Call grPrintError
-/// (gl/grerror.h) after `Preload`: the error is printed by it, or was printed before. Errors of GLU
-/// are ignored. grMemoryWatch (gl/grerror.h) detects a lack of memory.
+/// fewer bytes than OpenGL would read, are reported on the error stream and skipped. If OpenGL
+/// rejects a level, for example because it exceeds GL_MAX_TEXTURE_SIZE, the level doesn't change
+/// and the upload prints the error or leaves it pending: call grPrintError (gl/grerror.h). Errors
+/// of GLU are ignored. grMemoryWatch (gl/grerror.h) detects a lack of memory.
 ///
 /// These functions change GL state and don't restore it:
 ///
@@ -119,7 +118,8 @@ struct grTextureMgr {
 
 /// A texture object. Copies made after `Preload` share one GL name. A copy made before is empty and
 /// independent. The destructor of the last copy deletes the texture and needs a current context if
-/// `isPreload()` is true.
+/// `isPreload()` is true. The other functions need a current context unless their comments say
+/// otherwise. Before `Preload`, all except GetTexImage do nothing and return false or 0.
 class grTextureObject : public grTexturableObject {
   public:
     /// Makes no GL call.
@@ -129,44 +129,40 @@ class grTextureObject : public grTexturableObject {
     ~grTextureObject() override = default;
 
     /// Creates the texture unless this object has one, binds it to the active texture unit, and
-    /// uploads `image`. The texture stays bound. Its target isn't enabled. Needs a current context.
+    /// uploads `image`. The texture stays bound. Its target isn't enabled.
     ///
     /// `image` must not be null and isn't owned. The object and its copies use it in `Reload` and
     /// `BindImage`. A texture can't change its target: until `clear`, all images must have the same
     /// dimension.
     void Preload(grTexturableImageGL const* image);
 
-    /// Returns the dimension of the target, or 0 before `Preload`. Makes no GL call.
+    /// Returns the `Dimension` of the image. Makes no GL call.
     unsigned long Dimension() const override;
     /// Binds the texture to the active texture unit. Before OpenGL 3.0 it also enables the target.
-    /// Uploads nothing. Does nothing before `Preload`. Needs a current context.
+    /// Uploads nothing.
     void Load() const override;
     /// Binds the texture and uploads the pixels of the image again. The images must have the sizes
-    /// that they had in `Preload`. Does nothing before `Preload`. Needs a current context.
+    /// that they had in `Preload`.
     void Reload() const override;
     bool isPreload() const override { return m_preloaded; }
-    /// Binds texture 0 to the target. Before OpenGL 3.0 it also disables the target. Does nothing
-    /// before `Preload`. Needs a current context.
+    /// Binds texture 0 to the target. Before OpenGL 3.0 it also disables the target.
     void Unload() const override;
-    /// Releases this object's share of the texture and empties the object. Needs a current context
-    /// if this is the last copy.
+    /// Empties the object. Deletes the texture if this is the last copy. Only this needs a current
+    /// context.
     void clear();
 
     /// Returns true if the texture is resident (EXT_texture_object), false without the extension.
-    /// Needs a current context.
     bool isResident() const;
     /// Calls glBindImageTexture for mipmap level `level`, layer 0, with the internal format of the
     /// first image. `access` is GL_READ_ONLY, GL_WRITE_ONLY or GL_READ_WRITE. OpenGL accepts
-    /// GL_RGBA8, for example, but not GL_RGB8. Does nothing before `Preload` and before OpenGL 4.2.
-    /// Needs a current context.
+    /// GL_RGBA8, for example, but not GL_RGB8. Does nothing before OpenGL 4.2.
     void BindImage(unsigned int unit, int level, unsigned int access) const;
-    /// Binds no texture to an image unit. Does nothing before `Preload` and before OpenGL 4.2.
-    /// Needs a current context.
+    /// Binds no texture to an image unit. Does nothing before OpenGL 4.2.
     void UnbindImage(unsigned int unit) const;
 
     /// Reads mipmap level `level` of the texture bound to `target`, which needn't be this one, into
     /// `img`. Row 0 is at t = 0. The target is GL_TEXTURE_1D, GL_TEXTURE_2D, GL_TEXTURE_RECTANGLE
-    /// or a face, for example GL_TEXTURE_CUBE_MAP_POSITIVE_X. Needs a current context.
+    /// or a face, for example GL_TEXTURE_CUBE_MAP_POSITIVE_X.
     ///
     /// The pixels of a floating-point texture become RGBA. Each component is a float of 4 bytes,
     /// even if `img.desc` has 16 bits. For a normalized or integer texture, for example GL_RGBA8,
@@ -180,8 +176,7 @@ class grTextureObject : public grTexturableObject {
     bool GetTexImage(unsigned int target, int level, image2d_t& img) const;
     /// Does the same for this object's texture, without binding it. For a cube map or a volume of
     /// several pictures, OpenGL reports GL_INVALID_OPERATION and the pixels of `img` are 0, but the
-    /// function returns true: call GetTexImage for each face. Returns false before `Preload` and
-    /// before OpenGL 4.5. Needs a current context.
+    /// function returns true: call GetTexImage for each face. Returns false before OpenGL 4.5.
     bool GetTextureImage(int level, image2d_t& img) const;
 
   private:

@@ -13,9 +13,8 @@ namespace libgr {
 /// are 0 during the upload and restored after it.
 class grTexture1D : public grTexturableLevels<image1d_t, texparameter1d_t> {
   public:
-    /// Sets the image of mipmap level `level` and removes the levels with higher numbers. If `size`
-    /// is 0, the texture has the width of the image. Otherwise its width, in texels, is the
-    /// smallest power of two that is at least `size` and the width of the image.
+    /// Sets the image of mipmap level `level` and removes the levels with higher numbers. `size`
+    /// determines the width of the texture as in grTexture2D::setImage.
     void setImage(image1d_t const& image, unsigned int size, unsigned long level);
     /// Sets the images of the levels from `level` on and keeps the other levels.
     void setImages(std::vector<image1d_t> const& images, unsigned int size, unsigned long level);

@@ -12,9 +12,8 @@ namespace libgr {
 /// (gl/texture2d.h) for the unpack parameters, skipped levels and `size`.
 class grTexture3D : public grTexturableLevels<image3d_t, texparameter3d_t> {
   public:
-    /// Sets the image of mipmap level `level` and removes the levels with higher numbers. If `size`
-    /// is 0, the texture has the size of the image. Otherwise it is a cube whose side is the
-    /// smallest power of two that is at least `size` and the sides of the image, in texels.
+    /// Sets the image of mipmap level `level` and removes the levels with higher numbers. A `size`
+    /// other than 0 makes the texture a cube, as it makes a square in grTexture2D::setImage.
     void setImage(image3d_t const& image, unsigned int size, unsigned long level);
     /// Sets the images of the levels from `level` on and keeps the other levels.
     void setImages(std::vector<image3d_t> const& images, unsigned int size, unsigned long level);

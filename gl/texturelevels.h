@@ -35,8 +35,7 @@ inline unsigned int longest_side(image3d_t const& image) {
 template <typename image_t, typename parameter_t>
 class grTexturableLevels : public grTexturableImageGL {
   public:
-    /// Sets whether OpenGL compresses textures with the internal format GL_ALPHA. It never
-    /// compresses others.
+    /// Sets whether textures with the internal format GL_ALPHA are compressed. Others never are.
     void setInternalCompression(bool compress) { m_internalcompression = compress; }
     /// Sets whether the mipmap levels 1 and up are generated from level 0. Given images of these
     /// levels replace the generated ones.

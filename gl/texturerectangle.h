@@ -24,9 +24,9 @@ class grTextureRectangle : public grTexturableImageGL {
 
     /// Returns GL_INVALID_VALUE if there is no image or its description is rejected.
     unsigned int GetInternalFormat() const override;
-    /// Returns 2, so a grTextureObject binds GL_TEXTURE_2D, while `Load` uploads to the texture
-    /// that is bound to GL_TEXTURE_RECTANGLE. The mismatch is kept because callers depend on it:
-    /// bind your own name to GL_TEXTURE_RECTANGLE and call `Load` directly.
+    /// Returns 2, so a grTextureObject binds GL_TEXTURE_2D, although `Load` uploads to
+    /// GL_TEXTURE_RECTANGLE. This is kept because callers depend on it. Don't use a
+    /// grTextureObject: bind a texture name to GL_TEXTURE_RECTANGLE and call `Load`.
     unsigned long Dimension() const override { return 2; }
     /// Allocates the texture that is bound to GL_TEXTURE_RECTANGLE and uploads the pixels. Does
     /// nothing for an image without bytes. Needs a current context.
