@@ -18,8 +18,8 @@ namespace zanoview2 {
 ///   2. A side that changes becomes `target`, up to a limit by `options.sizelimit`: 1 is `window`
 ///      less `options.maxmargin`, 2 is `options.maxsize`, and other values are no limit.
 ///
-/// With limit 1, a window that has as many pixels as screen coordinates can't grow, because its
-/// limit is smaller than its size. Users' settings depend on this rule.
+/// With limit 1, a window that has at least as many pixels as screen coordinates can't grow,
+/// because its limit is smaller than its size. Users' settings depend on this rule.
 libgr::direction2l_t limited_window_size(libgr::direction2l_t const& target,
                                          libgr::direction2l_t const& current,
                                          libgr::direction2l_t const& window,

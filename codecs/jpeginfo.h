@@ -68,9 +68,10 @@ class jpeginfo_t {
     /// decoded to row 0 and column 0, and overwrites a part of the frame. Callers depend on it.
     ///
     /// Returns true if the header is valid, even if rows cannot be decoded, as in a file that is
-    /// cut in the middle. Missing rows are 0 if `image` was empty, and otherwise have old bytes.
-    /// The only sure sign of them is a line with "decompress fail" on std::cerr. The failure reason
-    /// is usually set, too, but not for all files of several scans.
+    /// cut in the middle. Missing rows are 0 if `image` was empty before the call. Otherwise they
+    /// contain bytes of its old pixels, which are copied to the new memory. The only sure sign of
+    /// them is a line with "decompress fail" on std::cerr. The failure reason is usually set, too,
+    /// but not for all files of several scans.
     ///
     /// Returns false with an error line for a damaged header, if the picture or the square exceeds
     /// the limit jpeg-ratio or picture-memory (utils/limits.h), and for a square of more than 65535

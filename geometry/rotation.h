@@ -8,7 +8,7 @@
 namespace libgr {
 
 /// A rotation by `angle` degrees about `axis`, counter-clockwise seen from the tip of the axis. The
-/// axis may have any length.
+/// axis may have any length except 0.
 struct rotation3_t {
     float angle;
     direction3_t axis;

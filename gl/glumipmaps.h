@@ -18,8 +18,8 @@ namespace libgr {
 /// Return false, and upload nothing, in these cases:
 ///
 ///   - The image has more texels than `libutils::limits::glu_texels`. This prints a line.
-///   - There is no memory for a copy of the pixels. GLU may read past the end of the pixels, so it
-///     gets a copy of a volume, or if too few bytes follow the pixels.
+///   - There is no memory for a copy of the pixels. GLU may read past the end of the pixels. So
+///     volumes, and images with too few bytes after their pixels, are copied first.
 ///   - GLU would access memory outside its buffers: the pictures of a volume have only one row, or
 ///     the sides of a volume of packed pixels differ.
 ///

@@ -23,7 +23,7 @@ inline void grTranslate(position3_t const& p) {
     glTranslatef(p.x, p.y, p.z);
 }
 /// Multiplies the current matrix by `m`. OpenGL and geometry/matrix.h use the same memory order, so
-/// `m` isn't transposed. OpenGL's documents call the rows `m[0]` to `m[3]` columns.
+/// `m` isn't transposed. OpenGL calls the rows `m[0]` to `m[3]` columns.
 inline void grMultMatrix(matrix3w_t const& m) {
     glMultMatrixf(m.data());
 }

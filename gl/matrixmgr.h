@@ -42,7 +42,8 @@ class grMatrixModeKeeper {
 /// nothing, and the destructor restores the matrix of an outer grMatrixPusher. In enhanced mode
 /// there is no limit: matrices that don't fit on the GL stack are saved in memory.
 ///
-/// The mode, the limits and the matrices in memory are static: a second context isn't supported.
+/// Enhanced mode, the limits and the matrices in memory are static: a second context isn't
+/// supported.
 class grMatrixPusher : public grMatrixModeKeeper {
   public:
     /// A matrix stack of OpenGL, and the matrices in memory that don't fit on it.

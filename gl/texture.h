@@ -176,7 +176,8 @@ class grTextureObject : public grTexturableObject {
     bool GetTexImage(unsigned int target, int level, image2d_t& img) const;
     /// Does the same for this object's texture, without binding it. For a cube map or a volume of
     /// several pictures, OpenGL reports GL_INVALID_OPERATION and the pixels of `img` are 0, but the
-    /// function returns true: call GetTexImage for each face. Returns false before OpenGL 4.5.
+    /// function returns true: call GetTexImage for each face of a cube map. No function here reads
+    /// a volume. Returns false before OpenGL 4.5.
     bool GetTextureImage(int level, image2d_t& img) const;
 
   private:

@@ -27,8 +27,9 @@
 ///     is_GL_VERSION_3_0_supported          glGenerateMipmap and glGetStringi
 ///     is_GL_VERSION_4_2_supported to 4_6   those that the version added: glTexStorage2D
 ///
-/// The other functions of OpenGL 1.2 to 4.1 have no pointers: use those of the extensions. To add
-/// an extension, add it to glext/extension_names.txt and run tools/generate_glext.py.
+/// The other functions that OpenGL 1.2 to 4.1 added have no pointers, so a flag such as
+/// is_GL_VERSION_2_0_supported allows no calls. Use the functions of the extensions. To add an
+/// extension, add it to glext/extension_names.txt and run tools/generate_glext.py.
 
 #include <cstdint>
 
@@ -111,8 +112,8 @@ void addlist(char const* name);
 ///     "2.1"          "2.1.0"    -1   `a` ends first
 ///     "2.1 Driver"   "2.1.0"     1   "Driver" is 0, and `b` ends first
 ///
-/// So a context with the exact GL_VERSION "2.1" has no GL_VERSION_2_1, but usually text follows.
-/// The flags depend on this rule.
+/// `addexts` has "2.1.0" for GL_VERSION_2_1, so a context with the exact GL_VERSION "2.1" doesn't
+/// have it, but usually text follows. The flags depend on this rule.
 int numdotstrcmp(char const* a, char const* b);
 
 // The steps of `gl_extloader_init`, in the order of its calls. Programs don't call them.

@@ -35,9 +35,9 @@ namespace libgr {
 //   false, rejected     The description of `src` isn't supported, or pixels must be converted and
 //                       `src` is compressed or incomplete: it has bytes for only some of its
 //                       pixels. The state of `dst` is described with each function.
-//   false, no memory    Or the pixels don't fit into the window of `dst`. `dst` has the new
-//                       description and sizes, and undefined bytes, maybe too few. Only assign to
-//                       it or call `clear`.
+//   false, no room      There is no memory, or the pixels don't fit into the window of `dst`.
+//                       `dst` has the new description and sizes, and undefined bytes, maybe too
+//                       few. Only assign to it or call `clear`.
 //
 // image/image.h shows the conversion of a decoder's picture to RGBA.
 

@@ -66,8 +66,9 @@ class sof0_marker_t : public jpeg_bytes_t {
         unsigned char component_id;
         unsigned char horiz_factor;
         unsigned char verts_factor;
-        /// Not the quantization table (see `dqt_marker_t`), but the byte two positions after its
-        /// number, or 0 if the memory ends before it. Kept because `dump` prints it.
+        /// Not the number of the quantization table, which is `frame[8 + 3 * i]` (see
+        /// `dqt_marker_t`), but the byte at `10 + 3 * i`, or 0 if the memory ends before it. Kept
+        /// because `dump` prints it.
         unsigned char quatable_sel;
     };
 

@@ -24,11 +24,12 @@ enum e_message_t : unsigned {};
 ///
 /// Searches for "<prog>.<LANG>.msg", with the value of the variable LANG, and then for
 /// "<prog>.msg". Each is searched for in the working directory, in `dir` and in `site_directory`
-/// (options/option.h). `dir` ends in a slash. If it is empty, the directories of PATH are searched
-/// instead.
+/// (options/option.h). `dir` ends in a slash. If it is empty, the directories of PATH take its
+/// place, between the other two.
 ///
-/// Returns the path of the file. If there is none, prints an error line and returns "", and
-/// `getmsg` has no texts, not even of a file loaded earlier.
+/// Returns the path of the file. If there is none, prints "<path>: can't load message file." on the
+/// error stream, with the last path that it tried, and returns "", and `getmsg` has no texts, not
+/// even of a file loaded earlier.
 std::string init_message(char const* dir, char const* prog);
 
 /// Returns a line of the loaded file without its line end, or "message not loaded." if there is no

@@ -29,17 +29,17 @@ namespace zanolib {
 /// All settings with their built-in values. The program may change them at any time. The parser
 /// accepts values outside of the ranges given here. Screen coordinates are GLFW's.
 struct option_t {
-    bool h = false;             ///< print the help; only on the command line
-    bool verbose = false;       ///< print the lines of `report` (options/trace.h)
-    bool debug = false;         ///< print the lines of `trace` (options/trace.h)
-    std::uint32_t wintype = 0;  ///< 2: the window covers the work area; other bits have no effect
+    bool h = false;                          ///< print the help; only on the command line
+    bool verbose = false;                    ///< print the lines of `report` (options/trace.h)
+    bool debug = false;                      ///< print the lines of `trace` (options/trace.h)
+    std::uint32_t wintype = 0;               ///< bit 1 (value 2): the window covers the work area
     libgr::direction2l_t winsize{800, 600};  ///< size at the start, screen coordinates
-    std::uint32_t resizetype = 1;  ///< fitted to the other: 0 none, 1 the picture, 2 the window
-    float image_ratio_of_image = 1.0f;     ///< scale if `resizetype` is 0
-    float image_ratio_of_window = 0.875f;  ///< side of a fitted picture, window as 1
-    float window_ratio_of_image = 1.2f;    ///< side of a fitted window, picture as 1
-    bool resize_magnify = true;            ///< a fitted window may grow
-    bool resize_shrink = false;            ///< a fitted window may shrink
+    std::uint32_t resizetype = 1;            ///< 1 fits the picture to the window, 2 the reverse
+    float image_ratio_of_image = 1.0f;       ///< scale if `resizetype` is 0
+    float image_ratio_of_window = 0.875f;    ///< side of a fitted picture / side of the window
+    float window_ratio_of_image = 1.2f;      ///< side of a fitted window / side of the picture
+    bool resize_magnify = true;              ///< a fitted window may grow
+    bool resize_shrink = false;              ///< a fitted window may shrink
     /// The limit of a fitted window: 1 is its old size less `maxmargin`, in screen coordinates, 2
     /// is `maxsize`, in framebuffer pixels, and other values are no limit.
     std::uint32_t sizelimit = 1;
@@ -68,9 +68,9 @@ extern option_t g_option;
 /// text after a number is ignored, and a text without a number is 0. There are no error messages.
 enum e_option_type_t : std::uint32_t {
     OPTION_TYPE_BOOL = 0,     ///< bool: "-name" or "-name+" is true, "-name-" is false
-    OPTION_TYPE_ENUM = 1,     ///< std::uint32_t: an integer
+    OPTION_TYPE_ENUM = 1,     ///< the other std::uint32_t settings: an integer
     OPTION_TYPE_PERCENT = 2,  ///< float: its bits as an integer, 1063256064 for 0.875
-    OPTION_TYPE_ULONG = 3,    ///< std::uint32_t: an integer; 0 is ignored
+    OPTION_TYPE_ULONG = 3,    ///< `framewidth`, `doubleclick_interval`: an integer; 0 is ignored
     OPTION_TYPE_FLOAT = 4,    ///< float: a decimal number; no option has this type
     OPTION_TYPE_PAIR = 5,     ///< direction2l_t: two integers, 800x600; negative ones are ignored
     OPTION_TYPE_COLOR = 6     ///< color3aub_t: up to four bytes, 255,0,0,255

@@ -7,8 +7,8 @@
 ///     -verbose-
 ///     -winsize 800x600
 ///
-/// Lines that don't start with a known option, and options without their value, are ignored. One
-/// blank or tab precedes the value; after two, it is read as 0.
+/// Lines that don't start with a known option, and options without their value, are ignored.
+/// Exactly one blank or tab precedes the value. After two or more, the value is read as 0.
 namespace zanolib {
 
 /// Reads the user default file into `g_option`. The file is "$HOME/.<prog>", or "<dir>/.<prog>" if
@@ -20,8 +20,9 @@ void option_save_user_default(char const* prog, char const* dir);
 
 /// Applies the options of a file to `g_option`. Call `option_init` first.
 ///
-/// Returns false and prints an error line if the file has more than 1 MiB. If the file can't be
-/// read, returns true and prints nothing, because most users have no such file.
+/// Returns false, without a change of `g_option`, and prints the line of the limit `small-file`
+/// (utils/limits.h) if the file has more than 1 MiB. If the file can't be read, returns true and
+/// prints nothing, because most users have no such file.
 bool option_load(char const* path);
 
 /// Writes one line for each row of the option table. Replaces an old file or, if `path` is a

@@ -94,8 +94,10 @@ struct multi_square_image_t {
 ///
 /// For a limit, prints the line of `libutils::report_limit` (utils/limits.h) before. The limit
 /// `texel_ratio` is the number of texels in all tiles (`tile` squared for each) divided by the
-/// pixels of the picture. It rejects long narrow strips with more than `texels_unchecked` texels.
-/// After a failed copy, `m_cols` and `m_rows` are those of the plan.
+/// pixels of the picture. A picture is rejected if its tiles have more than `texels_unchecked`
+/// texels and the ratio exceeds `texel_ratio`. Only long narrow strips do. After a failed copy,
+/// `m_cols` and `m_rows` are those of the plan. In the last two cases, the other members have the
+/// values of the plan and of `in`.
 bool rectangle_to_squares(multi_square_image_t& out, libgr::image2d_t& in, unsigned long maxsize,
                           bool use_window);
 

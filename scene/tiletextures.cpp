@@ -89,7 +89,8 @@ void multi_texture_object_t::draw_image(libgr::position2_t const& btm_lft,
     libgr::grPrintError("after-glenable-tex2d");
     glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_REPLACE);
     libgr::grPrintError("after-gltexenv");
-    for (std::size_t index = 0; index < m_texobjs.size(); ++index) {
+    // Without columns, the textures belong to an earlier picture.
+    for (std::size_t index = 0; m_cols != 0 && index < m_texobjs.size(); ++index) {
         auto const c = static_cast<float>(index % m_cols);
         std::size_t const row = index / m_cols;
         auto const r = static_cast<float>(row);

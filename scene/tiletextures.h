@@ -54,7 +54,8 @@ struct multi_texture_object_t {
 };
 
 /// Sets up one texture for each tile of `in`. All textures have the same power-of-two size. If
-/// `out` has OpenGL textures, call `Unload` before. Creates no OpenGL object, but
+/// `out` has OpenGL textures, call `Unload` before: otherwise `draw_image` draws the old textures
+/// with the new rows and columns. Creates no OpenGL object, but
 /// `gl_extloader_init` must have been called. Always returns true.
 ///
 /// If GLU builds the mipmaps (see `isBuiltByGLU` in gl/texture2d.h), it stretches tiles that are

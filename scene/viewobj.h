@@ -50,9 +50,10 @@ class ViewObject : public libgr::grObject3D {
     /// line and returns true. Then `Draw` draws nothing and `libutils::failure_reason` isn't empty.
     ///
     /// Use a new object for each file, or call `free_texture` before the second call. Otherwise
-    /// `load_texture` keeps the old textures, and `Draw` uses them with the new size and tiles,
-    /// which can end the program. After false, `path` returns the new path, and the old tiles and
-    /// textures remain. `getImageSize` may return another size, to which `Draw` stretches them.
+    /// `load_texture` keeps the old textures, and `Draw` uses them with the new size and tiles.
+    /// After false, `path` returns the new path. The tiles and textures
+    /// of an earlier call remain; without an earlier call, `Draw` draws nothing. `getImageSize` may
+    /// return another size, to which `Draw` stretches them.
     ///
     /// Needs a current context, but creates no OpenGL object.
     bool setImage(char const* path, char const* datapath);

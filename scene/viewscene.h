@@ -53,8 +53,8 @@ namespace zanolib {
 /// the culling of back faces, and sets the clear colour to a gray of 0.18. To change the
 /// background, call glClearColor after `Init`. `Display` expects this state, the projection of
 /// `Reshape`, and the state that `multi_texture_object_t::draw_image` expects. It leaves the state
-/// that `draw_image` leaves, the matrix mode GL_MODELVIEW, a changed modelview matrix, and
-/// GL_LIGHT0 enabled.
+/// that `draw_image` leaves, the matrix mode GL_MODELVIEW, a changed modelview matrix, GL_LIGHT0
+/// enabled, and the current colour and the material of the photo frame.
 ///
 /// View: Each picture has a view matrix M, with row vectors as in geometry/matrix.h. The axes are
 /// those of the screen: x points right, y points up, and the origin is the centre of the
@@ -124,7 +124,8 @@ class ViewScene {
     ///   no regular file, other extension, no memory      none
     ///
     /// Returns true even if the picture can't be cut into tiles (see `rectangle_to_squares`). Then
-    /// only the frame is drawn, and `failure_reason` isn't empty. If there are tiles, it is empty.
+    /// only the frame is drawn. To detect this, call `clear_failure_reason` before `addImage`.
+    /// Afterwards `failure_reason` is empty only if there are tiles.
     bool addImage(char const* path, char const* datapath);
     /// Removes the current picture and deletes its OpenGL objects. The next picture becomes
     /// current, or the last if there is no next one. Returns false if no picture is current. If

@@ -33,7 +33,7 @@ extern char const* const memory_error;
 //       the end of the file.
 //   reallocate(p, newsize, offset)
 //       Returns a new block with the bytes of `p` that fit, and frees `p`. On failure, `p` stays
-//       valid.
+//       valid, except for 0 bytes; see `alloc_mmap_unix`.
 //   deallocate(p)
 //       Frees the block.
 //   failed(p)

@@ -12,7 +12,8 @@
 // libutils::clear_failure_reason();
 // if (!libutils::replace_file("a.txt", "text\n")) {
 //     libutils::reject_errno(errno);
-//     std::cerr << libutils::failure_reason() << std::endl;  // "Permission denied"
+//     // "Permission denied":
+//     std::cerr << libutils::putname(libutils::failure_reason()) << std::endl;
 // }
 // ```
 //
@@ -29,7 +30,7 @@
 // Set errno to 0 before a call that doesn't always set it. `reject_errno(0)` records "read error".
 //
 // The process has one recorded reason, without a lock. So one thread must call all functions that
-// print or record.
+// print a line, or that record, return or clear the reason.
 
 #include <iomanip>
 #include <ios>
