@@ -2,6 +2,8 @@
 // The photo frame around a picture.
 #pragma once
 
+#include <string>
+
 #include "geometry/color.h"
 #include "geometry/vector.h"
 #include "gl/grobject.h"
@@ -51,11 +53,13 @@ enum e_frametype_t : unsigned int {
 /// Each of these files is searched for in the working directory, then in `datapath`, then in
 /// `zanolib::site_directory` (options/option.h):
 ///
-///   File                        Is read by    If it is missing or damaged
-///   hairline.bmp                `init`        bump-mapped frames have no texture
-///   flower.bmp                  `init`        the frame of this look has no texture
-///   bumpmapv.vp1, bumpmapf.fp1  `make_graph`  prints an error line, uses the next path
+///   File                        Used by look  If it is missing or damaged
+///   hairline.bmp                bump-mapped   the frame has no texture
+///   flower.bmp                  flower        the frame has no texture
+///   bumpmapv.vp1, bumpmapf.fp1  bump-mapped   prints an error line, uses the next path
 ///
+/// The first `make_graph` that needs a BMP file reads it. All frames share its pixels afterwards.
+/// The programs are read by each `make_graph`.
 /// If OpenGL is older than 2.0, the sides of the two BMP pictures must be powers of two.
 class ViewFrame : public libgr::grObject3D {
   public:
@@ -64,21 +68,21 @@ class ViewFrame : public libgr::grObject3D {
     ViewFrame& operator=(ViewFrame const&) = delete;
     ~ViewFrame() override = default;
 
-    /// Loads the textures of all frames from hairline.bmp and flower.bmp, unless they are loaded.
-    /// `datapath` is put in front of the file names, so it must end in "/" and must not be null.
-    /// Prints an error line if hairline.bmp doesn't have 8 bits per pixel or a file exceeds the
-    /// limit `picture_memory` (utils/limits.h), but not if a file is missing or damaged. Creates no
-    /// OpenGL object, but `gl_extloader_init` must have been called.
+    /// Sets the directory of the BMP files. `datapath` is put in front of the file names, so it
+    /// must end in "/" and must not be null. Has no effect until `destroy` if called again.
     static void init(char const* datapath);
-    /// Releases the pixels that `init` loaded. Makes no GL call: OpenGL textures remain.
+    /// Releases the pixels of the BMP files. Makes no GL call: OpenGL textures remain.
     static void destroy();
 
     void setFrameType(e_frametype_t type);
     /// Sets the size of the picture and the width of the frame, in pixels of the picture.
     void setSize(libgr::direction2_t size, unsigned int width);
 
-    /// Creates the OpenGL objects of the look. If a program is missing or has an error, prints an
-    /// error line and uses the next path. Needs a current context.
+    /// Loads the files of the look and creates its OpenGL objects. `datapath` is the directory of
+    /// the programs and must end in "/". If a program is missing or has an error, prints an error
+    /// line and uses the next path. Prints an error line if hairline.bmp doesn't have 8 bits per
+    /// pixel or a BMP file exceeds the limit `picture_memory` (utils/limits.h). Needs a current
+    /// context.
     void make_graph(char const* datapath);
     /// Deletes the programs of the look and unbinds its textures. Needs a current context.
     void free_graph();
@@ -91,6 +95,10 @@ class ViewFrame : public libgr::grObject3D {
 
   private:
     enum class path_t { programs, combiners, plain };
+    enum class image_t { color, flower, bumps, cube };
+
+    /// Loads the pixels of an image that all frames share, unless it was loaded before.
+    static void load_once(image_t image);
 
     static bool has_programs();
     static bool has_combiners();
@@ -117,6 +125,8 @@ class ViewFrame : public libgr::grObject3D {
     float m_width = 0.0f;
 
     static bool s_inited;
+    static std::string s_datapath;
+    static unsigned int s_loaded_images;         ///< bit n is set if image_t n was loaded
     static libgr::grTexture2D s_monotex;         ///< "hairline.bmp" as colour
     static libgr::grTexture2D s_hairlinetex;     ///< "hairline.bmp" as a normal map
     static libgr::grTexture2D s_flowertex;       ///< "flower.bmp"

@@ -20,6 +20,8 @@
 namespace zanolib {
 
 bool ViewFrame::s_inited = false;
+std::string ViewFrame::s_datapath;
+unsigned int ViewFrame::s_loaded_images = 0;
 libgr::grTexture2D ViewFrame::s_monotex;
 libgr::grTexture2D ViewFrame::s_hairlinetex;
 libgr::grTexture2D ViewFrame::s_flowertex;
@@ -147,11 +149,31 @@ void ViewFrame::init(char const* datapath) {
     if (s_inited) {
         return;
     }
-    load_image_rgb(s_monotex, "hairline.bmp", datapath);
-    load_image_rgb(s_flowertex, "flower.bmp", datapath);
-    load_image_heightmap(s_hairlinetex, "hairline.bmp", 100.0f, datapath);
-    load_image_normalmap(s_normaltex);
+    s_datapath = datapath;
+    s_loaded_images = 0;
     s_inited = true;
+}
+
+void ViewFrame::load_once(image_t image) {
+    unsigned int const bit = 1U << static_cast<unsigned int>(image);
+    if (!s_inited || (s_loaded_images & bit) != 0) {
+        return;
+    }
+    s_loaded_images |= bit;
+    switch (image) {
+        case image_t::color:
+            load_image_rgb(s_monotex, "hairline.bmp", s_datapath.c_str());
+            break;
+        case image_t::flower:
+            load_image_rgb(s_flowertex, "flower.bmp", s_datapath.c_str());
+            break;
+        case image_t::bumps:
+            load_image_heightmap(s_hairlinetex, "hairline.bmp", 100.0f, s_datapath.c_str());
+            break;
+        case image_t::cube:
+            load_image_normalmap(s_normaltex);
+            break;
+    }
 }
 
 void ViewFrame::destroy() {
@@ -167,12 +189,14 @@ void ViewFrame::destroy() {
 
 void ViewFrame::make_graph(char const* datapath) {
     if (m_frametype == FRAMETYPE_FLOWER) {
+        load_once(image_t::flower);
         s_flowertexobj.Preload(&s_flowertex);
     }
     if (!is_bump_mapped()) {
         return;
     }
     if (has_programs()) {
+        load_once(image_t::bumps);
         s_hairlinetexobj.Preload(&s_hairlinetex);
         s_vertex_program_loaded =
             make_program(s_vertex_program, GL_VERTEX_PROGRAM_ARB, "bumpmapv.vp1", datapath);
@@ -186,9 +210,12 @@ void ViewFrame::make_graph(char const* datapath) {
         }
     }
     if (has_combiners()) {
+        load_once(image_t::bumps);
+        load_once(image_t::cube);
         s_hairlinetexobj.Preload(&s_hairlinetex);
         s_normaltexobj.Preload(&s_normaltex);
     } else {
+        load_once(image_t::color);
         s_monotexobj.Preload(&s_monotex);
     }
 }
