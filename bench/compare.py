@@ -65,10 +65,10 @@ def run_meter(viewer, directory, pages=PAGES, steps=0):
     return {name: statistics.median(numbers) for name, numbers in values.items()}
 
 
-def compare(width, height, viewers, what, steps=0):
+def compare(width, height, viewers, what, pages=PAGES, steps=0):
     """Runs the viewers in turns and prints a row of each value of `what` for each viewer."""
-    directory = make_pictures(width, height)
-    rounds = [{viewer[0]: run_meter(viewer, directory, PAGES, steps) for viewer in viewers}
+    directory = make_pictures(width, height, pages + 1)
+    rounds = [{viewer[0]: run_meter(viewer, directory, pages, steps) for viewer in viewers}
               for _ in range(ROUNDS)]
     print(f"\n{width} by {height} pixels, {ROUNDS} rounds:\n")
     print("| program | " + " | ".join(f"{text} | ratio" for text in what.values()) + " |")
@@ -167,8 +167,8 @@ def main():
     compare_libraries()
     print("\n## Redraw")
     steps = [viewer for viewer in installed if viewer[0] in (OURS, "imv")]
-    compare(6000, 4000, steps, {"step": "a step of the view, ms"}, STEPS)
-    compare(10000, 10000, steps, {"step": "a step of the view, ms"}, STEPS)
+    compare(6000, 4000, steps, {"step": "a step of the view, ms"}, 1, STEPS)
+    compare(10000, 10000, steps, {"step": "a step of the view, ms"}, 1, STEPS)
     print("\n## Scale")
     rows = measure_scale()
     measure_names()
