@@ -10,6 +10,7 @@ median over the rounds of the ratio within a round, with the smallest and the la
 import json
 import math
 import os
+import random
 import shutil
 import statistics
 import subprocess
@@ -19,7 +20,7 @@ import tempfile
 BUILD, PICTURES, ROUNDS = sys.argv[1], sys.argv[2], int(sys.argv[3])
 PAGES = 8
 STEPS = 100
-COLORS = "red", "lime", "blue", "yellow", "magenta", "cyan"
+COLORS = (255, 0, 0), (0, 255, 0), (0, 0, 255), (255, 255, 0), (255, 0, 255), (0, 255, 255)
 OURS, BARE = "zanoview3", "bare"
 
 # Name, key to page, key for a step of the view, command. "FILES" is replaced by the files of a directory.
@@ -33,19 +34,31 @@ VIEWERS = [
 ]
 
 
+def rows_of(width, height, seed, color):
+    """Returns the RGB rows of noise over a gradient with a solid block in the middle."""
+    noise = random.Random(seed)
+    deviation = [round(8 * statistics.NormalDist().inv_cdf((n + 0.5) / 256)) for n in range(256)]
+    tables = [bytes(min(max(gray + step, 0), 255) for step in deviation) for gray in range(256)]
+    left, right = 3 * (width * 3 // 8), 3 * (width * 5 // 8)
+    block = bytes(color) * ((right - left) // 3)
+    for y in range(height):
+        row = noise.randbytes(3 * width).translate(tables[51 + 153 * y // height])
+        inside = height * 3 // 8 <= y < height * 5 // 8
+        yield row[:left] + block + row[right:] if inside else row
+
+
 def make_pictures(width, height, count=9):
-    """Makes noise over a gradient with a solid block in the middle. Returns the directory."""
+    """Makes JPEGs whose middles have the colours that the meter expects. Returns the directory."""
     directory = os.path.join(PICTURES, f"{width}x{height}")
     os.makedirs(directory, exist_ok=True)
     for place in range(count):
         path = os.path.join(directory, f"{place:02}.jpg")
         if not os.path.exists(path):
-            block = [width * 3 // 8, height * 3 // 8, width * 5 // 8, height * 5 // 8]
-            subprocess.run(["convert", "-seed", str(place), "-size", f"{width}x{height}",
-                            "gradient:gray20-gray80", "-attenuate", "0.4", "+noise", "Gaussian",
-                            "-fill", COLORS[place % 6], "-draw", "rectangle {},{} {},{}".format(*block),
-                            "-type", "TrueColor", "-depth", "8", "-quality", "90",
-                            "-sampling-factor", "4:2:0", path], check=True)
+            with subprocess.Popen(["cjpeg", "-quality", "90", "-sample", "2x2", "-outfile", path],
+                                  stdin=subprocess.PIPE) as encoder:
+                encoder.stdin.write(b"P6 %d %d 255\n" % (width, height))
+                for row in rows_of(width, height, place, COLORS[place % 6]):
+                    encoder.stdin.write(row)
     return directory
 
 
