@@ -42,10 +42,8 @@ struct screen_row_t {
 };
 
 screen_row_t const screen_rows[] = {
-    {8, 6, 64, 64, 0, 28, 29, 1},
     {7, 5, 64, 64, 0, 29, 30, 1},
     {8, 6, 63, 61, 0, 28, 28, 1},
-    {7, 5, 63, 61, 0, 28, 28, 1},
     {300, 257, 64, 64, -100, -218, -196, 1},  // shows the edges of four tiles
     {8, 6, 64, 64, 0, 24, 26, 2},             // not smooth
 };
@@ -89,13 +87,11 @@ TEST_P(SceneMipmapTest, EachTexelIsDrawnOnOnePixel) {
         scene.Display();
         std::vector<unsigned char> seen(std::size_t{64} * 64 * 4);
         glReadPixels(0, 0, row.columns, row.rows, GL_RGBA, GL_UNSIGNED_BYTE, seen.data());
-        bool same = true;
-        for (int i = 0; i < row.columns * row.rows && same; ++i) {
+        for (int i = 0; i < row.columns * row.rows; ++i) {
             unsigned char const* const pixel = &seen[static_cast<std::size_t>(i) * 4];
             std::vector<int> const got{pixel[0], pixel[1], pixel[2]};
-            std::vector<int> const wanted = expected(row, i % row.columns, i / row.columns);
-            same = got == wanted;
-            EXPECT_EQ(got, wanted) << row.width << " in " << row.columns << ", pixel " << i;
+            ASSERT_EQ(got, expected(row, i % row.columns, i / row.columns))
+                << row.width << " in " << row.columns << ", pixel " << i;
         }
     }
 }
