@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Tests of the scene that compare the pixels that OpenGL draws.
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -52,12 +53,10 @@ screen_row_t const screen_rows[] = {
 std::vector<int> expected(screen_row_t const& row, int x, int y) {
     int const px = x - row.left;
     int const py = y - row.bottom;
-    auto const within = [&](int margin) {
-        return px >= -margin && px < static_cast<int>(row.width) * row.scale + margin &&
-               py >= -margin && py < static_cast<int>(row.height) * row.scale + margin;
-    };
-    if (!within(0)) {
-        return within(3 * row.scale) ? std::vector{10, 200, 30} : std::vector{46, 46, 46};
+    int const distance = std::max({-px, px - static_cast<int>(row.width) * row.scale + 1, -py,
+                                   py - static_cast<int>(row.height) * row.scale + 1});
+    if (distance > 0) {
+        return distance <= 3 * row.scale ? std::vector{10, 200, 30} : std::vector{46, 46, 46};
     }
     auto const channel = [&](unsigned n) {
         return test_channel(static_cast<unsigned>(px / row.scale),

@@ -14,14 +14,12 @@
 
 namespace {
 
-using libgr::direction2l;
 using zanolib::g_option;
 using zanolib::ViewScene;
 
 class SceneTest : public testing::Test {
   protected:
     SceneTest() {
-        gl.integers[GL_MAX_TEXTURE_SIZE] = {16384};
         gl.integers[GL_MAX_VIEWPORT_DIMS] = {1600, 1200};
         gl.muted.insert("glGetIntegerv");
     }
@@ -47,10 +45,7 @@ class SceneTest : public testing::Test {
 
 TEST_F(SceneTest, ViewOperationsAreAppliedInScreenAxes) {
     std::pair<void (*)(ViewScene&), char const*> const steps[] = {
-        {[](auto& scene) {
-             scene.Move({10, 0, 0}, 0);
-         },
-         "turned -90, scaled 1, at 10, 0"},
+        {[](auto& scene) { scene.Move(libgr::IdirX * 10, 0); }, "turned -90, scaled 1, at 10, 0"},
         {[](auto& scene) { scene.Rotate(120, 0); }, "turned 30, scaled 1, at -5, 8.66"},
         {[](auto& scene) { scene.Zoom(1, 0); }, "turned 30, scaled 2, at -10, 17.321"},
         {[](auto& scene) { scene.Scale(0.5, 0); }, "turned 30, scaled 1, at -5, 8.66"},
@@ -64,7 +59,7 @@ TEST_F(SceneTest, ViewOperationsAreAppliedInScreenAxes) {
     ViewScene scene, empty;
     EXPECT_EQ(empty.rightrotatecount(), 0U);
     ASSERT_TRUE(scene.addImage(write_turned_jpeg(dir.file("b.jpg"), 16, 8).c_str(), ""));
-    EXPECT_EQ(scene.getCurrentImageSize(), direction2l(16, 8)) << "as in the file";
+    EXPECT_EQ(scene.getCurrentImageSize(), libgr::direction2l(16, 8)) << "as in the file";
     for (auto const& [apply, view] : steps) {
         apply(scene);
         EXPECT_EQ(view_text(scene.getMatrix()), view);
@@ -136,7 +131,6 @@ TEST_F(SceneTest, TheExtensionSelectsTheCodec) {
                       {"gray.bmp", bmp(2, 2, 8, 0, pixels), "2, 2, GL_LUMINANCE"},
                       {"cut.bmp", bmp(2, 2, 24, 0, pixels), "2, 2, GL_BGR"},
                       {"x.tga", test_bmp(3, 2), ""},
-                      {"x.gif", test_bmp(3, 2), ""},
                       {"bmp", test_bmp(3, 2), ""},
                       {"no-width.bmp", bmp(0, 3, 24, 0, pixels), ""},
                       {"no-height.bmp", bmp(3, 0, 24, 0, pixels), ""}};
@@ -185,19 +179,17 @@ TEST_F(SceneTest, MakesDrawsAndFreesAPicture) {
     g_option.frametype = 0;
     ViewScene scene;
     scene.Init("");
-    std::string text = gl.take() + "-- added and moved\n";
     ASSERT_TRUE(add(scene, test_bmp(3, 2)));
     scene.Move({5, 0, 0}, 0);
-    text += gl.take() + "-- made\n";
+    gl.lines.emplace_back("-- made");
     EXPECT_TRUE(scene.make_graph(""));
-    text += gl.take() + "-- drawn\n";
+    gl.lines.emplace_back("-- drawn");
     EXPECT_TRUE(scene.make_graph(""));
     scene.Display();
-    text += gl.take() + "-- freed\n";
+    gl.lines.emplace_back("-- freed");
     scene.free_graph();
     scene.free_graph();
-    text += gl.take();
-    EXPECT_TRUE(matches_file(text, SCENE_CALLS));
+    EXPECT_TRUE(matches_file(gl.take(), SCENE_CALLS));
     scene.Display();
     EXPECT_EQ(take("glCallList"), "") << "without OpenGL objects";
     EXPECT_TRUE(scene.make_graph(""));
