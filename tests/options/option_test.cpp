@@ -8,7 +8,6 @@
 #include <iterator>
 #include <sstream>
 #include <tuple>
-#include <utility>
 #include <vector>
 
 #include "options/userdefault.h"
