@@ -50,12 +50,7 @@ TEST_F(Message, SplitsLinesAtLfOrCrLf) {
         write_file("p.msg", bytes);
         EXPECT_EQ(load(""), loaded) << bytes;
     }
-    write_file("p.msg", std::string((1 << 20) + 1, '\n'));
-    std::filesystem::create_symlink("/dev/null", "p.xx_YY.msg");
-    EXPECT_EQ(load("d/"), ": ") << "one file is too long, the other isn't a regular file";
-    EXPECT_EQ(capture.out() + capture.err(),
-              "p.msg: exceeds limit small-file (1048576 bytes).\n"
-              "/usr/site/share/zanolib/p.msg: can't load message file.\n");
+    EXPECT_EQ(capture.out() + capture.err(), "");
 }
 
 TEST_F(Message, PrefersTheLanguageAndThenTheWorkingDirectory) {
@@ -72,25 +67,18 @@ TEST_F(Message, PrefersTheLanguageAndThenTheWorkingDirectory) {
 
 TEST_F(Message, PrintsTheSearchUnderDebug) {
     zanolib::g_option.debug = true;
-    load("d/");
+    write_file("p.msg", std::string((1 << 20) + 1, '\n'));
+    std::filesystem::create_symlink("/dev/null", "p.xx_YY.msg");
+    EXPECT_EQ(load("d/"), ": ") << "one file is too long, the other isn't a regular file";
     std::string const site = "/usr/site/share/zanolib/", failed = "can't load message file.\n";
     EXPECT_EQ(capture.out(), "d/p.xx_YY.msg: warning " + failed + "d/p.msg: warning " + failed);
-    EXPECT_EQ(capture.err(), "init_message() entering.\n" + site + "p.xx_YY.msg: " + failed + site +
+    EXPECT_EQ(capture.err(), "init_message() entering.\n" + site + "p.xx_YY.msg: " + failed +
+                                 "p.msg: exceeds limit small-file (1048576 bytes).\n" + site +
                                  "p.msg: " + failed);
-    std::string const found = write_file(path.file("p.xx_YY.msg"), "a\n");
-    EXPECT_EQ(load(""), found + ": a|");
+    std::string const found = write_file(path.file("q.xx_YY.msg"), "a\n");
+    EXPECT_EQ(load("", "q"), found + ": a|");
     EXPECT_EQ(capture.out() + capture.err(), ": dirpath.\ninit_message() entering.\npath: " +
                                                  found + "\ninit_message() leaving.\n");
-}
-
-TEST_F(Message, LoadsBothTextsOfTheProgramsFiles) {
-    std::string const own = ZV_DATA_DIR "/zanoview3";
-    for (auto const& [lang, loaded] :
-         {std::pair{"ja_JP.UTF-8", ".ja_JP.UTF-8.msg: zanoview3|画像なし|"},
-          std::pair{"de_DE", ".msg: zanoview3|no picture|"}}) {
-        ::setenv("LANG", lang, 1);
-        EXPECT_EQ(load(ZV_DATA_DIR "/", "zanoview3"), own + loaded);
-    }
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Tests of the scene that compare the pixels that OpenGL draws.
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -42,10 +43,8 @@ struct screen_row_t {
 };
 
 screen_row_t const screen_rows[] = {
-    {8, 6, 64, 64, 0, 28, 29, 1},
     {7, 5, 64, 64, 0, 29, 30, 1},
     {8, 6, 63, 61, 0, 28, 28, 1},
-    {7, 5, 63, 61, 0, 28, 28, 1},
     {300, 257, 64, 64, -100, -218, -196, 1},  // shows the edges of four tiles
     {8, 6, 64, 64, 0, 24, 26, 2},             // not smooth
 };
@@ -54,12 +53,10 @@ screen_row_t const screen_rows[] = {
 std::vector<int> expected(screen_row_t const& row, int x, int y) {
     int const px = x - row.left;
     int const py = y - row.bottom;
-    auto const within = [&](int margin) {
-        return px >= -margin && px < static_cast<int>(row.width) * row.scale + margin &&
-               py >= -margin && py < static_cast<int>(row.height) * row.scale + margin;
-    };
-    if (!within(0)) {
-        return within(3 * row.scale) ? std::vector{10, 200, 30} : std::vector{46, 46, 46};
+    int const distance = std::max({-px, px - static_cast<int>(row.width) * row.scale + 1, -py,
+                                   py - static_cast<int>(row.height) * row.scale + 1});
+    if (distance > 0) {
+        return distance <= 3 * row.scale ? std::vector{10, 200, 30} : std::vector{46, 46, 46};
     }
     auto const channel = [&](unsigned n) {
         return test_channel(static_cast<unsigned>(px / row.scale),
@@ -89,13 +86,11 @@ TEST_P(SceneMipmapTest, EachTexelIsDrawnOnOnePixel) {
         scene.Display();
         std::vector<unsigned char> seen(std::size_t{64} * 64 * 4);
         glReadPixels(0, 0, row.columns, row.rows, GL_RGBA, GL_UNSIGNED_BYTE, seen.data());
-        bool same = true;
-        for (int i = 0; i < row.columns * row.rows && same; ++i) {
+        for (int i = 0; i < row.columns * row.rows; ++i) {
             unsigned char const* const pixel = &seen[static_cast<std::size_t>(i) * 4];
             std::vector<int> const got{pixel[0], pixel[1], pixel[2]};
-            std::vector<int> const wanted = expected(row, i % row.columns, i / row.columns);
-            same = got == wanted;
-            EXPECT_EQ(got, wanted) << row.width << " in " << row.columns << ", pixel " << i;
+            ASSERT_EQ(got, expected(row, i % row.columns, i / row.columns))
+                << row.width << " in " << row.columns << ", pixel " << i;
         }
     }
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cmath>
-#include <initializer_list>
+#include <iterator>
 #include <sstream>
 #include <string>
 
@@ -12,17 +12,6 @@
 #include "codecs/jpegobject.h"
 #include "geometry/matrix.h"
 #include "tests/support/files/testfiles.h"
-
-/// Little-endian words of 4 bytes.
-inline std::string words(std::initializer_list<unsigned> values) {
-    std::string bytes;
-    for (unsigned const value : values) {
-        for (unsigned shift = 0; shift < 32; shift += 8) {
-            bytes.push_back(static_cast<char>(value >> shift & 0xff));
-        }
-    }
-    return bytes;
-}
 
 /// Red, green or blue (0, 1, 2) of the test picture at a pixel.
 inline unsigned char test_channel(unsigned x, unsigned y, unsigned channel) {
@@ -33,9 +22,12 @@ inline unsigned char test_channel(unsigned x, unsigned y, unsigned channel) {
 /// A BMP with a palette of `palette` bytes. The body is the palette and the pixels.
 inline std::string bmp(unsigned width, unsigned height, unsigned bits, unsigned palette,
                        std::string const& body) {
-    return std::string("BM")
-        .append(words({0, 0, 54 + palette, 40, width, height, 1 | bits << 16, 0, 0, 0, 0, 0, 0}))
-        .append(body);
+    std::string bytes = "BM" + std::string(52, '\0') + body;
+    unsigned const fields[] = {54 + palette, 40, width, height, 1 | bits << 16};
+    for (std::size_t i = 0; i < 4 * std::size(fields); ++i) {
+        bytes[10 + i] = static_cast<char>(fields[i / 4] >> 8 * (i % 4));
+    }
+    return bytes;
 }
 
 /// The test picture as a BMP of 24 bits.

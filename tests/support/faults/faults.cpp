@@ -20,24 +20,15 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 
 #define GLFW_INCLUDE_NONE
 #include <GLFW/glfw3.h>
 
 namespace {
-
-struct kind_t {
-    std::string_view name;
-    int error;
-};
-constexpr kind_t open_kind{"open", EMFILE}, read_kind{"read", EIO}, write_kind{"write", ENOSPC},
-    mmap_kind{"mmap", ENOMEM}, truncate_kind{"ftruncate", ENOSPC}, rename_kind{"rename", EIO},
-    sync_kind{"fsync", EIO}, close_kind{"close", EDQUOT}, malloc_kind{"malloc", ENOMEM},
-    terminate_kind{"SIGTERM", 0};  // sent during a write
 
 struct {
     std::array<char, 16> kind;
@@ -55,45 +46,25 @@ struct {
 
 enum class owner_t { PROGRAM, BETWEEN, OTHER };
 
-/// The code of one loaded file.
-struct range_t {
-    std::uintptr_t begin, end;
-    owner_t owner;
-};
-std::array<range_t, 16> s_ranges;
-std::size_t s_range_count = 0;
-
-int add_range(dl_phdr_info* info, std::size_t, void*) {
-    std::string_view const name = info->dlpi_name;
-    auto owner = owner_t::OTHER;
+/// Returns the owner of the loaded file that contains the address. The program has no name.
+owner_t owner_of(void* address) {
+    dl_find_object object{};
+    if (_dl_find_object(address, &object) != 0) {
+        return owner_t::OTHER;
+    }
+    std::string_view const name = object.dlfo_link_map->l_name;
+    auto owner = name.empty() ? owner_t::PROGRAM : owner_t::OTHER;
     for (char const* word : {"libjpeg", "libpng", "libz."}) {
         owner = name.find(word) != name.npos ? owner_t::PROGRAM : owner;
     }
     for (char const* word : {"zv_faults", "libstdc++", "libc.so", "libgcc"}) {
         owner = name.find(word) != name.npos ? owner_t::BETWEEN : owner;
     }
-    owner = name.empty() && s_range_count == 0 ? owner_t::PROGRAM : owner;
-    for (int i = 0; i < info->dlpi_phnum && owner != owner_t::OTHER; ++i) {
-        ElfW(Phdr) const& segment = info->dlpi_phdr[i];
-        if (segment.p_type == PT_LOAD && (segment.p_flags & PF_X) != 0) {
-            std::uintptr_t const begin = info->dlpi_addr + segment.p_vaddr;
-            s_ranges.at(s_range_count++) = {begin, begin + segment.p_memsz, owner};
-        }
-    }
-    return 0;
-}
-
-owner_t owner_of(std::uintptr_t address) {
-    for (std::size_t i = 0; i < s_range_count; ++i) {
-        if (s_ranges[i].begin <= address && address < s_ranges[i].end) {
-            return s_ranges[i].owner;
-        }
-    }
-    return owner_t::OTHER;
+    return owner;
 }
 
 _Unwind_Reason_Code look_at_frame(_Unwind_Context* context, void* found) {
-    owner_t const owner = owner_of(_Unwind_GetIP(context));
+    owner_t const owner = owner_of(reinterpret_cast<void*>(_Unwind_GetIP(context)));
     *static_cast<owner_t*>(found) = owner;
     return owner == owner_t::BETWEEN ? _URC_NO_REASON : _URC_END_OF_STACK;
 }
@@ -102,7 +73,7 @@ _Unwind_Reason_Code look_at_frame(_Unwind_Context* context, void* found) {
 bool is_of_program(void* caller) {
     // The unwinder allocates memory under a lock if the process has generated code.
     [[gnu::tls_model("initial-exec")]] thread_local bool s_is_unwinding = false;
-    owner_t owner = owner_of(reinterpret_cast<std::uintptr_t>(caller));
+    owner_t owner = owner_of(caller);
     if (owner == owner_t::BETWEEN && !s_is_unwinding) {
         s_is_unwinding = true;
         _Unwind_Backtrace(look_at_frame, &owner);
@@ -112,22 +83,24 @@ bool is_of_program(void* caller) {
 }
 
 /// Counts a call. Returns true and sets errno if the call must fail.
-bool fails(kind_t const& kind, void* caller) {
-    if (kind.name != s_step.kind.data() || !is_of_program(caller)) {
+bool fails(std::string_view kind, int error, void* caller) {
+    if (kind != s_step.kind.data() || !is_of_program(caller)) {
         return false;
     }
     ++s_step.count;
     bool const is_hit = s_step.count >= s_step.first && s_step.count - s_step.first < s_step.number;
-    errno = is_hit ? kind.error : errno;
+    errno = is_hit ? error : errno;
     return is_hit;
 }
 
-/// Returns the function of the same name in the libraries.
-template <typename function_t>
-function_t* next(char const* name, function_t*) {
-    return reinterpret_cast<function_t*>(dlsym(RTLD_NEXT, name));
-}
-#define NEXT(function) next(#function, &function)
+/// The function of the same name in the libraries.
+#define NEXT(function) reinterpret_cast<decltype(&function)>(dlsym(RTLD_NEXT, #function))
+#define FAILS(kind, error) fails(kind, error, __builtin_return_address(0))
+/// Replaces a function. The further arguments are those of the call to the library.
+#define REPLACE(kind, error, failure, result, name, parameters, ...)   \
+    result name parameters {                                           \
+        return FAILS(kind, error) ? failure : NEXT(name)(__VA_ARGS__); \
+    }
 
 void take_step(char const* line) {
     s_step = {};
@@ -137,7 +110,6 @@ void take_step(char const* line) {
 }
 
 [[gnu::constructor]] void start() {
-    dl_iterate_phdr(add_range, nullptr);
     if (char const* first = std::getenv("FAULT")) {
         take_step(first);
     }
@@ -145,17 +117,10 @@ void take_step(char const* line) {
 
 /// Prints the result of the step and reads the next one.
 void next_step() {
+    std::printf("%ld\n", std::exchange(s_step, {}).count);
+    std::fflush(stdout);
     std::array<char, 128> line{};
-    int const length = std::snprintf(line.data(), line.size(), "%ld\n", s_step.count);
-    s_step = {};
-    NEXT(write)(STDOUT_FILENO, line.data(), static_cast<std::size_t>(length));
-    std::size_t end = 0;
-    while (end + 1 < line.size() && NEXT(read)(STDIN_FILENO, &line.at(end), 1) == 1 &&
-           line.at(end) != '\n') {
-        ++end;
-    }
-    line.at(end) = '\0';
-    take_step(end != 0 ? line.data() : "none 0 0 q");
+    take_step(std::fgets(line.data(), line.size(), stdin) != nullptr ? line.data() : "none 0 0 q");
 }
 
 }  // namespace
@@ -185,51 +150,34 @@ int open(char const* path, int flags, ...) {
     va_start(arguments, flags);
     unsigned const mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned) : 0;
     va_end(arguments);
-    return fails(open_kind, __builtin_return_address(0)) ? -1 : NEXT(open)(path, flags, mode);
-}
-
-// The C++ library opens files with it.
-FILE* fopen64(char const* path, char const* mode) {
-    return fails(open_kind, __builtin_return_address(0)) ? nullptr : NEXT(fopen64)(path, mode);
-}
-
-ssize_t read(int fd, void* bytes, std::size_t size) {
-    return fails(read_kind, __builtin_return_address(0)) ? -1 : NEXT(read)(fd, bytes, size);
+    return FAILS("open", EMFILE) ? -1 : NEXT(open)(path, flags, mode);
 }
 
 ssize_t write(int fd, void const* bytes, std::size_t size) {
     bool const is_file = fd > STDERR_FILENO;
-    if (is_file && fails(terminate_kind, __builtin_return_address(0))) {
+    if (is_file && FAILS("SIGTERM", 0)) {
         std::raise(SIGTERM);
     }
-    bool const is_failure = is_file && fails(write_kind, __builtin_return_address(0));
+    bool const is_failure = is_file && FAILS("write", ENOSPC);
     ssize_t const written = NEXT(write)(fd, bytes, is_failure ? size / 2 : size);
-    errno = is_failure ? write_kind.error : errno;
+    errno = is_failure ? ENOSPC : errno;
     return is_failure ? -1 : written;
-}
-
-void* mmap(void* hint, std::size_t size, int protection, int flags, int fd, off_t offset) noexcept {
-    return fails(mmap_kind, __builtin_return_address(0))
-               ? MAP_FAILED
-               : NEXT(mmap)(hint, size, protection, flags, fd, offset);
-}
-
-int ftruncate(int fd, off_t size) noexcept {
-    return fails(truncate_kind, __builtin_return_address(0)) ? -1 : NEXT(ftruncate)(fd, size);
-}
-
-int rename(char const* from, char const* to) noexcept {
-    return fails(rename_kind, __builtin_return_address(0)) ? -1 : NEXT(rename)(from, to);
-}
-
-int fsync(int fd) {
-    return fails(sync_kind, __builtin_return_address(0)) ? -1 : NEXT(fsync)(fd);
 }
 
 int close(int fd) {
     int const closed = NEXT(close)(fd);
-    return fails(close_kind, __builtin_return_address(0)) ? -1 : closed;
+    return FAILS("close", EDQUOT) ? -1 : closed;
 }
+
+// The C++ library opens files with fopen64.
+REPLACE("open", EMFILE, nullptr, FILE*, fopen64, (char const* path, char const* mode), path, mode)
+REPLACE("read", EIO, -1, ssize_t, read, (int fd, void* bytes, std::size_t size), fd, bytes, size)
+REPLACE("mmap", ENOMEM, MAP_FAILED, void*, mmap,
+        (void* hint, std::size_t size, int protection, int flags, int fd, off_t offset) noexcept,
+        hint, size, protection, flags, fd, offset)
+REPLACE("ftruncate", ENOSPC, -1, int, ftruncate, (int fd, off_t size) noexcept, fd, size)
+REPLACE("rename", EIO, -1, int, rename, (char const* from, char const* to) noexcept, from, to)
+REPLACE("fsync", EIO, -1, int, fsync, (int fd), fd)
 
 #ifndef __SANITIZE_ADDRESS__
 void* __libc_malloc(std::size_t size);
@@ -237,13 +185,13 @@ void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* block, std::size_t size);
 
 void* malloc(std::size_t size) noexcept {
-    return fails(malloc_kind, __builtin_return_address(0)) ? nullptr : __libc_malloc(size);
+    return FAILS("malloc", ENOMEM) ? nullptr : __libc_malloc(size);
 }
 void* calloc(std::size_t count, std::size_t size) noexcept {
-    return fails(malloc_kind, __builtin_return_address(0)) ? nullptr : __libc_calloc(count, size);
+    return FAILS("malloc", ENOMEM) ? nullptr : __libc_calloc(count, size);
 }
 void* realloc(void* block, std::size_t size) noexcept {
-    return fails(malloc_kind, __builtin_return_address(0)) ? nullptr : __libc_realloc(block, size);
+    return FAILS("malloc", ENOMEM) ? nullptr : __libc_realloc(block, size);
 }
 #endif
 

@@ -32,7 +32,6 @@ class temp_dir_t {
 
     std::string const& path() const { return m_path; }
 
-    /// Returns the path of a file in the directory: "<path>/<name>".
     std::string file(std::string const& name) const { return m_path + "/" + name; }
 
   private:
