@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The fixture of the codec tests, and JPEG files for them.
+// Makes JPEG files, decodes them with plain calls of libjpeg, and loads files in tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,6 +12,7 @@
 
 #include "codecs/imageobject.h"
 #include "codecs/jpegmanagers.h"
+#include "codecs/jpegobject.h"
 #include "tests/support/files/testfiles.h"
 #include "utils/diagnostics.h"
 
@@ -80,9 +81,8 @@ inline libgr::image2d_t image_of(unsigned int width, unsigned int height,
 
 /// A folder for one file, and the picture that is loaded from it.
 struct picture_test_t : testing::Test {
-    /// Returns "WIDTHxHEIGHT FORMAT BITS ENTRIES: BYTES" of the picture in a file, or the reason of
-    /// the failure.
-    template <typename codec_t>
+    /// Returns "WIDTHxHEIGHT FORMAT BITS ENTRIES: BYTES", or the reason of the failure.
+    template <typename codec_t = libgr::image_jpeg1_t>
     std::string load_file(std::string const& place) {
         codec_t codec;
         image = {};
@@ -103,7 +103,7 @@ struct picture_test_t : testing::Test {
         std::string text = out.str();
         return text.erase(text.find("IMAGE_FORMAT_"), 13).erase(text.find("IMAGE_BITS_"), 11);
     }
-    template <typename codec_t>
+    template <typename codec_t = libgr::image_jpeg1_t>
     std::string load(std::string const& bytes) {
         return load_file<codec_t>(write_file(file, bytes));
     }
@@ -148,6 +148,11 @@ inline std::string jpeg_of(layout_t const& layout, std::string const& segments =
     }
     cinfo.restart_interval = layout.restart;
     cinfo.arith_code = layout.arithmetic ? TRUE : FALSE;
+    jpeg_scan_info const scans[] = {{1, {0}, 0, 63, 0, 0}, {2, {1, 2}, 0, 63, 0, 0}};
+    if (layout.h * layout.v > 8) {  // one scan cannot contain all blocks of an MCU
+        cinfo.scan_info = scans;
+        cinfo.num_scans = 2;
+    }
     jpeg_start_compress(&cinfo, TRUE);
     for (unsigned int y = 0; y < layout.height; ++y) {
         std::vector<JSAMPLE> row;
