@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Tests of the Exif parser: blocks in both byte orders, valid, with changed fields, and cut
-// anywhere.
+// Tests of the Exif parser: blocks in both byte orders, with changed fields, and cut anywhere.
 #include "metadata/exif.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <iomanip>
 #include <set>
 #include <sstream>
 
@@ -70,7 +69,6 @@ std::pair<std::string, values_t> result_of(std::string const& payload) {
         std::string text = app1.parse() ? "valid\n" : "";
         text += captured.err();
         text = text.empty() ? "invalid\n" : text;
-        EXPECT_EQ(std::ranges::count(text, '\n'), 1) << text;
         return std::pair(text.substr(0, text.size() - 1), values_of(app1.tiff_header));
     };
     auto result = parse_within('\xFF');
@@ -94,7 +92,7 @@ std::string difference(values_t const& before, values_t const& after) {
 }
 
 TEST(Exif, ReadsBlocksWithChangedFields) {
-    // A Make, the note (exifblocks.h), changed fields, and the result of the parser.
+    // A Make, the note (exifblocks.h), changed fields, and the difference to no note and no change.
     std::istringstream lines(read_file(EXIF_ROWS));
     std::string text;
     for (std::string line; std::getline(lines, line);) {
@@ -103,9 +101,8 @@ TEST(Exif, ReadsBlocksWithChangedFields) {
         std::string maker, note, field;
         in >> std::quoted(maker) >> note;
         block_t intel(true, maker, note), motorola(false, maker, note);
-        block_t const usual = in.eof() ? block_t(true, maker, "none") : intel;
         values_t const before =
-            note == "none" && in.eof() ? values_t() : result_of(usual.app1()).second;
+            text.empty() ? values_t() : result_of(block_t(true, maker, "none").app1()).second;
         while (in >> field) {
             intel.change(field);
             motorola.change(field);

