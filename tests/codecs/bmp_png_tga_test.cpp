@@ -145,7 +145,6 @@ TEST_F(PictureFiles, WritersOfBmpAndTgaKeepTheFileIfTheyRejectThePicture) {
 }
 
 TEST_F(PictureFiles, TgaLoadsOrRejectsFiles) {
-    constexpr char const* tga_rle = "run-length encoded TGA";
     constexpr char const* map_of_bits = "TGA with a colour map of 2 entries of 24 bits";
     std::vector<std::pair<tga_t, char const*>> const rows = {
         {{2, 3, 2, 8, ramp(8)}, "3x2 GRAYSCALE 8 0: 8"},
@@ -161,7 +160,7 @@ TEST_F(PictureFiles, TgaLoadsOrRejectsFiles) {
         {{2, 2, 1, 15, ramp(4)}, "TGA with the unsupported depth of 15 bits"},
         {{0, 4, 1, 24, ramp(12)}, "TGA of the unsupported type 0"},
         {{3, 4, 1, 8, ramp(4)}, "TGA of gray levels"},
-        {{9, 4, 1, 8, ""}, tga_rle},
+        {{9, 4, 1, 8, ""}, "run-length encoded TGA"},
         {{2, 4, 1, 24, ramp(12), 0x20}, "TGA with the top row first"},
         {{2, 0, 1, 24, ""}, "no pixels"},
     };
