@@ -84,7 +84,6 @@ TEST_F(Jpeg, KeepsCompleteMarkersAndWritesThem) {
     EXPECT_TRUE(info.analyze_markers(data));
     EXPECT_EQ(info.markers.size(), 4u) << "with the JFIF header and the empty segment";
     EXPECT_TRUE(info.decompress(image, data, 0, false, white3ub));
-    EXPECT_EQ(info.markers.size(), 3u);
     EXPECT_EQ(info.get_marker(MARKER_APP13).size(), 8u);
     EXPECT_TRUE(info.get_marker(static_cast<e_marker_num_t>(17)).empty());
     jpegdata_t encoded;

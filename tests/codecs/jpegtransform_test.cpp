@@ -121,6 +121,8 @@ TEST(JpegTransformTest, MovesEachSampleByTheRule) {
     for (row_t const& row : rows) {
         expect_moved(row);
     }
+    pixels_t const larger = pixels_of(outcome(jpeg_of(rgb_layout), request(0, "48fx32f")));
+    EXPECT_EQ(larger.at(47, 31, 0), 135) << "not the mean of the last block";
 }
 
 TEST(JpegTransformTest, TurnsByCountsBelowFourInPlace) {
@@ -165,7 +167,6 @@ TEST(JpegTransformTest, RejectsCutAndTooLargeFiles) {
         bytes.replace(frame + 5, 4, "\xFE\xFE\xFE\xFE");
         std::string const text = outcome(bytes, request(JXFORM_ROT_90));
         EXPECT_TRUE(text.starts_with("nothing\nmemory: exceeds limit jpeg-ratio ")) << text;
-        EXPECT_TRUE(text.ends_with("memory: error detected.\nInsufficient memory (case 0)\n"));
     }
     std::string const text = outcome(jpeg_without_end(), request(0));
     EXPECT_NE(text.find("\nInvalid progressive parameters"), text.npos) << text;
