@@ -4,9 +4,7 @@
 
 #include <zlib.h>
 
-#include <string>
-
-#include "tests/codecs/picturebytes.h"
+#include "tests/codecs/jpegmaker.h"
 
 /// The defaults are the values that the BMP writer uses.
 struct bmp_t {
@@ -40,7 +38,6 @@ struct tga_t {
     }
 };
 
-/// Returns a chunk with its length and checksum.
 inline std::string chunk(std::string const& name, std::string const& data) {
     std::string const bytes = name + data;
     auto const* const start = reinterpret_cast<unsigned char const*>(bytes.data());

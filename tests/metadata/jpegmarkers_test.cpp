@@ -30,7 +30,6 @@ std::string result_of(jpeg_bytes_t const& payload) {
     std::string text = (is_valid ? "\n" : " -> ") + captured.err() + captured.out();
     marker.clear();
     EXPECT_EQ(payload.refcount(), 1U);
-    EXPECT_EQ(marker.count, M::to_end);
     marker.dump();
     EXPECT_EQ(captured.out().find_first_of("123456789"), std::string::npos);
     return text;
@@ -45,6 +44,7 @@ std::map<std::string, std::string (*)(jpeg_bytes_t const&)> const parsers = {
 };
 
 TEST(JpegMarkers, PrintsValidSegmentsAndRejectsOthers) {
+    // The bytes after "|" follow the segment. Without them, FF bytes follow.
     std::istringstream in(read_file(MARKER_ROWS));
     std::string text;
     for (std::string line; std::getline(in, line);) {
@@ -56,35 +56,14 @@ TEST(JpegMarkers, PrintsValidSegmentsAndRejectsOthers) {
             std::string const after = end == std::string::npos ? "FF*9" : bytes.substr(end + 1);
             text += row + parser->second(
                               window_of(listed_bytes(bytes.substr(0, end)), listed_bytes(after)));
-        } else if (line.starts_with("#")) {
-            text += line + "\n";
         }
     }
     EXPECT_TRUE(matches_file(text, MARKER_ROWS));
 }
 
-TEST(JpegMarkers, KeepsTheValuesReadBeforeAnErrorAndStartsAgain) {
-    capture_t const quiet;
-    sof0_marker_t frame;
-    frame.set_sof0_buffer(window_of(listed_bytes("8 1 10 1 2 2 1 44 0 2 33 0")));
-    EXPECT_FALSE(frame.parse());
-    EXPECT_EQ(frame.lines, 0x110);
-    EXPECT_EQ(frame.components.size(), 2U);
-    frame.set_sof0_buffer(window_of(listed_bytes("8 1 10 1 2 1 1 21 0"), ""));
-    EXPECT_TRUE(frame.parse());
-    EXPECT_EQ(frame.max_horiz, 2);
-    EXPECT_EQ(frame.max_verts, 1);
-    EXPECT_EQ(frame.components[0].quatable_sel, 0) << "the file ends before it";
-    dht_marker_t tables;
-    tables.set_dht_buffer(window_of(listed_bytes("1 0*16 2 0*16")));
-    EXPECT_FALSE(tables.parse());
-    EXPECT_EQ(tables.table_count, 1);
-    EXPECT_EQ(tables.tables[0].th, 1);
-}
-
 TEST(JpegMarkers, AssignsCanonicalHuffmanCodes) {
     dht_marker_t dht;
-    dht.set_dht_buffer(window_of(listed_bytes("11 0 2 3 0*13 1 2 3 4 F5")));
+    dht.set_dht_buffer(window_of(listed_bytes("1 0*16 0 0*16 10 0*16 11 0 2 3 0*13 1 2 3 4 F5")));
     ASSERT_TRUE(dht.parse());
     std::ostringstream codes;
     for (dht_marker_t::entry_t const& entry : dht.ac[1].entries) {
@@ -95,29 +74,11 @@ TEST(JpegMarkers, AssignsCanonicalHuffmanCodes) {
 
 TEST(JpegMarkers, ZigzagOrderFollowsTheDiagonals) {
     unsigned int place = 0;
-    for (unsigned int diagonal = 0; diagonal < 15; ++diagonal) {
-        for (unsigned int k = 0; k <= diagonal; ++k) {
-            unsigned int const y = diagonal % 2 != 0 ? k : diagonal - k;
-            if (y < 8 && diagonal - y < 8) {
-                EXPECT_EQ(zigzag_to_array[place++], 8 * y + diagonal - y) << place;
-            }
+    for (int diagonal = 0; diagonal < 15; ++diagonal) {
+        for (int k = std::max(0, diagonal - 7); k <= std::min(7, diagonal); ++k) {
+            int const y = diagonal % 2 != 0 ? k : diagonal - k;
+            EXPECT_EQ(zigzag_to_array[place++], 8 * y + diagonal - y) << place;
         }
-    }
-}
-
-TEST(JpegMarkers, ClearKeepsTheHuffmanTablesOfAScan) {
-    dht_marker_t tables;
-    sos_marker_t scan;
-    scan.set_dht_marker(&tables);
-    scan.clear();
-    EXPECT_EQ(scan.dht, &tables);
-    EXPECT_EQ(scan.ss + scan.se + scan.ah + scan.al, 0);
-}
-
-TEST(JpegMarkers, MarkerCodesFollowTheirNumbers) {
-    for (unsigned int number = 0; number < MARKER_COM; ++number) {
-        EXPECT_EQ(marker_array[number].number, number);
-        EXPECT_EQ(marker_array[number].code, 0xE0 + number);
     }
 }
 

@@ -20,8 +20,7 @@ inline libgr::jpeg_bytes_t window_of(std::string const& bytes,
     return window;
 }
 
-/// Returns the bytes of a list of hexadecimal numbers. "A*3" is three bytes 0x0A; the count is
-/// decimal.
+/// Returns the bytes of a list of hexadecimal numbers. "A*16" is 16 bytes 0x0A.
 inline std::string listed_bytes(std::string const& text) {
     std::istringstream in(text);
     std::string bytes, word;
