@@ -65,7 +65,7 @@ def bmp(quarters=BGR, bits=24, header=40, compression=0, height=HEIGHT):
 
 
 def tga(quarters=BGR, bits=24, kind=2, descriptor=0, width=WIDTH):
-    header = struct.pack("<3B2HB4H2B", 0, kind == 1, kind, 0, 0, 0, 0, 0, width, HEIGHT, bits, descriptor)
+    header = struct.pack("<3B2HB4H2B", 0, kind == 1, kind, 0, 4, 24, 0, 0, width, HEIGHT, bits, descriptor)
     return header + b"".join(rows(quarters, width)[::-1])
 
 
