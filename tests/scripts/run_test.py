@@ -72,8 +72,7 @@ class Run(unittest.TestCase):
             self.check_failure("no picture was shown", picture="a.gone", DISPLAY=screen)
             self.check_failure(status=42, picture="a.crash", DISPLAY=screen)
         (self.bin / "sudo").unlink()
-        self.check_failure("missing packages, to be installed as root: apt-get install xvfb\n",
-                           MISSING="xvfb", USER_ID="1000", DISPLAY="")
+        self.check_failure("as root: apt-get install xvfb\n", MISSING="xvfb", USER_ID="1000", DISPLAY="")
 
     def test_finds_a_screen(self):
         xwayland = subprocess.Popen(("/opt/Xwayland", "-c", "input()", "-rootless", ":6", "-auth", "key"),
@@ -91,13 +90,11 @@ class Run(unittest.TestCase):
             self.assertEqual("saved a screenshot" in output, display == ":42", output)
 
     def test_other_systems_and_requests(self):
-        shown = self.run_script("-winsize", "9x9", DISPLAY=":5")[2]
-        self.assertIn(f"-winsize 9x9 {self.build}/pictures\n", shown)
+        self.assertIn(f"9x9 {self.build}/pictures\n", self.run_script("-winsize", "9x9", DISPLAY=":5")[2])
         self.assertIn("\n-winsize XXXxYYY x\n", self.run_script("-verbose", "-h", "a.jpg", DISPLAY=":5")[1])
         self.assertIn("\ndisplay image: a.jpg\n", self.run_script("-debug", "a.jpg", DISPLAY=":5")[1])
         (self.bin / "apt-get").unlink()
-        output = self.run_script("a.jpg", DISPLAY=":5")[1]
-        self.assertIn("libraries of these Debian packages: g++", output)
+        self.assertIn("of these Debian packages: g++", self.run_script("a.jpg", DISPLAY=":5")[1])
 
 
 if __name__ == "__main__":
