@@ -27,8 +27,8 @@ for document in [*ROOT.glob("*.md"), *ROOT.glob("docs/*.md")]:
         if not re.search(rf"\({suite}, {case}\)|^class {suite}\b(?:(?!^class ).)*?^    def {case}\(",
                          sources, re.M | re.S):
             faults.append(f"{document.name}: there is no test {suite}.{case}")
-# A header that is renamed would be installed again.
-for name in re.search(r"foreach\(header (.*?)\)", (ROOT / "packaging/libraries.cmake").read_text())[1].split():
+libraries = (ROOT / "packaging/libraries.cmake").read_text()
+for name in re.search(r"foreach\(header (.*?)\)", libraries, re.S)[1].split():
     if not list(ROOT.glob(f"*/{name}")):
         faults.append(f"packaging/libraries.cmake: there is no header {name}")
 print("\n".join(faults) or "everything that the documents name exists")

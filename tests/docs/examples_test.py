@@ -1,6 +1,5 @@
 #!/usr/bin/env python3
 """Compiles the examples in the comments of the headers."""
-import concurrent.futures
 import os
 import pathlib
 import re
@@ -16,8 +15,7 @@ FUNCTION = re.compile(r"^(?!if|for|while|switch|else|do\b)\w[\w:<>,&* ]*\([^;]*?
 
 
 def program(header, code):
-    """Returns a source file with the example, which is the body of a function unless it defines
-    functions."""
+    """Returns a source file. An example without functions is the body of one."""
     includes = re.findall(r"^#include .*\n", code, re.M)
     code = re.sub(r"^#include .*\n", "", code, flags=re.M)
     if not FUNCTION.search(code):
@@ -30,14 +28,10 @@ class Examples(unittest.TestCase):
         programs = [(header, program(header, code))
                     for header in sorted(path.relative_to(SOURCE) for path in SOURCE.glob("*/*.h"))
                     for _, code in code_blocks(comments((SOURCE / header).read_text()))]
-        folders = {header.parts[0] for header, _ in programs}
-        self.assertLessEqual({"codecs", "geometry", "gl", "glext", "image", "metadata", "options", "scene", "utils",
-                              "window"}, folders)
-        with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-            results = pool.map(lambda source: subprocess.run(COMPILE, input=source[1], text=True,
-                                                             capture_output=True), programs)
-        for (header, text), result in zip(programs, results):
+        self.assertGreater(len(programs), 25)
+        for header, text in programs:
             with self.subTest(header=str(header)):
+                result = subprocess.run(COMPILE, input=text, text=True, capture_output=True)
                 self.assertEqual(result.returncode, 0, f"{text}\n{result.stderr}")
 
 

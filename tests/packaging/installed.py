@@ -32,12 +32,11 @@ class PackagingTest(ViewerTest):
         super().setUp()
         self.folder = pathlib.Path(self.folder.name)
 
-    def look(self, *command, frame="4", title="a.bmp (1/1) - zanoview3", expected=None, **start):
-        """Starts the viewer in the folder of a picture and waits for the title, and for the expected
-        look or for one that stays. Returns the content of the window."""
+    def look(self, *command, frame="4", expected=None, **start):
+        """Starts the viewer and waits for the expected look or for one that stays. Returns the look."""
         with Viewer("-frametype", frame, "-framewidth", "48", "a.bmp", command=command,
                     cwd=self.pictures, **start) as viewer:
-            viewer.await_title(title)
+            viewer.await_title("a.bmp (1/1) - zanoview3")
             # The desktop entry names this class, by which a desktop finds the icon.
             self.assertIn('"zanoview3", "zanoview3"', run("xprop", "-id", viewer.window, "WM_CLASS"))
             if not expected:
@@ -45,8 +44,8 @@ class PackagingTest(ViewerTest):
             return wait_for(f"the usual look from {command}", lambda: viewer.look() == expected)
 
     def check_start(self, command):
-        """Compares title, frame and error stream of `command` with those of a start from the build
-        folder, with both frames that need data files. Returns the look with the second one."""
+        """Compares the look of `command` with a start from the build folder, with both frames that need
+        data files. Returns the look with the second one."""
         self.new_screen()
         self.pictures = self.folder / "pictures"
         self.pictures.mkdir()

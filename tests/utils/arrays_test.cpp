@@ -2,7 +2,6 @@
 // Tests of the shared arrays, the owning pointers and the functions on bits and bytes.
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <malloc.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -29,8 +28,7 @@ using namespace libutils;
 using mapped_t = refvector2<unsigned char, alloc_mmap_unix>;
 using bytes_t = ofsvector<unsigned char, alloc_mmap_unix>;
 constexpr e_prot_t readonly = PROTECTION_READ, writable = PROTECTION_READWRITE;
-constexpr unsigned long huge = ~0UL / 2, to_end = bytes_t::to_end;
-constexpr unsigned long page = 4096, mebi = 1UL << 20;
+constexpr unsigned long huge = ~0UL / 2, to_end = bytes_t::to_end, page = 4096, mebi = 1UL << 20;
 
 std::string text(mapped_t const& bytes) {
     return {bytes.begin(), bytes.end()};
@@ -49,33 +47,28 @@ bytes_t filled(std::string const& bytes) {
     return array;
 }
 
-long open_file_count() {
-    std::filesystem::directory_iterator const entries("/proc/self/fd");
-    return std::distance(begin(entries), end(entries));
-}
-
 TEST(MappedArray, LoadsRangesOfFilesAndKeepsOldElementsOnRequest) {
     temp_dir_t const dir;
     write_file(dir.file("ten"), "0123456789");
     write_file(dir.file("pages"), std::string(page, 'a') + "after");
     write_file(dir.file("empty"), "");
     ASSERT_EQ(::mkfifo(dir.file("pipe").c_str(), 0600), 0);
-    long const files = open_file_count();
+    using entries_t = std::filesystem::directory_iterator;
+    long const files = std::distance(entries_t("/proc/self/fd"), {});
     using row_t = std::tuple<char const*, unsigned long, e_prot_t, unsigned long, char const*>;
     for (auto const& [name, number, prot, offset, loaded] :
          {row_t{"ten", 0, readonly, 0, "0123456789"}, row_t{"ten", 4, readonly, 0, "0123"},
-          row_t{"ten", 11, readonly, 0, "fails"}, row_t{"ten", huge, readonly, 0, "fails"},
+          row_t{"ten", 11, readonly, 0, "fails"},
           row_t{"ten", 0, static_cast<e_prot_t>(2), 0, "fails"},
-          row_t{"ten", 1, readonly, 1, "fails"}, row_t{"pages", 0, writable, page, "after"},
-          row_t{"pages", 6, readonly, page, "fails"}, row_t{"pages", 0, readonly, 8192, "fails"},
-          row_t{"empty", 0, readonly, 0, ""}, row_t{"pipe", 0, readonly, 0, ""},
-          row_t{"missing", 0, readonly, 0, "fails"}}) {
+          row_t{"pages", 0, writable, page, "after"}, row_t{"pages", 6, readonly, page, "fails"},
+          row_t{"pages", 0, readonly, 8192, "fails"}, row_t{"empty", 0, readonly, 0, ""},
+          row_t{"pipe", 0, readonly, 0, ""}, row_t{"missing", 0, readonly, 0, "fails"}}) {
         bytes_t array = filled("old");
         bool const is_loaded = load(array, dir.file(name), prot, number, offset);
         EXPECT_EQ(is_loaded ? text(array) : "fails", loaded) << name << number;
         EXPECT_EQ(array.is_allocated(), is_loaded) << name << number;
     }
-    EXPECT_EQ(open_file_count(), files);
+    EXPECT_EQ(std::distance(entries_t("/proc/self/fd"), {}), files);
 
     std::string const ten = dir.file("ten");
     bytes_t array = filled("abc");
@@ -89,8 +82,10 @@ TEST(MappedArray, LoadsRangesOfFilesAndKeepsOldElementsOnRequest) {
 
 TEST(MappedArray, ReadsZerosAfterTheFileWasTruncated) {
     temp_dir_t const dir;
-    std::string const path = dir.file("pages");
-    for (long const kept : {0L, 1L, 4096L, 5000L}) {
+    std::string const path = write_file(dir.file("pages"), std::string(page, 'a'));
+    file_descriptor_t const file(::open(path.c_str(), O_RDONLY));
+    void* const foreign = ::mmap(nullptr, page, PROT_READ, MAP_SHARED, file.get(), 0);
+    for (long const kept : {5000L, 4096L, 1L, 0L}) {
         write_file(path, std::string(3 * page + 100, 'a'));
         bytes_t whole, window;
         ASSERT_TRUE(load(whole, path, writable));
@@ -101,21 +96,8 @@ TEST(MappedArray, ReadsZerosAfterTheFileWasTruncated) {
         *(whole.end() - 1) = 'z';
         EXPECT_EQ(*(whole.end() - 1), 'z') << kept;
     }
-}
-
-TEST(MappedArray, LeavesOtherBusErrorsToTheirHandler) {
-    temp_dir_t const dir;
-    std::string const path = write_file(dir.file("pages"), std::string(page, 'a'));
-    bytes_t array;
-    ASSERT_TRUE(load(array, path, readonly));
-    file_descriptor_t const file(::open(path.c_str(), O_RDONLY));
-    void* const foreign = ::mmap(nullptr, page, PROT_READ, MAP_SHARED, file.get(), 0);
-    ASSERT_NE(foreign, MAP_FAILED);
-    ASSERT_EQ(::truncate(path.c_str(), 0), 0);
-    EXPECT_EQ(*array.begin(), 0);
     EXPECT_DEATH(::fputc(*static_cast<char volatile*>(foreign), stderr), "");
     EXPECT_DEATH(::raise(SIGBUS), "");
-    ::munmap(foreign, page);
 }
 
 TEST(MappedArray, ResizeOfAWindowCopiesItsBytes) {
@@ -130,17 +112,14 @@ TEST(MappedArray, ResizeOfAWindowCopiesItsBytes) {
         bytes_t window = whole;
         window.offset = offset;
         window.count = count;
+        EXPECT_FALSE(window.resize(huge, 0));
         ASSERT_TRUE(window.resize(newsize, 0));
-        std::string expected = kept;
-        expected.resize(newsize, '\0');
-        EXPECT_EQ(text(window), expected) << offset << ' ' << count;
+        EXPECT_STREQ(text(window).c_str(), kept) << offset << ' ' << count;
+        EXPECT_EQ(window.size(), newsize);
         *window.begin() = 'X';
         EXPECT_EQ(text(whole), "abcdefgh");
         EXPECT_EQ(whole.refcount(), 1U);
     }
-    bytes_t array = filled("abc");
-    EXPECT_FALSE(array.resize(huge, 0));
-    EXPECT_EQ(text(array), "abc");
 }
 
 TEST(MappedArray, ClampsWindowsToTheBlock) {
@@ -150,16 +129,11 @@ TEST(MappedArray, ClampsWindowsToTheBlock) {
     using row_t = std::tuple<unsigned long, unsigned long, long>;
     for (auto const& [offset, count, size] :
          {row_t{0, to_end, 3}, row_t{4, to_end, 2}, row_t{5, to_end, 1}, row_t{4, 1, 1},
-          row_t{4, huge, 2}, row_t{12, 1, 0}, row_t{13, 1, 0}, row_t{~0UL, 1, 0}}) {
+          row_t{4, huge, 2}, row_t{12, 1, 0}, row_t{13, 1, 0}}) {
         quads.offset = offset;
         quads.count = count;
         EXPECT_EQ(quads.end() - quads.begin(), size) << offset;
-        EXPECT_EQ(static_cast<long>(quads.size()), size) << offset;
     }
-    quads.offset = 4;
-    quads.count = 2;
-    EXPECT_TRUE(quads.resize(3, 0));
-    EXPECT_EQ(quads[0], (std::array<char, 4>{'2', '3', 0, 0})) << "the count limits the bytes";
 }
 
 TEST(MappedArray, ReusesALargeBlockFilledWithZeros) {
@@ -186,7 +160,6 @@ TEST(SharedArray, ResizeChangesTheBlockForAllHandles) {
         mapped_t const other = array;
         EXPECT_EQ(array.is_writable(), prot == writable);
         EXPECT_EQ(array.resize(12, 0), prot == readonly) << "a writable file isn't made longer";
-        EXPECT_EQ(text(other).substr(0, 10), "0123456789");
         EXPECT_TRUE(array.resize(3, 0));
         EXPECT_EQ(text(other), "012");
         EXPECT_FALSE(array.resize(0, 0));
@@ -194,12 +167,8 @@ TEST(SharedArray, ResizeChangesTheBlockForAllHandles) {
     }
     refvector2<unsigned char, alloc_new> array;
     ASSERT_TRUE(load(array, path, readonly));
-    EXPECT_EQ(array.size(), 10U);
     EXPECT_FALSE(array.resize(~0UL, 0));
-    std::size_t const used = ::mallinfo2().hblkhd;
-    EXPECT_TRUE(array.resize(8 * mebi, 0));
     EXPECT_TRUE(array.resize(4, 0));
-    EXPECT_EQ(::mallinfo2().hblkhd, used) << "the old block is freed";
     EXPECT_EQ(array[3], '3');
 }
 
@@ -214,9 +183,7 @@ TEST(TableArray, ResizeCopiesAndAssignmentShares) {
     EXPECT_EQ(second[1], 7);
     EXPECT_EQ(second[2], 0);
     EXPECT_EQ(second.size(), first.size() + 2) << "a number of bytes";
-    for (unsigned long const too_large : {~0UL, ~0UL / 2 + 1}) {
-        EXPECT_FALSE(second.resize(too_large));
-    }
+    EXPECT_FALSE(second.resize(~0UL / 2 + 1));
     EXPECT_EQ(second.count(), 3U);
     EXPECT_TRUE(second.resize(0));
     EXPECT_TRUE(second.empty());
@@ -236,22 +203,14 @@ TEST(Pointers, DestroyTheirObjectsOnce) {
         first.clear();
         first = std::move(second);
         first.create(*first);
-        EXPECT_EQ(first.refcount(), 1U);
         EXPECT_EQ(watched.use_count(), 3);
     }
     EXPECT_EQ(watched.use_count(), 1);
 }
 
-TEST(Bits, CountsAndRoundsUpToTheLastBit) {
-    using row_t = std::tuple<unsigned int, unsigned int, unsigned int>;
-    for (auto const& [value, top, up] : {row_t{0, 0, 0}, row_t{1, 1, 2}, row_t{5, 3, 8},
-                                         row_t{256, 9, 512}, row_t{0x80000001, 32, 0}}) {
-        EXPECT_EQ(Get_TopBitPos(value), top);
-        EXPECT_EQ(Is_2nSize(value), value == 1 || value == 256);
-        EXPECT_EQ(UpAlignBits(value, Get_TopBitPos(value)), up) << value;
-    }
-    EXPECT_EQ(motorola_byteorder().tohs(0x1234), 0x3412);
-    EXPECT_EQ(motorola_byteorder().tohl(0x12345678), 0x78563412U);
+TEST(Bits, RoundsUpToZeroAfterTheLastBit) {
+    EXPECT_EQ(UpAlignBits(0x80000001U, Get_TopBitPos(0x80000001U)), 0U);
+    EXPECT_EQ(UpAlignBits(0x40000001U, 31), 0x80000000U);
     EXPECT_EQ(motorola_byteorder().tohll(0x0102030405060708), 0x0807060504030201U);
 }
 
