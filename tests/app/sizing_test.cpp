@@ -15,9 +15,7 @@ TEST(Sizing, LimitsWidthAndHeightIndependently) {
         unsigned sizelimit;
         int wanted_x, wanted_y, x, y;
     };
-    // The window has 800 by 600 pixels, the margin is 10 by 32 and the largest size 1280 by 960.
-    // The margin is subtracted from the window's size, so that the window can't grow with
-    // sizelimit 1.
+    // The margin is 10 by 32, and the largest size 1280 by 960.
     row_t const rows[] = {
         {true, true, 0, 4800, 360, 4800, 360},  {true, false, 0, 4800, 360, 4800, 600},
         {false, true, 0, 4800, 360, 800, 360},  {false, false, 0, 4800, 360, 800, 600},

@@ -187,7 +187,7 @@ class session_t {
         }
         std::string text, line = step + ":";
         for (std::string const& part : parts) {
-            if (line.size() + part.size() > 109) {
+            if (line.size() + part.size() > 107) {
                 text += std::exchange(line, "   ") + "\n";
             }
             line += " " + part + (&part == &parts.back() ? "" : ";");
