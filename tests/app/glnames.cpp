@@ -23,7 +23,7 @@ function_t driver(char const* name) {
 }
 
 void count(std::size_t kind, std::int64_t change) {
-    static std::array<std::int64_t, 5> s_counts;
+    static std::array<std::int64_t, 3> s_counts;
     static int const file =
         open(std::getenv("ZANOVIEW3_GL_NAMES"), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
     s_counts[kind] += change;
@@ -37,7 +37,7 @@ struct row_t {
     void* generate_wrapper;
     void* remove_wrapper;
 };
-extern std::array<row_t, 5> const rows;
+extern std::array<row_t, 3> const rows;
 
 template <std::size_t kind>
 void generate(GLsizei n, GLuint* names) {
@@ -54,13 +54,13 @@ void remove(GLsizei n, GLuint const* names) {
 }
 
 GLuint generate_lists(GLsizei n) {
-    count(4, n);
+    count(2, n);
     return driver<GLuint (*)(GLsizei)>("glGenLists")(n);
 }
 
 void remove_lists(GLuint first, GLsizei n) {
     driver<void (*)(GLuint, GLsizei)>("glDeleteLists")(first, n);
-    count(4, first != 0 ? -n : 0);
+    count(2, first != 0 ? -n : 0);
 }
 
 template <std::size_t kind>
@@ -69,11 +69,9 @@ row_t row(char const* generated, char const* removed) {
             reinterpret_cast<void*>(remove<kind>)};
 }
 
-std::array<row_t, 5> const rows = {{
+std::array<row_t, 3> const rows = {{
     row<0>("glGenTextures", "glDeleteTextures"),
     row<1>("glGenProgramsARB", "glDeleteProgramsARB"),
-    row<2>("glGenBuffers", "glDeleteBuffers"),
-    row<3>("glGenFramebuffers", "glDeleteFramebuffers"),
     {"glGenLists", "glDeleteLists", reinterpret_cast<void*>(generate_lists),
      reinterpret_cast<void*>(remove_lists)},
 }};

@@ -50,37 +50,26 @@ def start_screen():
     return server
 
 
-def bmp_headers(width, height, bits, colours=0):
-    return struct.pack("<2s13I", b"BM", 0, 0, 54 + 4 * colours, 40, width, height, 1 | bits << 16,
-                       0, 0, 0, 0, 0, 0)
+def bmp_headers(width, height, bits):
+    return struct.pack("<2s13I", b"BM", 0, 0, 54, 40, width, height, 1 | bits << 16, 0, 0, 0, 0, 0, 0)
 
 
 def write_bmp(path, width, height, bits, pixel):
-    """Writes a BMP and returns its pixels as RGB bytes, top row first. `pixel(x, y)`, counted from
-    the top left corner, is a palette index below 2**bits for up to 8 bits, otherwise (r, g, b)."""
-    colours = 1 << bits if bits <= 8 else 0
-    palette = [(i * 67 % 256, i * 131 % 256, (255 - i) * 29 % 256) for i in range(colours)]
-    stride = (width * bits + 31) // 32 * 4
-    shown, rows = [], []
-    for y in range(height):
-        values = [pixel(x, y) for x in range(width)]
-        shown += [bytes(palette[v] if palette else v) for v in values]
-        if not palette:
-            values = [int.from_bytes((*v[::-1], 255)[:bits // 8], "big") for v in values]
-        digits = "".join(format(v, f"0{bits}b") for v in values).ljust(8 * stride, "0")
-        rows.append(int(digits, 2).to_bytes(stride, "big"))
+    """Writes a BMP of 24 or 32 bits and returns its pixels as RGB bytes, top row first.
+    `pixel(x, y)`, counted from the top left corner, is (r, g, b)."""
+    rows = [[bytes(pixel(x, y)) for x in range(width)] for y in range(height)]
     with open(path, "wb") as out:
-        out.write(bmp_headers(width, height, bits, colours))
-        out.write(b"".join(bytes((b, g, r, 0)) for r, g, b in palette))
-        out.write(b"".join(reversed(rows)))
-    return b"".join(shown)
+        out.write(bmp_headers(width, height, bits))
+        for row in reversed(rows):
+            line = b"".join(bytes((*rgb[::-1], 255)[:bits // 8]) for rgb in row)
+            out.write(line + bytes(-len(line) % 4))
+    return b"".join(map(b"".join, rows))
 
 
 class Viewer:
     """The program on the screen. At the end of its `with` block, presses `last_key` and checks that
     the program ends with status 0, without output, and with `errors`, a text or a pattern, on the
-    error stream. `command` must become the program by exec. The program prints to `stream`; by
-    default to a pipe and to a file, which take any number of lines. Without `with`, call close()."""
+    error stream. `command` must become the program by exec. Without `with`, call close()."""
 
     def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
                  executable=None, cwd=None, stream=None, **environment):

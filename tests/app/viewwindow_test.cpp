@@ -8,6 +8,7 @@
 #include <cctype>
 #include <iterator>
 #include <memory>
+#include <regex>
 #include <utility>
 
 #include "app/zvwfile.h"
@@ -88,12 +89,8 @@ std::vector<std::string> arguments_of(std::string const& step) {
     return {std::istream_iterator<std::string>(words), {}};
 }
 
-/// Returns true for a line of the report on an OpenGL error, which tests/gl/ checks.
-bool is_gl_report(std::string const& line) {
-    return std::ranges::any_of(std::initializer_list<char const*>{"before-", "internalformat:",
-                                                                  "m_border:", "format:", "type:"},
-                               [&](char const* start) { return line.starts_with(start); });
-}
+/// The report on an OpenGL error, which tests/gl/ checks.
+std::regex const gl_report("|(before-|internalformat:|m_border:|format:|type:).*");
 
 /// A viewer's window and the text of its steps: the different calls in words, those to OpenGL
 /// first, and the view if it has changed. The lines that the viewer printed follow after ">".
@@ -194,7 +191,7 @@ class session_t {
         }
         text += line + "\n";
         for (std::string const& printed : transcript::lines_of(m_console.out() + m_console.err())) {
-            text += printed.empty() || is_gl_report(printed) ? "" : "  > " + printed + "\n";
+            text += std::regex_match(printed, gl_report) ? "" : "  > " + printed + "\n";
         }
         return replace_all(text, m_folder.path() + "/", "");
     }
