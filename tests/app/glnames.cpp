@@ -1,26 +1,19 @@
 // SPDX-License-Identifier: MIT
 // Counts the OpenGL names of the viewer. Replaces glext/procaddress.cpp in a viewer for tests, and
 // wraps the functions that generate and delete names. The counts are 64-bit integers in the file
-// ZANOVIEW3_GL_NAMES, in the order of the rows, with display lists last.
+// ZANOVIEW3_GL_NAMES, in the order of the rows.
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <unistd.h>
 
 #include <array>
 #include <cstdint>
 #include <cstdlib>
-#include <set>
 #include <string_view>
 
 #include "glext/glextloader.h"
-#include "utils/filedescriptor.h"
 
 namespace {
-
-constexpr std::size_t lists = 4;  // the number of the kind of display lists, after the rows
-std::int64_t* counts = nullptr;
-std::array<std::set<GLuint>, lists + 1> live;
 
 /// Returns the driver's function.
 template <typename function_t>
@@ -29,87 +22,70 @@ function_t driver(char const* name) {
     return library != nullptr ? reinterpret_cast<function_t>(dlsym(library, name)) : nullptr;
 }
 
-void publish(std::size_t kind) {
-    counts[kind] = static_cast<std::int64_t>(live[kind].size());
+void count(std::size_t kind, std::int64_t change) {
+    static std::array<std::int64_t, 3> s_counts;
+    static int const file =
+        open(std::getenv("ZANOVIEW3_GL_NAMES"), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    s_counts[kind] += change;
+    if (pwrite(file, s_counts.data(), sizeof s_counts, 0) < 0) {
+        std::abort();
+    }
 }
 
 struct row_t {
     std::string_view generate, remove;
-    void (*generate_wrapper)(GLsizei, GLuint*);
-    void (*remove_wrapper)(GLsizei, GLuint const*);
+    void* generate_wrapper;
+    void* remove_wrapper;
 };
-extern std::array<row_t, lists> const rows;
+extern std::array<row_t, 3> const rows;
 
 template <std::size_t kind>
 void generate(GLsizei n, GLuint* names) {
     driver<void (*)(GLsizei, GLuint*)>(rows[kind].generate.data())(n, names);
-    live[kind].insert(names, names + n);
-    publish(kind);
+    count(kind, n);
 }
 
 template <std::size_t kind>
 void remove(GLsizei n, GLuint const* names) {
     driver<void (*)(GLsizei, GLuint const*)>(rows[kind].remove.data())(n, names);
     for (GLsizei i = 0; i < n; ++i) {
-        live[kind].erase(names[i]);
+        count(kind, names[i] != 0 ? -1 : 0);
     }
-    publish(kind);
 }
 
-std::array<row_t, lists> const rows = {{
-    {"glGenTextures", "glDeleteTextures", generate<0>, remove<0>},
-    {"glGenProgramsARB", "glDeleteProgramsARB", generate<1>, remove<1>},
-    {"glGenBuffers", "glDeleteBuffers", generate<2>, remove<2>},
-    {"glGenFramebuffers", "glDeleteFramebuffers", generate<3>, remove<3>},
-}};
-
 GLuint generate_lists(GLsizei n) {
-    GLuint const first = driver<GLuint (*)(GLsizei)>("glGenLists")(n);
-    for (GLuint i = 0; first != 0 && i < static_cast<GLuint>(n); ++i) {
-        live[lists].insert(first + i);
-    }
-    publish(lists);
-    return first;
+    count(2, n);
+    return driver<GLuint (*)(GLsizei)>("glGenLists")(n);
 }
 
 void remove_lists(GLuint first, GLsizei n) {
     driver<void (*)(GLuint, GLsizei)>("glDeleteLists")(first, n);
-    live[lists].erase(live[lists].lower_bound(first),
-                      live[lists].lower_bound(first + static_cast<GLuint>(n)));
-    publish(lists);
+    count(2, first != 0 ? -n : 0);
 }
 
-void open_counts() {
-    constexpr std::size_t size = (lists + 1) * sizeof *counts;
-    char const* const path = std::getenv("ZANOVIEW3_GL_NAMES");
-    libutils::file_descriptor_t const file(
-        path != nullptr ? open(path, O_RDWR | O_CREAT | O_CLOEXEC, 0600) : -1);
-    if (ftruncate(file.get(), size) != 0) {
-        std::abort();
-    }
-    void* const mapping = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, file.get(), 0);
-    counts = mapping != MAP_FAILED ? static_cast<std::int64_t*>(mapping) : nullptr;
+template <std::size_t kind>
+row_t row(char const* generated, char const* removed) {
+    return {generated, removed, reinterpret_cast<void*>(generate<kind>),
+            reinterpret_cast<void*>(remove<kind>)};
 }
+
+std::array<row_t, 3> const rows = {{
+    row<0>("glGenTextures", "glDeleteTextures"),
+    row<1>("glGenProgramsARB", "glDeleteProgramsARB"),
+    {"glGenLists", "glDeleteLists", reinterpret_cast<void*>(generate_lists),
+     reinterpret_cast<void*>(remove_lists)},
+}};
 
 }  // namespace
 
 void* __gl_GetProcAddress(char const* symbol) {
-    if (counts == nullptr) {
-        open_counts();
-    }
     for (row_t const& row : rows) {
         if (row.generate == symbol) {
-            return reinterpret_cast<void*>(row.generate_wrapper);
+            return row.generate_wrapper;
         }
         if (row.remove == symbol) {
-            return reinterpret_cast<void*>(row.remove_wrapper);
+            return row.remove_wrapper;
         }
-    }
-    if (symbol == std::string_view("glGenLists")) {
-        return reinterpret_cast<void*>(generate_lists);
-    }
-    if (symbol == std::string_view("glDeleteLists")) {
-        return reinterpret_cast<void*>(remove_lists);
     }
     return driver<void*>(symbol);
 }

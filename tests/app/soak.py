@@ -17,7 +17,7 @@ from viewerdriver import Viewer, run, start_screen, write_bmp, xdotool
 
 SEED = 20
 COUNTED = os.environ["ZANOVIEW3_COUNTED"]
-NAMES = "textures", "programs", "buffers", "framebuffers", "lists"
+NAMES = "textures", "programs", "lists"
 KINDS = ".jpg", ".jpeg", ".png", ".bmp", ".tga"
 CHANGES = ("space",) * 24 + ("shift+space",) * 6 + ("BackSpace", "shift+BackSpace") * 2 + ("End",)
 KEYS = ("Left Right Up Down Prior Next 0 1 2 3 9 asterisk slash minus Return g f w d s r F5 W "
@@ -33,25 +33,21 @@ def make_pictures(folder, dice, directory):
     for path in sorted(directory.rglob("*")) if directory else ():
         if path.suffix.lower() in KINDS:
             shutil.copy(path, folder / f"{len(os.listdir(folder)):03}{path.suffix}")
-    for bits in 1, 4, 8, 24, 32:
-        top = 1 << min(bits, 8)
-        write_bmp(folder / f"bmp{bits}.bmp", 130, 90, bits, lambda x, y: (x * y % top,) * 3
-                  if bits > 8 else x * y % top)
+    for bits in 24, 32:
+        write_bmp(folder / f"bmp{bits}.bmp", 130, 90, bits, lambda x, y: (x * y % 256, x, y))
     for name, *options in (("large.jpg", "-resize", "2000x1500!"), ("small.png", "-resize", "9x7"),
                            ("steps.jpg", "-interlace", "Plane"), ("gray.jpg", "-colorspace", "Gray"),
                            ("deep.png", "-depth", "16"), ("cmyk.jpg", "-colorspace", "CMYK"),
-                           ("colours.png", "-colors", "9"), ("padded.tga", "-resize", "32x32!"),
-                           ("wide.png", "-resize", "640x200!"), ("tall.jpg", "-resize", "300x900!")):
+                           ("colours.png", "-colors", "9"), ("colours.bmp", "-colors", "9"),
+                           ("padded.tga", "-resize", "32x32!")):
         run("convert", "rose:", *options, folder / name)
     for path in sorted(folder.iterdir()):
         good = path.read_bytes()
-        cut = bytearray(good[:dice.randrange(len(good))])
         head, body = bytearray(good), bytearray(good)
-        for _ in range(4):
-            head[dice.randrange(min(len(good), 100))] = dice.randrange(256)
         for _ in range(20):
+            head[dice.randrange(min(len(good), 300))] = dice.randrange(256)
             body[dice.randrange(len(good))] = dice.randrange(256)
-        for kind, data in ("cut", cut), ("head", head), ("body", body):
+        for kind, data in ("cut", good[:dice.randrange(len(good))]), ("head", head), ("body", body):
             path.with_stem(f"{path.stem}-{kind}").write_bytes(data)
             if dice.random() < 0.1:
                 path.with_stem(f"{path.stem}-{kind}").with_suffix(".zvw").write_bytes(head)
@@ -59,7 +55,7 @@ def make_pictures(folder, dice, directory):
 
 
 def interaction(dice):
-    """Returns words for xdotool: a key, a drag, a turn of the wheel or a change of the window's size."""
+    """Returns words for xdotool."""
     kind = dice.randrange(8)
     if kind < 4:
         return "key", dice.choice(KEYS)
@@ -107,7 +103,7 @@ class Soak:
         self.do("sleep", 0.3)
         pages = int((self.proc / "statm").read_text().split()[1])
         files = sorted(os.readlink(entry) for entry in (self.proc / "fd").iterdir())
-        names = struct.unpack("5q", self.names.read_bytes())
+        names = struct.unpack("3q", self.names.read_bytes())
         return pages * os.sysconf("SC_PAGESIZE"), files, dict(zip(NAMES, names))
 
 
@@ -135,8 +131,7 @@ def soak(changes, directory):
 
 def run_changes(user, changes, dice, files):
     step = max(20, changes // 20)
-    samples = []
-    change = 0
+    samples, change = [], 0
     while change < changes:
         words = []
         for _ in range(dice.randrange(3)):
@@ -159,9 +154,7 @@ def run_changes(user, changes, dice, files):
         growth = min(later[-third:]) - min(later[:third])
         print(f"growth of the resident set after 100 changes: {growth / MEGABYTE:.1f} MB")
         assert growth < MOST_GROWTH
-    shown = sum(a != b for a, b in zip(user.titles, user.titles[1:]))
-    print(f"{shown} changes of the title, {len(set(user.titles))} pictures")
-    assert shown > len(user.titles) / 4, "the keys don't reach the viewer"
+    assert len(set(user.titles)) > len(user.titles) / 10, "the keys don't reach the viewer"
 
 
 if __name__ == "__main__":

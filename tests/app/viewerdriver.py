@@ -2,7 +2,6 @@
 
 Waits end as soon as their condition is true. Their limit is for machines under heavy load."""
 import atexit
-import ctypes
 import os
 import re
 import struct
@@ -31,7 +30,6 @@ def wait_for(what, condition, seconds=MOST_SECONDS):
 
 
 def run(*words, check=True):
-    """Returns the standard output as bytes."""
     return subprocess.run(tuple(map(str, words)), check=check, capture_output=True).stdout
 
 
@@ -42,7 +40,7 @@ def xdotool(*words, check=True):
 def start_screen():
     """Starts a virtual screen for this process and its viewers. Returns the server, which ends with
     this process."""
-    server = subprocess.Popen(("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset"),
+    server = subprocess.Popen("Xvfb -displayfd 1 -screen 0 1280x1024x24 -noreset".split(),
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
     atexit.register(lambda: (server.terminate(), server.communicate()))
     os.environ["DISPLAY"] = f":{int(server.stdout.readline())}"
@@ -52,77 +50,26 @@ def start_screen():
     return server
 
 
-def bmp_headers(width, height, bits, colours=0):
-    return struct.pack("<2s13I", b"BM", 0, 0, 54 + 4 * colours, 40, width, height, 1 | bits << 16,
-                       0, 0, 0, 0, 0, 0)
+def bmp_headers(width, height, bits):
+    return struct.pack("<2s13I", b"BM", 0, 0, 54, 40, width, height, 1 | bits << 16, 0, 0, 0, 0, 0, 0)
 
 
 def write_bmp(path, width, height, bits, pixel):
-    """Writes a BMP and returns its pixels as RGB bytes, top row first. `pixel(x, y)`, counted from
-    the top left corner, is a palette index below 2**bits for up to 8 bits, otherwise (r, g, b)."""
-    colours = 1 << bits if bits <= 8 else 0
-    palette = [(i * 67 % 256, i * 131 % 256, (255 - i) * 29 % 256) for i in range(colours)]
-    stride = (width * bits + 31) // 32 * 4
-    shown, rows = [], []
-    for y in range(height):
-        values = [pixel(x, y) for x in range(width)]
-        shown += [bytes(palette[v] if palette else v) for v in values]
-        if not palette:
-            values = [int.from_bytes((*v[::-1], 255)[:bits // 8], "big") for v in values]
-        digits = "".join(format(v, f"0{bits}b") for v in values).ljust(8 * stride, "0")
-        rows.append(int(digits, 2).to_bytes(stride, "big"))
+    """Writes a BMP of 24 or 32 bits and returns its pixels as RGB bytes, top row first.
+    `pixel(x, y)`, counted from the top left corner, is (r, g, b)."""
+    rows = [[bytes(pixel(x, y)) for x in range(width)] for y in range(height)]
     with open(path, "wb") as out:
-        out.write(bmp_headers(width, height, bits, colours))
-        out.write(b"".join(bytes((b, g, r, 0)) for r, g, b in palette))
-        out.write(b"".join(reversed(rows)))
-    return b"".join(shown)
-
-
-class XImage(ctypes.Structure):
-    """The first fields of Xlib's structure."""
-    _fields_ = [("size", ctypes.c_int * 4), ("data", ctypes.c_void_p), ("form", ctypes.c_int * 5),
-                ("row_size", ctypes.c_int), ("pixel_bits", ctypes.c_int)]
-
-
-XLIB = ctypes.CDLL("libX11.so.6")
-XLIB.XOpenDisplay.restype = ctypes.c_void_p
-XLIB.XGetImage.restype = ctypes.POINTER(XImage)
-IGNORE_ERRORS = ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)(lambda *_: 0)
-XLIB.XSetErrorHandler(IGNORE_ERRORS)
-
-
-def window_pixels(window):
-    """Returns the width and height of the window's part on the screen, and its RGB bytes."""
-    display = ctypes.c_void_p(XLIB.XOpenDisplay(None))
-    numbers = [ctypes.c_long() for _ in range(7)]
-    root, x, y, width, height, *_ = numbers
-    window = ctypes.c_ulong(int(window))
-    XLIB.XGetGeometry(display, window, *map(ctypes.byref, numbers))
-    XLIB.XTranslateCoordinates(display, window, root, 0, 0, ctypes.byref(x), ctypes.byref(y),
-                               ctypes.byref(ctypes.c_ulong()))
-    x, y = (ctypes.c_int(number.value).value for number in (x, y))
-    left, top = max(0, -x), max(0, -y)
-    wide = min(width.value, XLIB.XDisplayWidth(display, 0) - x) - left
-    high = min(height.value, XLIB.XDisplayHeight(display, 0) - y) - top
-    all_planes, z_pixmap = ctypes.c_ulong(-1), 2
-    image = XLIB.XGetImage(display, window, left, top, wide, high, all_planes, z_pixmap)
-    data = b""
-    if image:
-        assert image[0].pixel_bits == 32 and image[0].row_size == 4 * wide, "an X screen of 24 bits"
-        data = ctypes.string_at(image[0].data, 4 * wide * high)
-        XLIB.XFree(ctypes.c_void_p(image[0].data))
-        XLIB.XFree(image)
-    XLIB.XCloseDisplay(display)
-    rgb = bytearray(len(data) // 4 * 3)
-    rgb[0::3], rgb[1::3], rgb[2::3] = data[2::4], data[1::4], data[0::4]
-    return wide, high, bytes(rgb)
+        out.write(bmp_headers(width, height, bits))
+        for row in reversed(rows):
+            line = b"".join(bytes((*rgb[::-1], 255)[:bits // 8]) for rgb in row)
+            out.write(line + bytes(-len(line) % 4))
+    return b"".join(map(b"".join, rows))
 
 
 class Viewer:
     """The program on the screen. At the end of its `with` block, presses `last_key` and checks that
     the program ends with status 0, without output, and with `errors`, a text or a pattern, on the
-    error stream. `command` must become the program by exec. The program prints to `stream`; by
-    default to a pipe and to a file, which take any number of lines. Without `with`, call close()."""
+    error stream. `command` must become the program by exec. Without `with`, call close()."""
 
     def __init__(self, *arguments, lang="C.UTF-8", last_key="q", errors="", command=(PROGRAM,),
                  executable=None, cwd=None, stream=None, **environment):
@@ -191,8 +138,10 @@ class Viewer:
         wait_for(f"{text!r} as title", lambda: text in xdotool("getwindowname", self.window))
 
     def look(self):
-        """Returns the width, height and RGB bytes of the window."""
-        return window_pixels(self.window)
+        """Returns the width, height and RGB bytes of the window's part on the screen."""
+        shot = run("import", "-silent", "-window", self.window, "-depth", 8, "ppm:-", check=False)
+        head = re.match(rb"P6\s(\d+) (\d+)\s255\s", shot)
+        return (int(head[1]), int(head[2]), shot[head.end():]) if head else (1, 0, b"")
 
     def stays(self):
         """Returns the same as look(), or None if it has just changed or has only one colour."""
@@ -201,8 +150,8 @@ class Viewer:
         return shot if len(set(shot[2])) > 1 and shot == self.look() else None
 
     def box(self):
-        """Returns the first and last column and row that differ from the background: left, top,
-        right, bottom. Returns None if there are none."""
+        """Returns the first and last column and row that differ from the background, or None: left,
+        top, right, bottom."""
         width, _, data = self.look()
         rows = [data[at:at + 3 * width] for at in range(0, len(data), 3 * width)]
         ys = [y for y, row in enumerate(rows) if row != GRAY * width]
@@ -213,13 +162,8 @@ class Viewer:
         return left, ys[0], right, ys[-1]
 
     def await_box(self, *bounds, slack=0):
-        def is_there():
-            self.last_box = self.box()
-            return self.last_box and all(abs(a - b) <= slack for a, b in zip(self.last_box, bounds))
-        try:
-            wait_for(f"the picture at {bounds}", is_there)
-        except AssertionError as failure:
-            raise AssertionError(f"{failure}; it is at {self.last_box}") from None
+        wait_for(f"the picture at {bounds}", lambda: (box := self.box()) and all(
+            abs(a - b) <= slack for a, b in zip(box, bounds)))
 
 
 def part(shot, left, top, width, height):

@@ -2,51 +2,8 @@
 // The functions of GLFW that the project calls.
 #include "tests/support/glfw/fakeglfw.h"
 
-#include <gtest/gtest.h>
-
 #include <stdexcept>
 #include <utility>
-
-namespace {
-
-GLFWwindow& live(GLFWwindow* window) {
-    EXPECT_FALSE(window->destroyed) << window->name << " is used after it was destroyed";
-    return *window;
-}
-
-}  // namespace
-
-std::string fake_glfw_t::take_calls(std::string const& prefix) {
-    std::string text;
-    for (std::string const& line : std::exchange(calls, {})) {
-        text += line.starts_with(prefix) ? line + "\n" : "";
-    }
-    return text;
-}
-
-void fake_glfw_t::fire_key(int key, int action, int mods) {
-    window().keys_down.erase(key);
-    if (action != GLFW_RELEASE) {
-        window().keys_down.insert(key);
-    }
-    fire(&GLFWwindow::key, key, 0, action, mods);
-}
-
-void fake_glfw_t::fire_cursor(double x, double y) {
-    window().cursor_x = x;
-    window().cursor_y = y;
-    fire(&GLFWwindow::cursor, x, y);
-}
-
-void fake_glfw_t::fire_size(int width, int height) {
-    window().width = width;
-    window().height = height;
-    fire(&GLFWwindow::size, width, height);
-}
-
-void fake_glfw_t::fire_drop(std::vector<char const*> paths) {
-    fire(&GLFWwindow::drop, static_cast<int>(paths.size()), paths.data());
-}
 
 GLFWwindow* glfwCreateWindow(int width, int height, char const* title, GLFWmonitor* monitor,
                              GLFWwindow* share) {
@@ -56,17 +13,10 @@ GLFWwindow* glfwCreateWindow(int width, int height, char const* title, GLFWmonit
         return nullptr;
     }
     auto& windows = fake_glfw_t::current->windows;
-    GLFWwindow& window = windows.emplace_back();
-    window.name.append("w").append(std::to_string(windows.size()));
-    window.title = title;
-    window.width = width;
-    window.height = height;
-    return &window;
-}
-
-void glfwDestroyWindow(GLFWwindow* window) {
-    record_call("glfwDestroyWindow", live(window).name);
-    window->destroyed = true;
+    windows.push_back({.name = std::string("w").append(std::to_string(windows.size() + 1)),
+                       .width = width,
+                       .height = height});
+    return &windows.back();
 }
 
 void glfwWaitEvents() {
@@ -76,14 +26,14 @@ void glfwWaitEvents() {
         return;
     }
     if (!glfw.script.empty()) {
-        auto const step = std::move(glfw.script.front());
-        glfw.script.pop_front();
-        return step();
+        glfw.script.front()();
+        return glfw.script.pop_front();
+    }
+    if (std::exchange(glfw.has_ended, true)) {
+        throw std::runtime_error("the program waits again after the last event");
     }
     for (GLFWwindow& window : glfw.windows) {
-        if (std::exchange(window.should_close, true) && !window.destroyed) {
-            throw std::runtime_error("the program waits again after the last event");
-        }
+        window.should_close = true;
     }
 }
 
@@ -93,24 +43,23 @@ void glfwPostEmptyEvent() {
 }
 
 int glfwWindowShouldClose(GLFWwindow* window) {
-    return live(window).should_close ? GLFW_TRUE : GLFW_FALSE;
+    return window->should_close ? GLFW_TRUE : GLFW_FALSE;
 }
 
-// Functions that are only recorded, that set a callback, and that return two numbers.
-#define RECORD(function)                           \
-    void function(GLFWwindow* window) {            \
-        record_call(#function, live(window).name); \
+#define RECORD(function)                      \
+    void function(GLFWwindow* window) {       \
+        record_call(#function, window->name); \
     }
 #define BIND(function, type, event)                    \
     type function(GLFWwindow* window, type callback) { \
-        record_call(#function, live(window).name);     \
         return std::exchange(window->event, callback); \
     }
 #define ASK(function, type, first, second)                      \
     void function(GLFWwindow* window, type* one, type* other) { \
-        *one = live(window).first;                              \
+        *one = window->first;                                   \
         *other = window->second;                                \
     }
+RECORD(glfwDestroyWindow)
 RECORD(glfwMakeContextCurrent)
 RECORD(glfwSwapBuffers)
 RECORD(glfwIconifyWindow)
@@ -128,27 +77,24 @@ ASK(glfwGetWindowPos, int, x, y)
 ASK(glfwGetCursorPos, double, cursor_x, cursor_y)
 
 void glfwSetWindowTitle(GLFWwindow* window, char const* title) {
-    record_call("glfwSetWindowTitle", live(window).name, title);
-    window->title = title;
+    record_call("glfwSetWindowTitle", window->name, title);
 }
 
 void glfwSetWindowSize(GLFWwindow* window, int width, int height) {
-    record_call("glfwSetWindowSize", live(window).name, width, height);
+    record_call("glfwSetWindowSize", window->name, width, height);
     if (window->width != width || window->height != height) {
-        window->width = width;
-        window->height = height;
-        window->size(window, width, height);
+        fake_glfw_t::current->fire_size(width, height);
     }
 }
 
 void glfwSetWindowPos(GLFWwindow* window, int x, int y) {
-    record_call("glfwSetWindowPos", live(window).name, x, y);
+    record_call("glfwSetWindowPos", window->name, x, y);
     window->x = x;
     window->y = y;
 }
 
 int glfwGetWindowAttrib(GLFWwindow*, int) {
-    return GLFW_TRUE;  // iconified
+    throw std::runtime_error("without a window manager, no window is iconified");
 }
 
 GLFWmonitor* glfwGetPrimaryMonitor() {
@@ -161,5 +107,5 @@ void glfwGetMonitorWorkarea(GLFWmonitor*, int*, int*, int* width, int* height) {
 }
 
 int glfwGetKey(GLFWwindow* window, int key) {
-    return live(window).keys_down.contains(key) ? GLFW_PRESS : GLFW_RELEASE;
+    return window->key_down == key ? GLFW_PRESS : GLFW_RELEASE;
 }
