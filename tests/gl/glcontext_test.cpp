@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tests of matrices, errors, lights and volume textures on a real context.
+// Tests of matrices, errors and volume textures on a real context.
 #include <algorithm>
 #include <deque>
 #include <string>
@@ -35,18 +35,11 @@ TEST_F(GlContext, MatricesNestBeyondTheStacks) {
     grMatrixPusher::setEnhanceMode(false);
 }
 
-TEST_F(GlContext, ErrorsAreReportedAndLightsAreReadBack) {
+TEST_F(GlContext, ErrorsAreReported) {
     capture_t console;
     glEnable(0x9999);
     EXPECT_TRUE(grPrintError("glEnable"));
     EXPECT_EQ(console.err(), "glEnable: Error 1280: invalid enumerant\n");
-    grLightPos(GL_LIGHT0, position3(0, 6, 8));
-    position3_t place{};
-    direction3_t direction{};
-    grGetLightPos(GL_LIGHT0, place);
-    grGetLightPos(GL_LIGHT0, direction);
-    EXPECT_EQ(place, position3(0, 6, 8));
-    EXPECT_NEAR(direction.y, 0.6F, 1e-6);
 }
 
 TEST_F(GlContext, GluScalesVolumesWithoutTheirPadding) {
