@@ -30,9 +30,8 @@ namespace {
 // A row of route_calls.txt starts with "# Name: words". The words are the texture class, flags,
 // "size=N", "errors=N" for N pending GL errors, and the images of the levels, for example
 // "RGB:4x2+window". "unset" skips a level, "restart" continues at level 0. The calls of Load
-// follow, then the lines of the error stream, and, with "reload", the calls of Reload if they
-// differ. A call is followed by the pixel store parameters that don't mean rows padded to 4 bytes.
-// Its arguments are without GL_TEXTURE_ and GL_.
+// follow, then the error stream, and, with "reload", the calls of Reload if they differ. A call is
+// without GL_TEXTURE_ and GL_, and with the pixel store parameters for rows not padded to 4 bytes.
 
 std::map<std::string, image_desc_t> const descs = {
     {"RGB", {IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_8}},
