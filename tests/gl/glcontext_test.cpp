@@ -1,56 +1,21 @@
 // SPDX-License-Identifier: MIT
-// Tests of read-back, matrices, textures and errors on a real context.
-#include "tests/support/gl/glcontext.h"
-
+// Tests of matrices and of textures that GLU scales, on a real context.
+#include <algorithm>
 #include <deque>
+#include <string>
 
 #include "gl/grcalls.h"
-#include "gl/grdsplist.h"
-#include "gl/grerror.h"
 #include "gl/matrixmgr.h"
-#include "gl/readpixels.h"
-#include "gl/texture.h"
-#include "tests/support/files/testfiles.h"
+#include "gl/texture2d.h"
+#include "gl/texture3d.h"
+#include "tests/support/gl/glcontext.h"
+#include "tests/support/gl/glrecorder.h"
 
 using namespace libgr;
 
 namespace {
 
 using GlContext = gl_context_test;
-
-struct red_lower_half_t : grObject3D {
-    using grObject3D::Draw;
-    void Draw() const override {
-        grColor(color3aub(255, 0, 0, 255));
-        glRectf(-1, -1, 1, 0);
-    }
-};
-
-TEST_F(GlContext, ReadsTheShownAndTheDrawnFrame) {
-    red_lower_half_t const half;
-    grDspList list;
-    list.Preload(&half);
-    grTransformer upside_down;
-    upside_down.m_matrix = getScaleMatrix(direction3(1, -1, 1));
-    upside_down.setObject(&list);
-    grContainer root;
-    root.addObject(&upside_down);
-    for (bool const swapped : {true, false}) {  // shown, or drawn but not swapped
-        grClearColor(color3a(0, 0, swapped ? 1.0F : 0.2F, 1));
-        glClear(GL_COLOR_BUFFER_BIT);
-        root.Draw();
-        if (swapped) {
-            swap_buffers();
-        }
-        image2d_t image;
-        ASSERT_TRUE(grReadPixelsRGB(image));
-        ASSERT_EQ(image.m_width, unsigned{window_size});
-        ASSERT_EQ(image.m_height, unsigned{window_size});
-        EXPECT_EQ(pixel_row(image, 0)[2], swapped ? 255 : 51);
-        EXPECT_EQ(pixel_row(image, window_size - 1)[0], 255);
-        ASSERT_TRUE(grReadPixelsDepth(image));
-    }
-}
 
 TEST_F(GlContext, MatricesNestBeyondTheStacks) {
     grMatrixPusher::setEnhanceMode(true);
@@ -69,42 +34,43 @@ TEST_F(GlContext, MatricesNestBeyondTheStacks) {
     grMatrixPusher::setEnhanceMode(false);
 }
 
-struct floats_t : grTexturableImageGL {
-    float pixels[8] = {0, 1, 2, 3, -4, 5.5F, 6, 7};
-    unsigned long Dimension() const override { return 2; }
-    unsigned int GetInternalFormat() const override { return GL_RGBA32F; }
-    void Load() const override {
-        glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA32F, 2, 1, 0, GL_RGBA, GL_FLOAT, pixels);
+TEST_F(GlContext, GluScalesImagesWithoutTheirPadding) {
+    gl_flag_t const gl3(is_GL_VERSION_3_0_supported, 0);
+    gl_flag_t const sgis(is_GL_SGIS_generate_mipmap_supported, 0);
+    image3d_t volume;
+    volume.desc = {IMAGE_FORMAT_RGB, IMAGE_TYPE_UINT, IMAGE_BITS_8};
+    volume.window = {6, 5, 1, 1, 1};
+    volume.m_width = volume.m_height = volume.m_depth = 4;
+    ASSERT_TRUE(volume.resize(20 * 5 * 5, 0));
+    for (unsigned int z = 1; z < 5; ++z) {
+        for (unsigned int y = 1; y < 5; ++y) {
+            std::fill_n(volume.begin() + 20 * (5 * z + y) + 3, 12, 'd');
+        }
     }
-};
-
-TEST_F(GlContext, TexturesAreReadBack) {
-    floats_t const source;
-    grTextureObject texture;
-    texture.Preload(&source);
-    image2d_t bound, own;
-    EXPECT_TRUE(texture.GetTexImage(GL_TEXTURE_2D, 0, bound));
-    texture.Unload();
-    EXPECT_TRUE(texture.GetTextureImage(0, own));
-    for (image2d_t const* image : {&bound, &own}) {
-        ASSERT_EQ(image->size(), sizeof source.pixels);
-        EXPECT_EQ(std::memcmp(image->begin(), source.pixels, sizeof source.pixels), 0);
+    image2d_t slice;  // the last one: GLU would read past its end
+    static_cast<image_bytes_t&>(slice) = volume;
+    slice.desc = volume.desc;
+    slice.window = {6, 1, 21};
+    slice.m_width = slice.m_height = 4;
+    grTexture3D texture3d;
+    texture3d.setImage(volume, 0, 0);
+    texture3d.setBuildMipmap(true);
+    grTexture2D texture2d;
+    texture2d.setImage(slice, 0, 0);
+    texture2d.setBuildMipmap(true);
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    grTexturableImageGL const* const images[] = {&texture3d, &texture2d};
+    for (auto const* image : images) {
+        grTextureObject object;
+        object.Preload(image);
+        int const dimension = static_cast<int>(image->Dimension());
+        for (int level = 0; level < dimension - 1; ++level) {  // GLU damages level 1 of the slice
+            std::string texels(3UL << (2 - level) * dimension, '\0');
+            glGetTexImage(dimension == 3 ? GL_TEXTURE_3D : GL_TEXTURE_2D, level, GL_RGB,
+                          GL_UNSIGNED_BYTE, texels.data());
+            EXPECT_EQ(texels, std::string(texels.size(), 'd')) << level << " of " << dimension;
+        }
     }
-    EXPECT_FALSE(texture.GetTextureImage(9, own));
-}
-
-TEST_F(GlContext, ErrorsAreReportedAndLightsAreReadBack) {
-    capture_t console;
-    glEnable(0x9999);
-    EXPECT_TRUE(grPrintError("glEnable"));
-    EXPECT_EQ(console.err(), "glEnable: Error 1280: invalid enumerant\n");
-    grLightPos(GL_LIGHT0, position3(0, 6, 8));
-    position3_t place{};
-    direction3_t direction{};
-    grGetLightPos(GL_LIGHT0, place);
-    grGetLightPos(GL_LIGHT0, direction);
-    EXPECT_EQ(place, position3(0, 6, 8));
-    EXPECT_NEAR(direction.y, 0.6F, 1e-6);
 }
 
 }  // namespace

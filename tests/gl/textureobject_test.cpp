@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Tests of texture objects, pixel store parameters and read-back, on recorded calls.
-#include <algorithm>
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <tuple>
+#include <vector>
 
 #include "gl/glumipmaps.h"
 #include "gl/palette.h"
@@ -8,7 +13,8 @@
 #include "gl/readpixels.h"
 #include "gl/texture2d.h"
 #include "gl/texturecubemap.h"
-#include "tests/gl/recordedtest.h"
+#include "tests/support/files/testfiles.h"
+#include "tests/support/gl/glrecorder.h"
 
 using namespace libgr;
 
@@ -23,8 +29,11 @@ struct images_t : grTexturableImageGL {
     unsigned int GetInternalFormat() const override { return GL_RGB8; }
 };
 
-using TextureObject = recorded_test;
-using PixelTransfer = recorded_test;
+struct TextureObject : testing::Test {
+    gl_recorder_t gl;
+    capture_t console;
+};
+using PixelTransfer = TextureObject;
 
 TEST_F(TextureObject, CopiesShareOneName) {
     images_t const images;
@@ -33,24 +42,33 @@ TEST_F(TextureObject, CopiesShareOneName) {
     first.Reload();
     first.Unload();
     first.clear();
-    note("before Preload, resident:", first.isResident());
+    EXPECT_FALSE(first.isResident());
     first.Preload(&images);
     grTextureObject second(first);
     first.clear();
-    note("cleared, loaded:", first.isPreload(), first.Dimension());
+    EXPECT_EQ(first.Dimension(), 0U);
+    first.Reload();
     second.Reload();
-    note("copy, loaded:", second.isPreload(), second.Dimension(), second.isResident());
+    EXPECT_EQ(second.Dimension(), 6U);
+    EXPECT_TRUE(second.isResident());
     second.BindImage(3, 1, GL_READ_ONLY);
     second.UnbindImage(3);
     for (bool const modern : {false, true}) {
         gl_flag_t const flag(is_GL_VERSION_3_0_supported, modern);
         second.Load();
         second.Unload();
-        note("OpenGL 3.0:", modern);
     }
     second.Preload(&images);
     second.clear();
-    note("last copy cleared");
+    std::string const bind = "glBindTexture(GL_TEXTURE_CUBE_MAP, 1)\n";
+    std::string const unbind = "glBindTexture(GL_TEXTURE_CUBE_MAP, 0)\n";
+    EXPECT_EQ(gl.take(), "glGenTextures(1, ptr)\n" + bind + "glVertex2f(0, 0)\n" + bind +
+                             "glVertex2f(1, 0)\nglAreTexturesResidentEXT(1, {1}, ptr)\n"
+                             "glBindImageTexture(3, 1, 1, 0, 0, GL_READ_ONLY, GL_RGB8)\n"
+                             "glBindImageTexture(3, 0, 0, 0, 0, GL_READ_ONLY, GL_R8)\n"
+                             "glEnable(GL_TEXTURE_CUBE_MAP)\n" +
+                             bind + "glDisable(GL_TEXTURE_CUBE_MAP)\n" + unbind + bind + unbind +
+                             bind + "glVertex2f(0, 0)\nglDeleteTextures(1, {1})\n");
 }
 
 TEST(TextureDimension, HasATarget) {
@@ -73,15 +91,11 @@ TEST(TextureLimits, LevelsBeyondTheLimitAreReported) {
     grTextureCubeMap cube;
     cube.setImage({image, image, image, image, image, image}, 0, 31);
     EXPECT_EQ(console.err(), "");
-    std::string const report = "exceeds limit texture-images (192 images).\n";
     texture.setImage(image, 0, 192);
-    EXPECT_EQ(console.err(), report);
-    texture.setImages({image}, 0, 192);
-    EXPECT_EQ(console.err(), report);
     texture.setImages({image, image}, 0, 191);
-    EXPECT_EQ(console.err(), report);
     cube.setImage({image, image, image, image, image, image}, 0, 32);
-    EXPECT_EQ(console.err(), report);
+    std::string const report = "exceeds limit texture-images (192 images).\n";
+    EXPECT_EQ(console.err(), report + report + report);
 }
 
 TEST_F(TextureObject, GluRejectsTooManyTexels) {
@@ -95,57 +109,49 @@ TEST_F(TextureObject, GluRejectsTooManyTexels) {
         EXPECT_EQ(console.err(),
                   is_accepted ? "" : "exceeds limit glu-texels (33554432 texels).\n");
     }
-    gl.take();
 }
 
 TEST_F(TextureObject, LevelIsReadWithItsComponentType) {
-    struct level_t {
-        int red_type, red_bits, width;
-        char const* error;
-        e_image_type_t type;
-        e_image_bits_t bits;
-        std::size_t bytes;
-    };
-    char const* const bad_size = "red size is not recognized.\n";
-    char const* const no_pixels = "grTextureObject::GetTextureImage() img allocate fail.\n";
-    level_t const levels[] = {
-        {GL_FLOAT, 32, 3, nullptr, IMAGE_TYPE_FLOAT, IMAGE_BITS_32, 96},
-        {GL_UNSIGNED_NORMALIZED, 16, 3, nullptr, IMAGE_TYPE_FLOAT, IMAGE_BITS_16, 96},
-        {GL_SIGNED_NORMALIZED, 12, 3, nullptr, IMAGE_TYPE_FLOAT, IMAGE_BITS_12, 96},
-        {GL_INT, 1, 3, nullptr, IMAGE_TYPE_SINT, IMAGE_BITS_1, 96},
-        {GL_UNSIGNED_INT, 64, 3, nullptr, IMAGE_TYPE_UINT, IMAGE_BITS_64, 192},
-        {GL_NONE, 8, 3, "", IMAGE_TYPE_SINT, IMAGE_BITS_1, 0},
-        {GL_FLOAT, 0, 3, bad_size, IMAGE_TYPE_FLOAT, IMAGE_BITS_1, 0},
-        {GL_FLOAT, 5, 3, bad_size, IMAGE_TYPE_FLOAT, IMAGE_BITS_1, 0},
-        {GL_FLOAT, 8, 0, no_pixels, IMAGE_TYPE_FLOAT, IMAGE_BITS_8, 0},
+    char const* const bad_size = "0 IMAGE_TYPE_FLOAT IMAGE_BITS_1 0 red size is not recognized.\n";
+    // The type, size, and width in pixels of a level, and the expected results.
+    std::tuple<int, int, int, std::string> const levels[] = {
+        {GL_FLOAT, 32, 3, "1 IMAGE_TYPE_FLOAT IMAGE_BITS_32 96 "},
+        {GL_UNSIGNED_NORMALIZED, 16, 3, "1 IMAGE_TYPE_FLOAT IMAGE_BITS_16 96 "},
+        {GL_SIGNED_NORMALIZED, 12, 3, "1 IMAGE_TYPE_FLOAT IMAGE_BITS_12 96 "},
+        {GL_INT, 1, 3, "1 IMAGE_TYPE_SINT IMAGE_BITS_1 96 "},
+        {GL_UNSIGNED_INT, 64, 3, "1 IMAGE_TYPE_UINT IMAGE_BITS_64 192 "},
+        {GL_NONE, 8, 3, "0 IMAGE_TYPE_SINT IMAGE_BITS_1 0 "},
+        {GL_FLOAT, 0, 3, bad_size},
+        {GL_FLOAT, 5, 3, bad_size},
+        {GL_FLOAT, 8, 0,
+         "0 IMAGE_TYPE_FLOAT IMAGE_BITS_8 0 "
+         "grTextureObject::GetTextureImage() img allocate fail.\n"},
     };
     gl.integers[GL_TEXTURE_HEIGHT] = {2};
     images_t images;
     images.dimension = 2;
     grTextureObject object;
     object.Preload(&images);
-    for (level_t const& level : levels) {
-        std::string const type = gl_enum_name(static_cast<GLenum>(level.red_type));
-        gl.integers[GL_TEXTURE_RED_TYPE] = {level.red_type};
-        gl.integers[GL_TEXTURE_RED_SIZE] = {level.red_bits};
-        gl.integers[GL_TEXTURE_WIDTH] = {level.width};
+    for (auto const& [red_type, red_bits, width, expected] : levels) {
+        std::string const type = gl_enum_name(static_cast<GLenum>(red_type));
+        gl.integers[GL_TEXTURE_RED_TYPE] = {red_type};
+        gl.integers[GL_TEXTURE_RED_SIZE] = {red_bits};
+        gl.integers[GL_TEXTURE_WIDTH] = {width};
         for (bool const is_own : {false, true}) {
             SCOPED_TRACE(type + (is_own ? " of the object" : " of the bound texture"));
             gl.integers[GL_PACK_ROW_LENGTH] = {9};
-            gl.take();
             image2d_t image;
-            EXPECT_EQ(is_own ? object.GetTextureImage(1, image)
-                             : object.GetTexImage(GL_TEXTURE_2D, 1, image),
-                      level.error == nullptr);
-            EXPECT_EQ(image.desc.type, level.type);
-            EXPECT_EQ(image.desc.bits, level.bits);
-            EXPECT_EQ(image.size(), level.bytes);
-            EXPECT_EQ(console.err(), level.error != nullptr ? level.error : "");
-            if (level.error == nullptr) {
+            std::ostringstream results;
+            bool const is_read = is_own ? object.GetTextureImage(1, image)
+                                        : object.GetTexImage(GL_TEXTURE_2D, 1, image);
+            results << is_read << ' ' << image.desc.type << ' ' << image.desc.bits << ' '
+                    << image.size() << ' ' << console.err();
+            EXPECT_EQ(results.str(), expected);
+            if (is_read) {
                 EXPECT_EQ(gl.integers[GL_PACK_ROW_LENGTH][0], 0);
                 EXPECT_EQ(gl.lines.back(),
                           is_own ? "glGetTextureImage(1, 1, GL_RGBA, " + type + ", " +
-                                       std::to_string(level.bytes) + ", ptr)"
+                                       std::to_string(image.size()) + ", ptr)"
                                  : "glGetTexImage(GL_TEXTURE_2D, 1, GL_RGBA, " + type + ", ptr)");
             }
         }
@@ -167,18 +173,11 @@ TEST_F(PixelTransfer, ParametersAreSetFromImageRecords) {
     std::string const pack = gl.take();
     set_all([](auto const& record) { grPixelStoreUnpack(record); });
     EXPECT_EQ(gl.take(), replace_all(pack, "PACK", "UNPACK"));
-    EXPECT_EQ(pack,
-              "glPixelStorei(GL_PACK_SWAP_BYTES, 1)\n"
-              "glPixelStorei(GL_PACK_ALIGNMENT, 2)\n"
-              "glPixelStorei(GL_PACK_SKIP_PIXELS, 5)\n"
-              "glPixelStorei(GL_PACK_ROW_LENGTH, 6)\n"
-              "glPixelStorei(GL_PACK_SKIP_PIXELS, 7)\n"
-              "glPixelStorei(GL_PACK_SKIP_ROWS, 8)\n"
-              "glPixelStorei(GL_PACK_ROW_LENGTH, 9)\n"
-              "glPixelStorei(GL_PACK_IMAGE_HEIGHT, 10)\n"
-              "glPixelStorei(GL_PACK_SKIP_PIXELS, 11)\n"
-              "glPixelStorei(GL_PACK_SKIP_ROWS, 12)\n"
-              "glPixelStorei(GL_PACK_SKIP_IMAGES, 13)\n");
+    EXPECT_EQ(replace_all(pack, "glPixelStorei(GL_PACK_", ""),
+              "SWAP_BYTES, 1)\nALIGNMENT, 2)\nSKIP_PIXELS, 5)\n"
+              "ROW_LENGTH, 6)\nSKIP_PIXELS, 7)\nSKIP_ROWS, 8)\n"
+              "ROW_LENGTH, 9)\nIMAGE_HEIGHT, 10)\nSKIP_PIXELS, 11)\nSKIP_ROWS, 12)\n"
+              "SKIP_IMAGES, 13)\n");
     gl.integers[GL_PACK_SKIP_ROWS] = {3};
     {
         pixelstore_t const parameters[] = {{GL_PACK_SKIP_ROWS, 1}, {GL_PACK_ROW_LENGTH, 0}};
@@ -188,7 +187,6 @@ TEST_F(PixelTransfer, ParametersAreSetFromImageRecords) {
     }
     EXPECT_EQ(gl.integers[GL_PACK_SKIP_ROWS][0], 3);
     EXPECT_EQ(gl.integers[GL_PACK_ROW_LENGTH][0], 9);
-    gl.take();
 }
 
 TEST_F(PixelTransfer, PaletteWithShortPlanesIsNotLoaded) {
@@ -199,11 +197,7 @@ TEST_F(PixelTransfer, PaletteWithShortPlanesIsNotLoaded) {
     EXPECT_EQ(gl.take(), "");
 }
 
-TEST_F(PixelTransfer, FormatsAndTypesHaveSizes) {
-    EXPECT_EQ(grFormatToComponents(GL_LUMINANCE_ALPHA), 2U);
-    EXPECT_EQ(grFormatToComponents(GL_BGRA), 4U);
-    EXPECT_EQ(grFormatToComponents(GL_STENCIL_INDEX), 0U);
-    EXPECT_EQ(grTypeToSize(GL_3_BYTES), 0U);
+TEST(PixelTypes, HaveSizes) {
     unsigned long size = 0;
     for (int const type :
          {0, GL_UNSIGNED_BYTE, GL_UNSIGNED_SHORT, 0, GL_FLOAT, 0, 0, 0, GL_DOUBLE, 0}) {
@@ -221,19 +215,29 @@ TEST_F(PixelTransfer, BlackFrontBufferIsReadFromTheBack) {
     gl.integers[GL_VIEWPORT] = {3, 4, 1, 4};
     gl.pixels[GL_FRONT] = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 12};
     gl.pixels[GL_BACK] = {13};
-    bool is_read = grReadPixelsRGB(image);
-    note("front:", is_read, int{image.begin()[11]}, image.desc.format, image.desc.bits);
     gl.muted.insert("glPixelStorei");
+    EXPECT_TRUE(grReadPixelsRGB(image));
+    EXPECT_EQ(image.begin()[11], 12);
+    EXPECT_EQ(gl.integers[GL_PACK_ALIGNMENT], std::vector{1});
+    EXPECT_EQ(gl.integers[GL_PACK_ROW_LENGTH], std::vector{0});
+    std::string const front =
+        "glReadBuffer(GL_FRONT)\nglReadPixels(3, 4, 1, 4, GL_RGB, GL_UNSIGNED_BYTE, ptr)\n";
+    EXPECT_EQ(gl.take(), front);
     gl.pixels[GL_FRONT].assign(12, 0);
-    is_read = grReadPixelsRGB(image);
-    note("black front:", is_read, int{image.begin()[0]});
-    is_read = grReadPixelsDepth(image);
-    note("depth:", is_read, image.desc.format, image.desc.bits, image.size());
+    EXPECT_TRUE(grReadPixelsRGB(image));
+    EXPECT_EQ(image.begin()[0], 13);
+    EXPECT_EQ(gl.take(), front + replace_all(front, "FRONT", "BACK"));
+    EXPECT_TRUE(grReadPixelsDepth(image));
+    EXPECT_EQ(image.desc, (image_desc_t{IMAGE_FORMAT_DEPTH, IMAGE_TYPE_UINT, IMAGE_BITS_24}));
+    EXPECT_EQ(image.size(), 16U);
+    EXPECT_EQ(gl.take(),
+              replace_all(front, "RGB, GL_UNSIGNED_BYTE", "DEPTH_COMPONENT, GL_UNSIGNED_INT"));
     image.window = {0, 3, 1};  // 3 more pixels and a row, although the row length is 1
-    is_read = grReadPixelsRGB(image);
-    note("window:", is_read, image.size());
+    EXPECT_TRUE(grReadPixelsRGB(image));
+    EXPECT_EQ(image.size(), 24U);
     gl.integers[GL_VIEWPORT] = {0, 0, 0, 2};
-    note("empty viewport:", grReadPixelsRGB(image), grReadPixelsDepth(image));
+    EXPECT_FALSE(grReadPixelsRGB(image));
+    EXPECT_FALSE(grReadPixelsDepth(image));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include "tests/support/gl/glrecorder.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <type_traits>
@@ -17,26 +16,23 @@ gl_recorder_t* g_recorder = nullptr;
 
 /// Returns the names by value: the first name of each value in the header, except for these. Some
 /// values are numbers in the expectation files.
-std::map<GLenum, std::string> read_names() {
-#define NAMED(value) {value, #value}
-    std::map<GLenum, std::string> names = {
-        NAMED(GL_GENERATE_MIPMAP_SGIS), NAMED(GL_RESCALE_NORMAL_EXT),
-        NAMED(GL_TEXTURE_MAX_ANISOTROPY_EXT), NAMED(GL_DEPTH_BUFFER_BIT | GL_COLOR_BUFFER_BIT)};
-    for (int const number : {GL_EMISSION, GL_REFLECTION_MAP, GL_PROGRAM_ERROR_POSITION_ARB,
-                             GL_PROGRAM_ERROR_STRING_ARB}) {
-        names[static_cast<GLenum>(number)] = std::to_string(number);
-    }
-    std::ifstream header(GL_ENUMS);
-    for (std::string word, name, value; header >> word;) {
-        if (word == "#define" && header >> name >> value && value.starts_with("0x")) {
-            names.emplace(static_cast<GLenum>(std::stoull(value, nullptr, 16)), name);
-        }
-    }
-    return names;
-}
-
 std::map<GLenum, std::string> const& names() {
-    static auto const table = read_names();
+    static auto const table = [] {
+#define NAMED(value) {value, #value}
+        std::map<GLenum, std::string> names = {
+            NAMED(GL_GENERATE_MIPMAP_SGIS), NAMED(GL_RESCALE_NORMAL_EXT),
+            NAMED(GL_TEXTURE_MAX_ANISOTROPY_EXT), NAMED(GL_DEPTH_BUFFER_BIT | GL_COLOR_BUFFER_BIT)};
+        for (int const number : {GL_EMISSION, GL_REFLECTION_MAP}) {
+            names[static_cast<GLenum>(number)] = std::to_string(number);
+        }
+        std::ifstream header(GL_ENUMS);
+        for (std::string word, name, value; header >> word;) {
+            if (word == "#define" && header >> name >> value && value.starts_with("0x")) {
+                names.emplace(static_cast<GLenum>(std::stoull(value, nullptr, 16)), name);
+            }
+        }
+        return names;
+    }();
     return table;
 }
 
@@ -69,12 +65,8 @@ struct line_t {
     }
     void put(char, void const* pointer) {
         for (auto const& [begin, bytes, name] : g_recorder->regions) {
-            if (pointer >= begin && pointer < begin + bytes) {
-                auto const offset = static_cast<unsigned char const*>(pointer) - begin;
+            if (pointer == begin && bytes != 0) {
                 text << name;
-                if (offset != 0) {
-                    text << '+' << offset;
-                }
                 return;
             }
         }
@@ -107,47 +99,38 @@ struct stand_in_t<Slot, Answer, R (*)(A...)> {
         }
     }
     static inline R (*other)(A...) = &stand_in_t::call;
-    static void swap() { std::swap(Slot, other); }
+    /// `names` starts with the name of the entry point.
+    static void swap(std::istream& names, std::string const& kinds_of_arguments) {
+        std::getline(names >> std::ws, name, ',');
+        name.erase(0, name.rfind(':') + 1);
+        kinds = kinds_of_arguments + std::string(16, '.');
+        std::swap(Slot, other);
+    }
 };
 
-using swap_t = void (*)();
-
-template <auto& Slot, typename Answer>
-swap_t entry(std::istream& list, std::string kinds) {
-    using stand_in = stand_in_t<Slot, Answer>;
-    std::getline(list >> std::ws, stand_in::name, ',');
-    stand_in::name.erase(0, stand_in::name.rfind(':') + 1);
-    kinds.resize(16, '.');
-    stand_in::kinds = kinds;
-    return &stand_in::swap;
-}
-
 template <auto&... Slots, typename Answer>
-std::vector<swap_t> group(std::string const& kinds, Answer, std::string const& names) {
-    std::istringstream list(names);
-    return {entry<Slots, Answer>(list, kinds)...};
-}
-
-void give(auto const& answers, GLenum name, auto* out) {
-    if (auto const found = answers.find(name); found != answers.end()) {
-        std::ranges::copy(found->second, out);
-    }
+void swap_group(std::string const& kinds, Answer, std::string const& list) {
+    std::istringstream names(list);
+    (stand_in_t<Slots, Answer>::swap(names, kinds), ...);
 }
 
 /// Returns the values of the name that is the argument before the last.
 struct give_values_t {
-    void operator()(GLenum name, GLint* out) const { give(g_recorder->integers, name, out); }
-    void operator()(GLenum name, GLfloat* out) const { give(g_recorder->floats, name, out); }
+    void operator()(GLenum name, GLint* out) const {
+        std::ranges::copy(g_recorder->integers[name], out);
+    }
+    void operator()(GLenum name, GLfloat* out) const {
+        std::ranges::copy(g_recorder->floats[name], out);
+    }
     void operator()(auto, auto... rest) const { (*this)(rest...); }
 };
 constexpr auto give_pixels = [](GLint, GLint, GLsizei, GLsizei, GLenum, GLenum, void* out) {
-    give(g_recorder->pixels, g_recorder->read_buffer, static_cast<unsigned char*>(out));
+    auto const buffer = static_cast<GLenum>(g_recorder->integers[GL_READ_BUFFER].at(0));
+    std::ranges::copy(g_recorder->pixels[buffer], static_cast<unsigned char*>(out));
 };
 constexpr auto give_string = [](GLenum name) {
-    auto const found = g_recorder->strings.find(name);
-    return found == g_recorder->strings.end()
-               ? nullptr
-               : reinterpret_cast<GLubyte const*>(found->second.c_str());
+    std::string const& text = g_recorder->strings[name];
+    return text.empty() ? nullptr : reinterpret_cast<GLubyte const*>(text.c_str());
 };
 constexpr auto give_error = [] {
     g_recorder->errors.push_back(GL_NO_ERROR);
@@ -171,62 +154,51 @@ constexpr auto fill_texture = [](auto...) {
         g_recorder->errors.push_front(GL_OUT_OF_MEMORY);
     }
 };
-constexpr auto keep_mode = [](GLenum mode) {
-    g_recorder->integers[GL_MATRIX_MODE] = {static_cast<GLint>(mode)};
-};
-constexpr auto keep_parameter = [](GLenum name, GLint value) {
-    g_recorder->integers[name] = {value};
-};
-constexpr auto keep_buffer = [](GLenum buffer) { g_recorder->read_buffer = buffer; };
+template <GLenum Name>
+constexpr auto keep =
+    [](GLenum value) { g_recorder->integers[Name] = {static_cast<GLint>(value)}; };
+constexpr auto keep_value = [](GLenum name, GLint value) { g_recorder->integers[name] = {value}; };
 constexpr auto keep_viewport = [](GLint x, GLint y, GLsizei w, GLsizei h) {
     g_recorder->integers[GL_VIEWPORT] = {x, y, w, h};
 };
 
 // The kinds of arguments in order: e is an integer that is an enumerant, m a primitive, b a blend
 // factor, M 16 floats. Other arguments are printed by their type.
-#define GROUP(kinds, answer, ...) group<__VA_ARGS__>(kinds, answer, #__VA_ARGS__)
+#define GROUP(kinds, answer, ...) swap_group<__VA_ARGS__>(kinds, answer, #__VA_ARGS__)
 void swap_all() {
-    static std::vector<swap_t> const groups[] = {
-        GROUP("", nullptr, glActiveTexture, glActiveTextureARB, glAreTexturesResidentEXT,
-              glBindImageTexture, glBindProgramARB, glBindTexture, glBlendEquationEXT, glCallList,
-              glClear, glClearColor, glClearDepth, glClientActiveTextureARB, glColor4fv,
-              glColor4ubv, glCompressedTexImage1DARB, glCompressedTexImage2DARB,
-              glCompressedTexImage3DARB, glCompressedTexSubImage2DARB, glCullFace, glDeleteLists,
-              glDisable, glDisableClientState, glEnable, glEnableClientState, glEnd, glEndList,
-              glFrontFace, glGenerateMipmap, glGetTexImage, glGetTextureImage, glHint, glLightfv,
-              glLoadIdentity, glMaterialf, glMaterialfv, glMultiTexCoord3f, glNewList, glNormal3f,
-              glOrtho, glPixelMapusv, glPixelTransferi, glPolygonMode, glPopMatrix,
-              glProgramLocalParameter4fARB, glProgramLocalParameter4fvARB, glProgramStringARB,
-              glPushMatrix, glRotatef, glScalef, glShadeModel, glTexCoord2f, glTexCoordPointer,
-              glTexEnvf, glTexEnvfv, glTexImage3DEXT, glTexParameterf, glTexParameterfv,
-              glTexSubImage1D, glTexSubImage2D, glTexSubImage3DEXT, glTranslatef, glVertex2f,
-              glVertexPointer, glDeleteProgramsARB),
-        GROUP("m", nullptr, glBegin, glDrawElements),
-        GROUP("bb", nullptr, glBlendFunc),
-        GROUP("M", nullptr, glLoadMatrixf, glMultMatrixf),
-        GROUP("..e", nullptr, glTexEnvi, glTexGeni, glTexImage1D, glTexParameteri),
-        GROUP("..e", fill_texture, glTexImage2D),
-        GROUP("", take_textures, glDeleteTextures),
-        GROUP(".e", nullptr, libgr::gluBuild1DMipmaps, libgr::gluBuild2DMipmaps,
-              libgr::gluBuild3DMipmaps),
-        GROUP("", give_names, glGenProgramsARB),
-        GROUP("", give_textures, glGenTextures),
-        GROUP("", give_lists, glGenLists),
-        GROUP("", give_error, glGetError),
-        GROUP("", give_values_t{}, glGetFloatv, glGetIntegerv, glGetLightfv,
-              glGetTexLevelParameteriv, glGetTextureLevelParameteriv),
-        GROUP("", give_string, glGetString, libgr::gluErrorString),
-        GROUP("", give_pixels, glReadPixels),
-        GROUP("", keep_mode, glMatrixMode),
-        GROUP("", keep_parameter, glPixelStorei),
-        GROUP("", keep_buffer, glReadBuffer),
-        GROUP("", keep_viewport, glViewport),
-    };
-    for (auto const& group : groups) {
-        for (swap_t const swap : group) {
-            swap();
-        }
-    }
+    GROUP("", nullptr, glActiveTexture, glActiveTextureARB, glAreTexturesResidentEXT,
+          glBindImageTexture, glBindProgramARB, glBindTexture, glBlendEquationEXT, glCallList,
+          glClear, glClearColor, glClearDepth, glClientActiveTextureARB, glColor4fv, glColor4ubv,
+          glCompressedTexImage1DARB, glCompressedTexImage2DARB, glCompressedTexImage3DARB,
+          glCompressedTexSubImage2DARB, glCullFace, glDeleteLists, glDisable, glDisableClientState,
+          glEnable, glEnableClientState, glEnd, glEndList, glFrontFace, glGenerateMipmap,
+          glGetTexImage, glGetTextureImage, glHint, glLightfv, glLoadIdentity, glMaterialf,
+          glMaterialfv, glMultiTexCoord3f, glNewList, glNormal3f, glOrtho, glPixelMapusv,
+          glPixelTransferi, glPolygonMode, glPopMatrix, glProgramLocalParameter4fARB,
+          glProgramLocalParameter4fvARB, glProgramStringARB, glPushMatrix, glRotatef, glScalef,
+          glShadeModel, glTexCoord2f, glTexCoordPointer, glTexEnvf, glTexEnvfv, glTexImage3DEXT,
+          glTexParameterf, glTexParameterfv, glTexSubImage1D, glTexSubImage2D, glTexSubImage3DEXT,
+          glTranslatef, glVertex2f, glVertexPointer, glDeleteProgramsARB);
+    GROUP("m", nullptr, glBegin, glDrawElements);
+    GROUP("bb", nullptr, glBlendFunc);
+    GROUP("M", nullptr, glLoadMatrixf, glMultMatrixf);
+    GROUP("..e", nullptr, glTexEnvi, glTexGeni, glTexImage1D, glTexParameteri);
+    GROUP("..e", fill_texture, glTexImage2D);
+    GROUP("", take_textures, glDeleteTextures);
+    GROUP(".e", nullptr, libgr::gluBuild1DMipmaps, libgr::gluBuild2DMipmaps,
+          libgr::gluBuild3DMipmaps);
+    GROUP("", give_names, glGenProgramsARB);
+    GROUP("", give_textures, glGenTextures);
+    GROUP("", give_lists, glGenLists);
+    GROUP("", give_error, glGetError);
+    GROUP("", give_values_t{}, glGetFloatv, glGetIntegerv, glGetLightfv, glGetTexLevelParameteriv,
+          glGetTextureLevelParameteriv);
+    GROUP("", give_string, glGetString, libgr::gluErrorString);
+    GROUP("", give_pixels, glReadPixels);
+    GROUP("", keep<GL_MATRIX_MODE>, glMatrixMode);
+    GROUP("", keep_value, glPixelStorei);
+    GROUP("", keep<GL_READ_BUFFER>, glReadBuffer);
+    GROUP("", keep_viewport, glViewport);
 }
 
 }  // namespace
@@ -238,6 +210,7 @@ std::string gl_enum_name(GLenum value) {
 
 gl_recorder_t::gl_recorder_t() {
     integers = {{GL_MATRIX_MODE, {GL_MODELVIEW}},
+                {GL_READ_BUFFER, {GL_BACK}},
                 {GL_VIEWPORT, {0, 0, 640, 480}},
                 {GL_MAX_TEXTURE_SIZE, {16384}},
                 {GL_MAX_VIEWPORT_DIMS, {16384, 16384}}};
