@@ -137,8 +137,12 @@ void add_texts() {
         add("path", le(12, 2) + name);
         add("path", le(1040, 2) + std::string(1030, 'x') + name);
     }
-    for (std::string const& line : lines_of(source / "tests/options/commandlines.txt")) {
-        add("options", line.substr(0, line.find('|')));
+    for (char const* line :
+         {"-verbose -wintype -3 -winsize 7x8 -menu- a b", "-winsize -5,601", "-h -h- a",
+          "-frametype", "-framecolor x,65,66,67", "-framecolor 65,66:67_324", "-winsize 0x20x010",
+          "-menu-+", "-image_ratio_of_window 100 -doubleclick_interval 0",
+          "-winsize 4294967295x99999999999"}) {
+        add("options", line);
     }
     std::string const saved = seeds / "options/saved";
     zanolib::option_init();

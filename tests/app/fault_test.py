@@ -6,10 +6,11 @@ import os
 import pathlib
 import pty
 import re
+import signal
 import subprocess
 import unittest
 
-from viewerdriver import MOST_SECONDS, PROGRAM, Viewer, ViewerTest, bmp_headers, run, write_bmp
+from viewerdriver import MOST_SECONDS, PROGRAM, Viewer, ViewerTest, bmp_headers, run, wait_for, write_bmp
 
 NAMES = "a.bmp", "a.jpg", "a.png", "a.tga"
 KINDS = "open read write mmap rename fsync close malloc SIGTERM".split()
@@ -32,9 +33,9 @@ def spread(total, sample):
 class Session:
     """The viewer with the preloaded library of tests/support/faults, which presses the keys."""
 
-    def __init__(self, folder, fault="none 0 0"):
+    def __init__(self, folder, fault="none 0 0", names=NAMES):
         self.process = subprocess.Popen(
-            (PROGRAM, "-winsize", "200x150") + NAMES, cwd=folder, text=True,
+            (PROGRAM, "-winsize", "200x150") + names, cwd=folder, text=True,
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
             env={**os.environ, "HOME": folder, "FAULT": fault,
                  "LD_PRELOAD": os.environ["ZV_FAULTS"],
@@ -130,24 +131,61 @@ class FailingCalls(FaultTest):
 
 
 class Machine(FaultTest):
-    def test_prints_why_a_save_failed_and_keeps_the_old_file(self):
+    """A real window and real keys, without rights, disk space or a screen."""
+
+    def setUp(self):
+        super().setUp()
         write_bmp(self.path("a.bmp"), 8, 6, 24, lambda x, y: (200, 0, 0))
         self.put({"a.zvw": b"old view", "a.zvw.jpg": b"old snapshot"})
-        old = self.files()
-        errors = "".join(f"{self.path(name)}: can't be saved: File too large\n"
-                         for name in ("a.zvw.jpg", "a.zvw"))
-        # A pipe has no limit of the file size.
-        with Viewer(self.path("a.bmp"), command=("prlimit", "--fsize=100", PROGRAM), errors=errors,
-                    stream=subprocess.PIPE) as viewer:
-            viewer.key("s", "w", "5", "shift+w")
-        self.assertEqual(self.files(), old)
+        self.old = self.files()
+
+    def test_prints_why_a_save_failed_and_keeps_the_old_files(self):
+        no_rights = "--inh-caps=-dac_override", "--bounding-set=-dac_override"
+        rows = (("File too large", 0o755, ("prlimit", "--fsize=100")),
+                ("Permission denied", 0o555, ("setpriv",) + no_rights if os.geteuid() == 0 else ()))
+        line = "{}: can't be saved: {}\n".format
+        for reason, mode, command in rows:
+            os.chmod(self.folder.name, mode)
+            errors = "".join(line(self.path(name), reason) for name in ("a.zvw.jpg", "a.zvw"))
+            # A pipe has no limit of the file size.
+            with Viewer(self.path("a.bmp"), command=command + (PROGRAM,), errors=errors,
+                        stream=subprocess.PIPE) as viewer:
+                viewer.key("s", "w", "d" if mode == 0o555 else "5", "shift+w")
+            os.chmod(self.folder.name, 0o755)
+            self.assertEqual(self.files(), self.old, reason)
+        session = Session(self.folder.name, names=("a.bmp",))
+        session.step("write 1 1000000")
+        errors = "".join(line(name, "No space left on device") for name in ("a.zvw.jpg", "a.zvw"))
+        self.assertEqual(session.end(), (0, 2 * errors))
+        self.assertEqual(self.files(), self.old)
+
+    def test_saves_options_beside_the_program_without_home(self):
+        for name in "zanoview3", "zanoview3.msg":
+            os.symlink(os.path.join(os.path.dirname(PROGRAM), name), self.path(name))
+        with Viewer("-frametype", "0", self.path("a.bmp"),
+                    command=("env", "-u", "HOME", self.path("zanoview3"))) as viewer:
+            viewer.key("shift+w")
+        self.assertIn(b"-frametype 0\n", self.files()[".zanoview3"])
+
+    def test_ends_at_once_on_a_signal_or_without_its_screen(self):
+        server = self.new_screen()
+        for end, status, errors in ((subprocess.Popen.terminate, -signal.SIGTERM, "$"),
+                                    (lambda _: server.kill(), 1, "(?s)X.*$")):
+            viewer = Viewer(self.path("a.bmp"))
+            self.addCleanup(viewer.close)
+            viewer.key("w")
+            wait_for("the view file", lambda: VIEW.fullmatch(self.files()["a.zvw"]))
+            self.old["a.zvw"] = self.files()["a.zvw"]
+            end(viewer.process)
+            self.assertRegex(viewer.end()[1], errors)
+            self.assertEqual(viewer.process.returncode, status)
+            self.assertEqual(self.files(), self.old)
 
     def test_escapes_names_on_terminals(self):
         bad, shown = "\x1b[2J\nforged\u009b\x7f", "\\x1b[2J\\x0aforged\\xc2\\x9b\\x7f"
         os.mkdir(self.path(bad))
-        write_bmp(self.path(f"{bad}/{bad}a.bmp"), 8, 6, 24, lambda x, y: (200, 0, 0))
-        self.put({f"{bad}/{bad}b.jpg": b"\xff\xd8", f"{bad}/{bad}.txt": b"",
-                  f"{bad}/{bad}c.bmp": bmp_headers(2000, 2000, 24) + bytes(7000)})
+        self.put({f"{bad}/{bad}a.bmp": self.old["a.bmp"], f"{bad}/{bad}b.jpg": b"\xff\xd8",
+                  f"{bad}/{bad}.txt": b"", f"{bad}/{bad}c.bmp": bmp_headers(2000, 2000, 24) + bytes(7000)})
         master, slave = pty.openpty()
         viewer = Viewer("-verbose", "-debug", "-frametype", "0", self.path(bad),
                         self.path(bad + "gone.png"), stream=slave)

@@ -8,11 +8,12 @@ from viewerdriver import Viewer, ViewerTest, part, run, wait_for
 WIDTH, HEIGHT = 300, 270  # four tiles; three of them fill only a part of their textures
 PLACE = (801 - WIDTH) // 2, (600 - HEIGHT) // 2, WIDTH, HEIGHT  # in the window, at scale 1
 # ImageMagick's options. The two bytes of a sample of 16 bits differ.
-PICTURES = {"rgb.png": (), "gray.png": ("-colorspace", "Gray"),
+PICTURES = {"rgb.png": (), "palette.png": ("-colors", 60), "gray.png": ("-colorspace", "Gray"),
             "rgb16.png": ("-depth", 16, "-evaluate", "multiply", 0.7),
             "rgba.png": ("-alpha", "set", "-channel", "A", "-evaluate", "set", "60%", "+channel")}
 NEW = "4.5", {}
-OLD = ("1.2", {}), ("1.2", {"MESA_EXTENSION_OVERRIDE": "-GL_SGIS_generate_mipmap"})
+OLD = (("2.1", {}), ("1.4", {}), ("1.2", {}),
+       ("1.2", {"MESA_EXTENSION_OVERRIDE": "-GL_SGIS_generate_mipmap"}))
 # The key, the scale, and by how much a channel may differ if GLU builds the mipmaps: GLU and the
 # driver round differently, by at most 1 in each level.
 VIEWS = (("0", 1, 0), ("Prior", 2 ** 0.25, 0), ("4", 1 / 4, 2))

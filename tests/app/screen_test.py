@@ -2,12 +2,14 @@
 """The viewer on a screen: commands, memory, start and end."""
 import os
 import pathlib
+import re
 import resource
 import subprocess
+import time
 import unittest
 
-from viewerdriver import (PROGRAM, Viewer, ViewerTest, bmp_headers, part, run, wait_for, write_bmp,
-                          xdotool)
+from viewerdriver import (GRAY, PROGRAM, Viewer, ViewerTest, bmp_headers, part, run, wait_for,
+                          write_bmp, xdotool)
 
 
 class Start(ViewerTest):
@@ -17,6 +19,16 @@ class Start(ViewerTest):
         ended = subprocess.run((PROGRAM, "-h"), capture_output=True, env=headless)
         self.assertEqual((ended.returncode, ended.stdout, ended.stderr),
                          (1, b"", b"glfwInit() failed.\n"))
+
+    def test_stays_up_without_a_picture_and_ends_on_escape(self):
+        open(self.path("empty.bmp"), "w").close()
+        os.mkdir(self.path("folder.bmp"))
+        names = [self.path(name) for name in ("empty.bmp", "folder.bmp", "gone.bmp")]
+        errors = 5 * (names[-1] + ": image file not found.\n")
+        with Viewer(*names, errors=errors, last_key="Escape") as viewer:
+            viewer.await_title("no picture")
+            viewer.key("space", "BackSpace", "Home", "End", "Return", "w", "d", "s", "g", "r", "5")
+            wait_for("the background", lambda: set(viewer.look()[2]) == set(GRAY))
 
 
 class Session(ViewerTest):
@@ -66,12 +78,28 @@ class Session(ViewerTest):
             rest = bytes(450 * 1200) + expected[750 * 1200:900 * 1200]
             wait_for("the rest", lambda: shown() == rest)
 
+    def test_sleeps_when_nothing_happens(self):
+        with Viewer(self.path("a.bmp")) as viewer:
+            viewer.await_title("/a.bmp (1/1)")
+
+            def spent():
+                directory = f"/proc/{viewer.process.pid}/"
+                text = run("cat", directory + "stat", directory + "status").decode()
+                return text.split(")")[1].split()[11:13], re.findall("ctxt_switches.*", text)
+
+            def sleeps():
+                before = spent()
+                time.sleep(1.5)
+                return spent() == before
+            wait_for("a viewer that uses no CPU time", sleeps)
+
 
 @unittest.skipIf(b"__asan_init" in pathlib.Path(PROGRAM).read_bytes(), "the sanitizer keeps memory")
 class Memory(ViewerTest):
-    def resident_bytes(self, viewer):
+    def statm(self, viewer, field):
+        """Returns the bytes of address space (field 0) or of memory (field 1)."""
         with open(f"/proc/{viewer.process.pid}/statm") as pages:
-            return int(pages.read().split()[1]) * resource.getpagesize()
+            return int(pages.read().split()[field]) * resource.getpagesize()
 
     def test_returns_the_memory_of_large_pictures(self):
         for number, side in enumerate((8, 12000, 3000)):
@@ -82,11 +110,31 @@ class Memory(ViewerTest):
             viewer.await_title("(1/3)")
             viewer.key("space", "Home")
             viewer.await_title("(1/3)")
-            start = self.resident_bytes(viewer)
+            start = self.statm(viewer, 1)
             for place, key in (2, "space"), (3, "space"), (1, "Home"):
                 viewer.key(key)
                 viewer.await_title(f"({place}/3)")
-            wait_for("the memory", lambda: self.resident_bytes(viewer) < start + (16 << 20))
+            wait_for("the memory", lambda: self.statm(viewer, 1) < start + (16 << 20))
+
+    def test_skips_a_picture_without_texture_memory(self):
+        for name, colour in ("a.bmp", (200, 0, 0)), ("c.bmp", (0, 0, 200)):
+            write_bmp(self.path(name), 40, 30, 24, lambda x, y, c=colour: c)
+        with open(self.path("b.bmp"), "wb") as out:
+            out.write(bmp_headers(8000, 8000, 24))
+            out.truncate(54 + 3 * 8000 * 8000)
+        report = r"(.*: Error 1285: out of memory\n([a-z_]+: .*\n)*)+"
+        errors = re.compile(f"({report}{self.path('b.bmp')}: not enough texture memory\\.\n){{2}}")
+        with Viewer("-resetview-", "-frametype", "0", self.folder.name, errors=errors) as viewer:
+            viewer.await_box(380, 285, 419, 314)
+            # Enough for the file's mapping of 192 MB, but not for its textures of 341 MB.
+            size = self.statm(viewer, 0) + (300 << 20)
+            resource.prlimit(viewer.process.pid, resource.RLIMIT_AS, (size, size))
+            for key, title, pixel in (("space", "/c.bmp (3/3)", (0, 0, 200)),
+                                      ("BackSpace", "/a.bmp (1/3)", (200, 0, 0))):
+                viewer.key(key)
+                viewer.await_title(title)
+                wait_for("the picture",
+                         lambda p=pixel: part(viewer.look(), 390, 300, 1, 1) == bytes(p))
 
 
 class UnderAWindowManager(ViewerTest):

@@ -45,7 +45,7 @@ struct gl_recorder_t {
     std::map<GLenum, std::vector<unsigned char>> pixels;  ///< glReadPixels, by read buffer
     GLuint next_name = 1;                                 ///< the next texture, list or program
     /// glTexImage2D causes GL_OUT_OF_MEMORY if there are more textures.
-    int most_textures = 1000;
+    int most_textures = 10000;
     int textures = 0;
 };
 
