@@ -19,7 +19,7 @@ import tempfile
 
 BUILD, PICTURES, ROUNDS = sys.argv[1], sys.argv[2], int(sys.argv[3])
 PAGES = 8
-STEPS = 100
+STEPS = 50
 COLORS = (255, 0, 0), (0, 255, 0), (0, 0, 255), (255, 255, 0), (255, 0, 255), (0, 255, 255)
 OURS, BARE = "zanoview3", "bare"
 
@@ -75,7 +75,10 @@ def run_meter(viewer, directory, pages=PAGES, steps=0):
     for line in output.stdout.splitlines():
         name, value = line.split()
         values.setdefault(name, []).append(math.nan if value == "timeout" else float(value))
-    return {name: statistics.median(numbers) for name, numbers in values.items()}
+    medians = {name: statistics.median(numbers) for name, numbers in values.items()}
+    if steps:
+        medians["frames"] = 1000 / max(medians["step"], 0.01)
+    return medians
 
 
 def compare(width, height, viewers, what, pages=PAGES, steps=0):
@@ -98,21 +101,27 @@ def compare(width, height, viewers, what, pages=PAGES, steps=0):
 
 
 def compare_libraries():
-    """Prints our loading and upload beside the bare library calls."""
+    """Prints our loading and upload beside the bare library calls: medians of interleaved repetitions."""
     pairs = [("JPEG", "load_jpeg", "bare_jpeg"), ("PNG", "load_png", "bare_png"),
              ("upload", "upload_record", "bare_calls")]
-    output = subprocess.run([f"{BUILD}/bench/zv_bench", f"--benchmark_repetitions={2 * ROUNDS + 1}",
-                             "--benchmark_enable_random_interleaving=true", "--benchmark_format=json",
-                             "--benchmark_min_time=0.5",
-                             "--benchmark_filter=jpeg|png|upload_record|bare_calls"], stdout=subprocess.PIPE, check=True)
-    times = {}
-    for run in json.loads(output.stdout)["benchmarks"]:
-        if run["run_type"] == "iteration":
-            times.setdefault(run["run_name"].split("/")[0], []).append(run["real_time"])
+    rounds = []
+    for _ in range(3):
+        output = subprocess.run([f"{BUILD}/bench/zv_bench", "--benchmark_format=json",
+                                 "--benchmark_enable_random_interleaving=true",
+                                 "--benchmark_min_time=0.01", "--benchmark_repetitions=21",
+                                 "--benchmark_filter=jpeg|png|upload_record|bare_calls"],
+                                stdout=subprocess.PIPE, check=True)
+        times = {}
+        for run in json.loads(output.stdout)["benchmarks"]:
+            if run["run_type"] == "iteration":
+                times.setdefault(run["run_name"], []).append(run["real_time"])
+        rounds.append({name.split("/")[0]: statistics.median(runs) for name, runs in times.items()})
     print("\n| 24 megapixels | ours, ms | bare calls, ms | ratio |\n|---|---|---|---|")
     for text, ours, bare in pairs:
-        medians = statistics.median(times[ours]), statistics.median(times[bare])
-        print("| {} | {:.1f} | {:.1f} | {:.2f} |".format(text, *medians, medians[0] / medians[1]), flush=True)
+        medians = [statistics.median(times[name] for times in rounds) for name in (ours, bare)]
+        ratios = [times[ours] / times[bare] for times in rounds]
+        print("| {} | {:.0f} | {:.0f} | {:.2f} ({:.2f} to {:.2f}) |".format(
+            text, *medians, statistics.median(ratios), min(ratios), max(ratios)), flush=True)
 
 
 def measure_scale():
@@ -180,8 +189,8 @@ def main():
     compare_libraries()
     print("\n## Redraw")
     steps = [viewer for viewer in installed if viewer[0] in (OURS, "imv")]
-    compare(6000, 4000, steps, {"step": "a step of the view, ms"}, 1, STEPS)
-    compare(10000, 10000, steps, {"step": "a step of the view, ms"}, 1, STEPS)
+    for side in (6000, 4000), (10000, 10000):
+        compare(*side, steps, {"step": "processor time of a step, ms", "frames": "steps a second"}, 1, STEPS)
     print("\n## Scale")
     rows = measure_scale()
     measure_names()

@@ -168,7 +168,7 @@ int main(int argc, char** argv) {
     double const before = settled_processor_time(process);
     for (unsigned long step = 0; step < steps; ++step) {
         press(argv[3]);
-        std::this_thread::sleep_for(2ms);
+        std::this_thread::sleep_for(60ms);  // so that each step is drawn
     }
     double const after = settled_processor_time(process);
     if (steps != 0) {
