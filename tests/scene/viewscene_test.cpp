@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <set>
+#include <string>
 
 #include "options/option.h"
 #include "tests/scene/scenefiles.h"
@@ -197,6 +199,28 @@ TEST_F(SceneTest, MakesDrawsAndFreesAPicture) {
     EXPECT_EQ(take("MAG_FILTER, GL_NEAREST"),
               "glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST)\n");
     EXPECT_TRUE(scene.toggleSmooth());
+}
+
+TEST_F(SceneTest, ARedrawCallsOneListAndWaitsForNothing) {
+    gl.muted.erase("glGetIntegerv");
+    ViewScene scene;
+    scene.Init("");
+    ASSERT_TRUE(add(scene, test_bmp(700, 3)));  // three tiles
+    ASSERT_TRUE(scene.make_graph(""));
+    gl.lines.clear();
+    scene.Zoom(1, 0);
+    scene.Display();
+    std::multiset<std::string> calls;
+    for (std::string const& line : gl.lines) {
+        calls.insert(line.substr(0, line.find(line.starts_with("glGet") ? ',' : '(')));
+    }
+    EXPECT_EQ(calls.count("glCallList"), 1U);
+    calls.erase("glGetIntegerv(GL_MATRIX_MODE");  // a variable of the library, not of the driver
+    for (std::string const& call : calls) {
+        for (char const* slow : {"glGet", "glTex", "glGen", "glNewList", "glRead", "glFinish"}) {
+            EXPECT_FALSE(call.starts_with(slow)) << call;
+        }
+    }
 }
 
 TEST_F(SceneTest, APictureWithoutTextureMemoryIsRemoved) {
