@@ -82,7 +82,7 @@ class block_t {
             add_ifd("EquipmentIFD", {{"0203", 0x0203, 2, 6, 96}});
             add_ifd("CameraSettingsIFD", {{"0500", 0x0500, 3, 1, 21}});
             add_ifd("FocusIFD", {{"031B", 0x031B, 3, 1, 37}});
-            m_bytes += std::string("LENS1", 6);
+            m_bytes += std::string("LENS1\0", 6);
         } else if (note == "pentax") {  // offsets relative to the note
             m_bytes += std::string("PENTAX \0II", 10);
             add_ifd("Note", {{"000D", 0x000D, 3, 1, 41}, {"Unknown", 0x0001, 5, 1, 36}});
