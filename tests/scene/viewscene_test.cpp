@@ -223,6 +223,13 @@ TEST_F(SceneTest, ARedrawCallsOneListAndWaitsForNothing) {
     }
 }
 
+TEST_F(SceneTest, TexturesWithoutColumnsAreNotDrawn) {
+    zanolib::multi_texture_object_t textures;
+    textures.m_texobjs.resize(1);
+    textures.draw_image({}, {});
+    EXPECT_EQ(take("glBegin"), "");
+}
+
 TEST_F(SceneTest, APictureWithoutTextureMemoryIsRemoved) {
     ViewScene scene;
     std::string const path = write_file(dir.file("a.bmp"), test_bmp(700, 3));  // three tiles
