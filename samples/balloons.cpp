@@ -155,10 +155,11 @@ void add_balloon(vec3& colour, vec2 at, balloon_t const& balloon) {
 
 }  // namespace
 
-canvas_t balloons_at_sunrise() {
-    canvas_t canvas(900, 1200);
-    canvas.fill(2, [](vec2 pixel) {
-        vec2 const at = pixel * (1.0f / 900.0f);
+canvas_t balloons_at_sunrise(int width) {
+    canvas_t canvas(width, width * 4 / 3);
+    float const scale = 1.0f / static_cast<float>(width);
+    canvas.fill(2, [scale](vec2 pixel) {
+        vec2 const at = pixel * scale;
         vec3 colour = hills_and_sky(at);
         for (balloon_t const& balloon : balloons) {
             add_balloon(colour, at, balloon);

@@ -63,21 +63,21 @@ bool save_photograph(std::string const& path) {
 }
 
 bool save_balloons(std::string const& path) {
-    return save_jpeg(turned_left(balloons_at_sunrise().image()), path, true);
+    return save_jpeg(turned_left(balloons_at_sunrise(900).image()), path, true);
 }
 
 bool save_aurora(std::string const& path) {
     libgr::image2d_t blue_first;
-    return libgr::rgb2bgr(blue_first, aurora().image()) &&
+    return libgr::rgb2bgr(blue_first, aurora(1000).image()) &&
            libgr::image_bmp_t{}.save(blue_first, path.c_str());
 }
 
 bool save_window(std::string const& path) {
-    return libgr::image_tga_t{}.save(rose_window().image(), path.c_str());
+    return libgr::image_tga_t{}.save(rose_window(900).image(), path.c_str());
 }
 
 bool save_julia(std::string const& path) {
-    return libgr::image_png_t{}.save(julia().image(), path.c_str());
+    return libgr::image_png_t{}.save(julia(1000).image(), path.c_str());
 }
 
 struct sample_t {

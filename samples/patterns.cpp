@@ -182,24 +182,27 @@ vec3 julia_colour(vec2 at) {
 
 }  // namespace
 
-canvas_t aurora() {
-    canvas_t canvas(1000, 750);
-    canvas.fill(2, [](vec2 pixel) { return northern_night(pixel * (1.0f / 1000.0f)); });
+canvas_t aurora(int width) {
+    canvas_t canvas(width, width * 3 / 4);
+    float const scale = 1.0f / static_cast<float>(width);
+    canvas.fill(2, [scale](vec2 pixel) { return northern_night(pixel * scale); });
     return canvas;
 }
 
-canvas_t rose_window() {
-    canvas_t canvas(900, 900);
-    canvas.fill(3, [](vec2 pixel) {
-        return rose((pixel - vec2{450.0f, 450.0f}) * (1.0f / 450.0f));
+canvas_t rose_window(int width) {
+    canvas_t canvas(width, width);
+    float const radius = 0.5f * static_cast<float>(width);
+    canvas.fill(3, [radius](vec2 pixel) {
+        return rose((pixel - vec2{radius, radius}) * (1.0f / radius));
     });
     return canvas;
 }
 
-canvas_t julia() {
-    canvas_t canvas(1000, 750);
-    canvas.fill(3, [](vec2 pixel) {
-        return julia_colour((pixel - vec2{500.0f, 375.0f}) * (1.0f / 325.0f));
+canvas_t julia(int width) {
+    canvas_t canvas(width, width * 3 / 4);
+    float const scale = 1.0f / static_cast<float>(width);
+    canvas.fill(3, [scale](vec2 pixel) {
+        return julia_colour((pixel * scale - vec2{0.5f, 0.375f}) * (1.0f / 0.325f));
     });
     return canvas;
 }

@@ -6,14 +6,12 @@
 
 namespace samples {
 
-/// A landscape. Its height is two thirds of `width`.
-canvas_t alps(int width);
+// Each function returns a picture of `width` pixels. Its height is proportional.
 
-/// 900 by 1200 pixels.
-canvas_t balloons_at_sunrise();
-
-canvas_t aurora();
-canvas_t rose_window();
-canvas_t julia();
+canvas_t alps(int width);                 ///< 3 by 2
+canvas_t balloons_at_sunrise(int width);  ///< 3 by 4
+canvas_t aurora(int width);               ///< 4 by 3
+canvas_t rose_window(int width);          ///< 1 by 1
+canvas_t julia(int width);                ///< 4 by 3
 
 }  // namespace samples
