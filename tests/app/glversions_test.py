@@ -6,7 +6,8 @@ import unittest
 from viewerdriver import Viewer, ViewerTest, part, run, wait_for
 
 WIDTH, HEIGHT = 300, 270  # four tiles; three of them fill only a part of their textures
-PLACE = (801 - WIDTH) // 2, (600 - HEIGHT) // 2, WIDTH, HEIGHT  # in the window, at scale 1
+WINDOW = 400, 300
+PLACE = (WINDOW[0] - WIDTH) // 2, (WINDOW[1] - HEIGHT) // 2, WIDTH, HEIGHT  # at scale 1
 # ImageMagick's options. The two bytes of a sample of 16 bits differ.
 PICTURES = {"rgb.png": (), "palette.png": ("-colors", 60), "gray.png": ("-colorspace", "Gray"),
             "rgb16.png": ("-depth", 16, "-evaluate", "multiply", 0.7),
@@ -16,13 +17,13 @@ OLD = (("2.1", {}), ("1.4", {}), ("1.2", {}),
        ("1.2", {"MESA_EXTENSION_OVERRIDE": "-GL_SGIS_generate_mipmap"}))
 # The key, the scale, and by how much a channel may differ if GLU builds the mipmaps: GLU and the
 # driver round differently, by at most 1 in each level.
-VIEWS = (("0", 1, 0), ("Prior", 2 ** 0.25, 0), ("4", 1 / 4, 2))
+VIEWS = (("0", 1, 1), ("Prior", 2 ** 0.25, 1), ("4", 1 / 4, 2))
 
 
-def agree(expected, shown, slack, scale=1, width=800):
+def agree(expected, shown, slack, scale=1, width=WINDOW[0]):
     """Returns true if no pixel differs by more than `slack`. Ignores the right column and the top row of
     a scaled picture: they are mixed with texels that OpenGL leaves undefined."""
-    right, top = 400 + WIDTH / 2 * scale, 300 - HEIGHT / 2 * scale
+    right, top = (WINDOW[0] + WIDTH * scale) / 2, (WINDOW[1] - HEIGHT * scale) / 2
     for at, (a, b) in enumerate(zip(expected, shown)) if expected != shown else ():
         y, x = divmod(at // 3, width)
         if abs(a - b) > slack and (scale == 1 or abs(x + 0.5 - right) > 1 < abs(y + 0.5 - top)):
@@ -33,9 +34,9 @@ def agree(expected, shown, slack, scale=1, width=800):
 class Versions(ViewerTest):
     def views(self, version, extensions):
         """Runs the viewer, and shows each picture in each view in turn."""
-        with Viewer("-resetview-", "-frametype", "0", *map(self.path, PICTURES),
-                    MESA_GL_VERSION_OVERRIDE=version, **extensions) as viewer:
-            viewer.await_box(250, 165, 549, 434)
+        with Viewer("-resetview-", "-frametype", "0", "-winsize", "{}x{}".format(*WINDOW),
+                    *map(self.path, PICTURES), MESA_GL_VERSION_OVERRIDE=version, **extensions) as viewer:
+            viewer.await_box(50, 15, 349, 284)
             for name in PICTURES:
                 viewer.await_title(name)
                 for view in VIEWS:

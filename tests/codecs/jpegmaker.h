@@ -89,9 +89,9 @@ struct picture_test_t : testing::Test {
         image.compressed = true;
         image.desc.bits = libgr::IMAGE_BITS_64;
         libutils::clear_failure_reason();
-        testing::internal::CaptureStderr();
+        capture_t streams;
         is_loaded = codec.load(image, place.c_str());
-        lines = testing::internal::GetCapturedStderr();
+        lines = streams.err();
         turns = codec.rightrotatecount();
         if (!is_loaded) {
             return std::string(libutils::failure_reason());

@@ -60,7 +60,8 @@ inline std::string write_turned_jpeg(std::string const& path, unsigned width, un
     image.desc = {libgr::IMAGE_FORMAT_RGB, libgr::IMAGE_TYPE_UINT, libgr::IMAGE_BITS_8};
     image.m_width = width;
     image.m_height = height;
-    EXPECT_TRUE(image.allocate() && libgr::image_jpeg1_t().save(image, path.c_str()));
+    EXPECT_TRUE(image.allocate());
+    EXPECT_TRUE(libgr::image_jpeg1_t().save(image, path.c_str()));
     // An Exif block with the tag Orientation = 6, which is inserted after the start marker.
     std::string const exif(
         "\xff\xe1\0\x22"

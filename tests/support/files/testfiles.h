@@ -3,8 +3,10 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <stdio.h>
 #include <stdlib.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -12,6 +14,7 @@
 #include <sstream>
 #include <string>
 #include <system_error>
+#include <utility>
 
 /// A new directory. It and its files are removed at the end of the block.
 class temp_dir_t {
@@ -65,10 +68,15 @@ inline std::string read_file(std::string const& path) {
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-/// Captures the standard output and the error stream until the end of the block, and then restores
-/// their format flags.
+/// Captures std::cout, and std::cerr together with stderr, until the end of the block, and then
+/// restores their format flags.
 class capture_t {
   public:
+    capture_t() { std::setvbuf(stderr, nullptr, _IONBF, 0); }
+    capture_t(capture_t const&) = delete;
+    capture_t& operator=(capture_t const&) = delete;
+    ~capture_t() { std::fclose(std::exchange(stderr, m_kept)); }
+
     /// Return the text since the start or since the last call.
     std::string out() { return m_out.take(); }
     std::string err() { return m_err.take(); }
@@ -95,6 +103,13 @@ class capture_t {
         std::streambuf* kept;
     };
 
+    static ssize_t append(void* captured, char const* bytes, std::size_t count) {
+        static_cast<captured_t*>(captured)->text.write(bytes, static_cast<std::streamsize>(count));
+        return static_cast<ssize_t>(count);
+    }
+
     captured_t m_out{std::cout};
     captured_t m_err{std::cerr};
+    FILE* const m_kept{
+        std::exchange(stderr, ::fopencookie(&m_err, "w", {nullptr, append, nullptr, nullptr}))};
 };

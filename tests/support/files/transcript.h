@@ -24,10 +24,21 @@ inline std::vector<std::string> lines_of(std::string const& text) {
     return lines;
 }
 
+/// Returns the line with this number, counted from 0, and up to three lines before and after it.
+inline std::string context_of(std::vector<std::string> const& lines, std::size_t number) {
+    std::string text;
+    for (std::size_t i = number - std::min<std::size_t>(number, 3);
+         i < std::min(lines.size(), number + 4); ++i) {
+        text += (i == number ? "> " : "  ") + lines[i] + "\n";
+    }
+    return text;
+}
+
 }  // namespace transcript
 
-/// Succeeds if the file at `path` has exactly this text. A failure shows the text around the
-/// difference. If the environment variable ZV_ACCEPT is set, writes the text to the file instead.
+/// Succeeds if the file at `path` has exactly this text. A failure shows the first line that
+/// differs with three lines around it, from both. If the environment variable ZV_ACCEPT is set,
+/// writes the text to the file instead.
 inline testing::AssertionResult matches_file(std::string const& text, std::string const& path) {
     if (std::getenv("ZV_ACCEPT") != nullptr) {
         write_file(path, text);
@@ -37,14 +48,14 @@ inline testing::AssertionResult matches_file(std::string const& text, std::strin
     if (text == wanted) {
         return testing::AssertionSuccess();
     }
-    auto const same = std::ranges::mismatch(wanted, text).in1;
-    auto const at = static_cast<std::size_t>(same - wanted.begin());
-    std::size_t const begin = at - std::min<std::size_t>(at, 200);
+    auto const wanted_lines = transcript::lines_of(wanted), lines = transcript::lines_of(text);
+    auto const same = std::ranges::mismatch(wanted_lines, lines).in1;
+    auto const number = static_cast<std::size_t>(same - wanted_lines.begin());
     auto const* const test = testing::UnitTest::GetInstance()->current_test_info();
     return testing::AssertionFailure()
-           << "line " << std::count(wanted.begin(), same, '\n') + 1 << " of " << path
-           << " differs\nexpected:\n..." << wanted.substr(begin, 400) << "...\nactual:\n..."
-           << text.substr(begin, 400) << "...\nTo accept the new text, run\n"
+           << path << " differs in line " << number + 1 << "\nexpected:\n"
+           << transcript::context_of(wanted_lines, number) << "actual:\n"
+           << transcript::context_of(lines, number) << "To accept the new text, run\n"
            << "ZV_ACCEPT=1 " << std::filesystem::read_symlink("/proc/self/exe").string()
            << " --gtest_filter=" << test->test_suite_name() << '.' << test->name();
 }
