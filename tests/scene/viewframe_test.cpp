@@ -72,7 +72,6 @@ class ViewFrameTest : public testing::Test {
     std::set<std::string> shown;
     gl_flag_t modern{is_GL_VERSION_3_0_supported, 1};
     gl_flag_t bgra{is_GL_EXT_bgra_supported, 1};
-    gl_flag_t compression{is_GL_ARB_texture_compression_supported, 1};
     gl_flag_t rescale{is_GL_EXT_rescale_normal_supported, 1};
     gl_flag_t vertex{is_GL_ARB_vertex_program_supported, 1};
     gl_flag_t fragment{is_GL_ARB_fragment_program_supported, 1};
