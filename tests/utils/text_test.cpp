@@ -77,6 +77,7 @@ TEST(Path, CutsPartsToTheSizeOfTheBuffer) {
 TEST(Path, SearchesDirectoriesInOrderAndComparesExtensions) {
     EXPECT_EQ(extcasecmp(std::string("a.JPG"), ".jpg"), 0);
     EXPECT_EQ(extcasecmp("g", 1, ".jpg"), -1);
+    EXPECT_EQ(extcasecmp(".JPG", 4, ".jpg"), 0);
     temp_dir_t const dir;
     for (std::string const name : {"one", "two"}) {
         fs::create_directory(dir.file(name));
