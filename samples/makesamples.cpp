@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Paints the sample pictures, at least one in each file format: make-samples <directory>
+// Paints the sample pictures, at least one in each file format: make-samples <directory> [<width>]
+// The width replaces the widths of all pictures.
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -56,50 +57,51 @@ bool save_jpeg(libgr::image2d_t const& image, std::string const& path, bool is_t
     return info.compress(data, image, 92, true) && data.save(path.c_str(), nullptr);
 }
 
-bool save_photograph(std::string const& path) {
-    canvas_t canvas = alps(6000);
+bool save_photograph(std::string const& path, int width) {
+    canvas_t canvas = alps(width);
     canvas.add_grain(0.012f);
     return save_jpeg(canvas.image(), path, false);
 }
 
-bool save_balloons(std::string const& path) {
-    return save_jpeg(turned_left(balloons_at_sunrise(900).image()), path, true);
+bool save_balloons(std::string const& path, int width) {
+    return save_jpeg(turned_left(balloons_at_sunrise(width).image()), path, true);
 }
 
-bool save_aurora(std::string const& path) {
+bool save_aurora(std::string const& path, int width) {
     libgr::image2d_t blue_first;
-    return libgr::rgb2bgr(blue_first, aurora(1000).image()) &&
+    return libgr::rgb2bgr(blue_first, aurora(width).image()) &&
            libgr::image_bmp_t{}.save(blue_first, path.c_str());
 }
 
-bool save_window(std::string const& path) {
-    return libgr::image_tga_t{}.save(rose_window(900).image(), path.c_str());
+bool save_window(std::string const& path, int width) {
+    return libgr::image_tga_t{}.save(rose_window(width).image(), path.c_str());
 }
 
-bool save_julia(std::string const& path) {
-    return libgr::image_png_t{}.save(julia(1000).image(), path.c_str());
+bool save_julia(std::string const& path, int width) {
+    return libgr::image_png_t{}.save(julia(width).image(), path.c_str());
 }
 
 struct sample_t {
     char const* name;
-    bool (*save)(std::string const& path);
+    bool (*save)(std::string const& path, int width);
+    int width;
 };
 constexpr std::array sample_list{
-    sample_t{"alps.jpg", save_photograph},   sample_t{"aurora.bmp", save_aurora},
-    sample_t{"balloons.jpg", save_balloons}, sample_t{"julia.png", save_julia},
-    sample_t{"rose.tga", save_window},
+    sample_t{"alps.jpg", save_photograph, 6000},  sample_t{"aurora.bmp", save_aurora, 1000},
+    sample_t{"balloons.jpg", save_balloons, 900}, sample_t{"julia.png", save_julia, 1000},
+    sample_t{"rose.tga", save_window, 900},
 };
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage: make-samples directory" << std::endl;
+    if (argc != 2 && argc != 3) {
+        std::cerr << "usage: make-samples directory [width]" << std::endl;
         return EXIT_FAILURE;
     }
     for (sample_t const& sample : sample_list) {
         std::string const path = std::string(argv[1]) + '/' + sample.name;
-        if (!sample.save(path)) {
+        if (!sample.save(path, argc == 3 ? std::atoi(argv[2]) : sample.width)) {
             std::cerr << path << ": can't be written" << std::endl;
             return EXIT_FAILURE;
         }

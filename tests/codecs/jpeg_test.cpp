@@ -202,6 +202,9 @@ TEST_F(Jpeg, MakesSquaresAndBorders) {
         EXPECT_EQ(at(row.x, row.y), row.byte);
         EXPECT_EQ(at(4, 5), plain.at(4, 694, 0));
     }
+    jpegdata_t const wide = jpegdata_of(jpeg_of({65500, 1, JCS_GRAYSCALE, 1, 1}));
+    capture_t const streams;
+    EXPECT_FALSE(jpeginfo_t().decompress(image, wide, 256, true, white3ub)) << "65,536 columns";
 }
 
 TEST_F(Jpeg, ChecksTheMemoryForPixelsAndCoefficients) {

@@ -1,17 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The scenes of the sample pictures.
+// The scenes of the sample pictures, and the files that make-samples writes.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <iterator>
-#include <ostream>
+#include <cstdlib>
 
+#include "codecs/bmpimage.h"
+#include "codecs/jpegobject.h"
+#include "codecs/png.h"
+#include "codecs/tga.h"
+#include "image/pixelconvert.h"
 #include "samples/scenes.h"
+#include "tests/support/files/testfiles.h"
 
 namespace {
 
+using namespace libgr;
 using samples::canvas_t;
 
 canvas_t grainy_alps(int width) {
@@ -20,51 +27,60 @@ canvas_t grainy_alps(int width) {
     return canvas;
 }
 
+/// Loads a sample as RGB. Returns the quarter turns to the right that make it upright.
+template <typename codec_t>
+unsigned long load(image2d_t& image, std::string const& path) {
+    codec_t codec;
+    image2d_t loaded;
+    EXPECT_TRUE(codec.load(loaded, path.c_str()));
+    EXPECT_TRUE(bgr2rgb(image, loaded));
+    return codec.rightrotatecount();
+}
+
 // The averages of the channels in the image's four quarters, in hundredths, bottom row first.
 using averages_t = std::array<int, 12>;
 struct scene_t {
-    char const* name;
+    char const* file;
     canvas_t (*paint)(int width);
-    unsigned int width, height;
+    unsigned long (*load)(image2d_t& image, std::string const& path);
+    unsigned int height;  ///< of 120 columns
+    unsigned long turns;
     averages_t averages;
 };
 constexpr scene_t scenes[] = {
-    {"alps",
+    {"alps.jpg",
      grainy_alps,
-     120,
+     load<image_jpeg1_t>,
      80,
+     0,
      {7903, 7711, 8120, 11568, 10190, 9509, 15060, 13910, 15985, 16137, 14962, 16087}},
-    {"balloons",
+    {"balloons.jpg",
      samples::balloons_at_sunrise,
-     120,
+     load<image_jpeg1_t>,
      160,
+     1,
      {18445, 15323, 13098, 19902, 16594, 13553, 13502, 11275, 11611, 14441, 14553, 16195}},
-    {"aurora",
+    {"aurora.bmp",
      samples::aurora,
-     160,
-     120,
-     {2121, 5333, 6683, 2831, 6917, 7561, 2167, 4673, 6023, 2599, 4017, 6302}},
-    {"rose",
+     load<image_bmp_t>,
+     90,
+     0,
+     {2125, 5342, 6695, 2826, 6927, 7565, 2155, 4656, 6007, 2578, 4000, 6287}},
+    {"rose.tga",
      samples::rose_window,
+     load<image_tga_t>,
      120,
-     120,
+     0,
      {9007, 7027, 9609, 9009, 7009, 9599, 8978, 7011, 9597, 9008, 7015, 9614}},
-    {"julia",
+    {"julia.png",
      samples::julia,
-     160,
-     120,
-     {12732, 11893, 11021, 10956, 10425, 9823, 9722, 9251, 8664, 9490, 8749, 7915}},
+     load<image_png_t>,
+     90,
+     0,
+     {12777, 11935, 11062, 10958, 10428, 9829, 9736, 9270, 8685, 9503, 8759, 7928}},
 };
-void PrintTo(scene_t const& scene, std::ostream* out) {
-    *out << scene.name;
-}
 
-class SampleTest : public testing::TestWithParam<scene_t> {};
-
-TEST_P(SampleTest, QuartersHaveTheirColours) {
-    libgr::image2d_t const image = GetParam().paint(static_cast<int>(GetParam().width)).image();
-    ASSERT_EQ(image.m_width, GetParam().width);
-    ASSERT_EQ(image.m_height, GetParam().height);
+averages_t averages_of(image2d_t const& image) {
     std::array<double, 12> sums{};
     for (std::size_t y = 0; y < image.m_height; ++y) {
         unsigned char const* pixel = image.begin() + image.rowsize() * y;
@@ -75,14 +91,40 @@ TEST_P(SampleTest, QuartersHaveTheirColours) {
             }
         }
     }
-    for (std::size_t i = 0; i < sums.size(); ++i) {
-        double const average = sums[i] * 400.0 / image.m_width / image.m_height;
-        EXPECT_NEAR(average, GetParam().averages[i], 3.0)
-            << "quarter " << i / 3 << ", channel " << i % 3;
+    averages_t averages{};
+    std::ranges::transform(sums, averages.begin(), [&image](double sum) {
+        return static_cast<int>(std::lround(sum * 400 / image.m_width / image.m_height));
+    });
+    return averages;
+}
+
+void expect_near(averages_t const& averages, scene_t const& scene, int tolerance) {
+    for (std::size_t i = 0; i < averages.size(); ++i) {
+        EXPECT_NEAR(averages[i], scene.averages[i], tolerance)
+            << scene.file << ", quarter " << i / 3 << ", channel " << i % 3;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Scenes, SampleTest, testing::ValuesIn(scenes),
-                         [](auto const& scene) { return scene.param.name; });
+TEST(Samples, ScenesHaveTheirColours) {
+    for (scene_t const& scene : scenes) {
+        image2d_t const image = scene.paint(120).image();
+        EXPECT_EQ(image.m_width, 120U);
+        EXPECT_EQ(image.m_height, scene.height);
+        expect_near(averages_of(image), scene, 3);
+    }
+}
+
+TEST(Samples, FilesHaveTheirFormatsAndTurns) {
+    temp_dir_t const dir;
+    ASSERT_EQ(std::system((MAKE_SAMPLES " " + dir.path() + " 120").c_str()), 0);
+    for (scene_t const& scene : scenes) {
+        image2d_t image, upright;
+        unsigned long const turns = scene.load(image, dir.file(scene.file));
+        EXPECT_EQ(turns, scene.turns) << scene.file;
+        ASSERT_TRUE(rotate(turns, upright, image));
+        EXPECT_EQ(upright.m_width, 120U);
+        expect_near(averages_of(upright), scene, 80);
+    }
+}
 
 }  // namespace
