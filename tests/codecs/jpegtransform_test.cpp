@@ -199,6 +199,8 @@ TEST(JpegTransformTest, CopiesMarkersByOption) {
         std::string const out = outcome(jpeg_of(whole_layout, all), request(0), option);
         EXPECT_EQ(out.substr(20, expected.size()), expected);
     }
+    std::string const rgb = outcome(jpeg_of(rgb_layout), request(0), JCOPY_ALL);
+    EXPECT_EQ(rgb.find("Adobe"), rgb.rfind("Adobe")) << "libjpeg writes this segment of its own";
 }
 
 TEST(JpegTransformTest, WritesTheNewSizeIntoExif) {
