@@ -201,6 +201,11 @@ TEST_F(Jpeg, MakesSquaresAndBorders) {
         };
         EXPECT_EQ(at(row.x, row.y), row.byte);
         EXPECT_EQ(at(4, 5), plain.at(4, 694, 0));
+        std::string const fresh = pixels();
+        std::fill(image.begin(), image.end(), static_cast<unsigned char>(0xEE));
+        EXPECT_TRUE(jpeginfo_t().decompress(image, jpegdata_of(bytes), row.unit, row.border,
+                                            color3ub_t{1, 2, 3}));
+        EXPECT_EQ(pixels() == fresh, !row.border) << "only squares are cleared again";
     }
     jpegdata_t const wide = jpegdata_of(jpeg_of({65500, 1, JCS_GRAYSCALE, 1, 1}));
     capture_t const streams;

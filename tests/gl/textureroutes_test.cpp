@@ -272,6 +272,14 @@ TEST(TextureRoutes, EachRouteMakesItsCalls) {
     EXPECT_TRUE(matches_file(text, ROUTE_CALLS));
 }
 
+TEST(TextureRoutes, ClassesHaveTheDimensionsOfTheirTargets) {
+    EXPECT_EQ(grTexture1D().Dimension(), 1U);
+    EXPECT_EQ(grTexture2D().Dimension(), 2U);
+    EXPECT_EQ(grTexture3D().Dimension(), 3U);
+    EXPECT_EQ(grTextureCubeMap().Dimension(), 6U);
+    EXPECT_EQ(grTextureRectangle().Dimension(), 2U) << "it is bound as a 2-D texture";
+}
+
 TEST(TextureRoutes, SgisGeneratesMipmapsOfRgbOnly) {
     gl_flag_t const flag(is_GL_SGIS_generate_mipmap_supported, 1);
     for (int const format : {GL_RGB5, GL_RGB8, GL_RGBA8, GL_BGR, GL_BGRA, GL_RGB, GL_RGBA}) {
