@@ -207,6 +207,9 @@ TEST_F(Jpeg, MakesSquaresAndBorders) {
                                             color3ub_t{1, 2, 3}));
         EXPECT_EQ(pixels() == fresh, !row.border) << "only squares are cleared again";
     }
+    jpegdata_t const square = jpegdata_of(jpeg_of({6, 6, JCS_RGB, 1, 1}));
+    EXPECT_TRUE(jpeginfo_t().decompress(image, square, 0, true, color3ub_t{1, 2, 3}));
+    EXPECT_EQ(pixels().substr(8 * 8 * 3 - 3), "\1\2\3") << "the last corner";
     jpegdata_t const wide = jpegdata_of(jpeg_of({65500, 1, JCS_GRAYSCALE, 1, 1}));
     capture_t const streams;
     EXPECT_FALSE(jpeginfo_t().decompress(image, wide, 256, true, white3ub)) << "65,536 columns";
