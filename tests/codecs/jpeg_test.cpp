@@ -168,7 +168,7 @@ TEST_F(Jpeg, RejectsDamagedHeaders) {
     std::vector<std::pair<std::string, char const*>> const rows = {
         {"BM", "Not a JPEG file: starts with 0x42 0x4d"},
         {four_components, "CMYK JPEG"},
-        {std::string(jpeg).replace(frame + 5, 4, be(0xFFDCFFDC, 4)),
+        {std::string(jpeg).replace(frame + 5, 4, be(0x1F400FA0, 4)),
          "exceeds limit jpeg-ratio (4096 bytes of pixels for each of the file)"},
     };
     for (auto const& [bytes, reason] : rows) {
