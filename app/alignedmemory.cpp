@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 // A posix_memalign() for the whole program that uses free blocks again.
 //
-// Before version 2.38, glibc allocates aligned memory by asking for a larger block and cutting it
-// (https://sourceware.org/bugzilla/show_bug.cgi?id=14581). A freed block is then too small for the
-// next request of the same size. A software driver allocates a texture without mipmaps, replaces it
-// by one with mipmaps, and frees the first one, for each tile of a picture. Without this function
-// all the first ones stay in the heap as free blocks: 72 MiB for a picture of 24 megapixels.
+// glibc allocates aligned memory by asking for a larger block and cutting it. A freed block is then
+// too small for the next request of the same size
+// (https://sourceware.org/bugzilla/show_bug.cgi?id=14581). A software driver allocates a texture
+// without mipmaps, replaces it by one with mipmaps, and frees the first one, for each tile of a
+// picture. Without this function most of the first ones stay in the heap as free blocks: up to 71
+// MiB for a picture of 24 megapixels.
 #include <features.h>
 
-#if defined(__GLIBC__) && !__GLIBC_PREREQ(2, 38)
+#ifdef __GLIBC__
 #include <malloc.h>
 
 #include <bit>
@@ -19,7 +20,9 @@
 
 namespace {
 
-constexpr std::size_t min_block = 65536;
+// Smaller blocks leave small holes. malloc() maps larger blocks, and these are never aligned.
+constexpr std::size_t min_block = std::size_t{64} << 10;
+constexpr std::size_t max_block = std::size_t{1} << 20;
 
 }  // namespace
 
@@ -30,8 +33,8 @@ extern "C" [[gnu::visibility("default")]] int posix_memalign(void** block, std::
     if (!std::has_single_bit(alignment) || alignment % sizeof(void*) != 0) {
         return EINVAL;
     }
-    if (size >= min_block) {
-        // This is the block of an earlier request, if one is free. Then it is aligned.
+    if (min_block <= size && size <= max_block) {
+        // malloc() often returns the block of an earlier request. That block is usually aligned.
         void* const candidate = std::malloc(size);
         if (candidate == nullptr) {
             return ENOMEM;

@@ -95,13 +95,14 @@ constexpr std::array sample_list{
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2 && argc != 3) {
+    int const width = argc == 3 ? std::atoi(argv[2]) : 0;
+    if (argc != (width >= 2 ? 3 : 2)) {
         std::cerr << "usage: make-samples directory [width]" << std::endl;
         return EXIT_FAILURE;
     }
     for (sample_t const& sample : sample_list) {
         std::string const path = std::string(argv[1]) + '/' + sample.name;
-        if (!sample.save(path, argc == 3 ? std::atoi(argv[2]) : sample.width)) {
+        if (!sample.save(path, width != 0 ? width : sample.width)) {
             std::cerr << path << ": can't be written" << std::endl;
             return EXIT_FAILURE;
         }

@@ -18,7 +18,7 @@ using block_t = std::unique_ptr<void, freed_t>;
 
 TEST(AlignedMemoryTest, LargeBlocksAreAlignedAndUsedAgain) {
     void* block = nullptr;
-    EXPECT_EQ(posix_memalign(&block, 12, 65536), EINVAL);
+    EXPECT_EQ(posix_memalign(&block, 4, 65536), EINVAL);
     EXPECT_EQ(posix_memalign(&block, 48, 65536), EINVAL);
     ASSERT_EQ(block, nullptr);
 

@@ -16,7 +16,7 @@ NEW = "4.5", {}
 OLD = (("2.1", {}), ("1.4", {}), ("1.2", {}),
        ("1.2", {"MESA_EXTENSION_OVERRIDE": "-GL_SGIS_generate_mipmap"}))
 # The key, the scale, and by how much a channel may differ if GLU builds the mipmaps: GLU and the
-# driver round differently, by at most 1 in each level.
+# driver round differently, by at most 1 in each level. At scale 1 a little of level 1 is mixed in.
 VIEWS = (("0", 1, 1), ("Prior", 2 ** 0.25, 1), ("4", 1 / 4, 2))
 
 

@@ -15,6 +15,7 @@ from viewerdriver import (GRAY, PROGRAM, Viewer, ViewerTest, bmp_headers, part, 
 class Start(ViewerTest):
     def test_help_and_no_display(self):
         self.assertIn(f"usage: {PROGRAM} [option] file...\n", run(PROGRAM, "-h").decode())
+        self.assertIn(b" T posix_memalign\n", run("nm", "-D", PROGRAM))  # the driver uses it
         headless = {name: text for name, text in os.environ.items() if "DISPLAY" not in name}
         ended = subprocess.run((PROGRAM, "-h"), capture_output=True, env=headless)
         self.assertEqual((ended.returncode, ended.stdout, ended.stderr),

@@ -205,13 +205,13 @@ TEST_F(Jpeg, MakesSquaresAndBorders) {
         std::fill(image.begin(), image.end(), static_cast<unsigned char>(0xEE));
         EXPECT_TRUE(jpeginfo_t().decompress(image, jpegdata_of(bytes), row.unit, row.border,
                                             color3ub_t{1, 2, 3}));
-        EXPECT_EQ(pixels() == fresh, !row.border) << "only squares are cleared again";
+        EXPECT_TRUE(row.border || pixels() == fresh) << "squares are cleared again";
     }
     jpegdata_t const square = jpegdata_of(jpeg_of({6, 6, JCS_RGB, 1, 1}));
     EXPECT_TRUE(jpeginfo_t().decompress(image, square, 0, true, color3ub_t{1, 2, 3}));
     EXPECT_EQ(pixels().substr(8 * 8 * 3 - 3), "\1\2\3") << "the last corner";
     jpegdata_t const wide = jpegdata_of(jpeg_of({65500, 1, JCS_GRAYSCALE, 1, 1}));
-    capture_t const streams;
+    capture_t streams;
     EXPECT_FALSE(jpeginfo_t().decompress(image, wide, 256, true, white3ub)) << "65,536 columns";
 }
 
@@ -237,7 +237,7 @@ TEST_F(Jpeg, ChecksTheMemoryForPixelsAndCoefficients) {
             jpegdata_t out;
             image = {};
             s_memory_size = bytes * 2 + spare;
-            capture_t const streams;
+            capture_t streams;
             EXPECT_EQ(is_turned ? transform(request, JCOPY_NONE, out, data)
                                 : jpeginfo_t().decompress(image, data, 0, false, white3ub),
                       spare > 0)

@@ -167,6 +167,7 @@ TEST(PixelConvert, OtherSourcesAreSharedOrRejected) {
         for (auto const& [name, operation] : operations) {
             image2d_t dst;
             if (operation(dst, source)) {
+                EXPECT_TRUE(dst.begin() != source.begin() || dst.desc == source.desc) << name;
                 (dst.begin() == source.begin() ? shared : converted) += name;
             }
         }

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
+#include <string>
 
 #include "codecs/bmpimage.h"
 #include "codecs/jpegobject.h"
@@ -116,7 +117,7 @@ TEST(Samples, ScenesHaveTheirColours) {
 
 TEST(Samples, FilesHaveTheirFormatsAndTurns) {
     temp_dir_t const dir;
-    ASSERT_EQ(std::system((MAKE_SAMPLES " " + dir.path() + " 120").c_str()), 0);
+    ASSERT_EQ(std::system(("'" MAKE_SAMPLES "' '" + dir.path() + "' 120").c_str()), 0);
     for (scene_t const& scene : scenes) {
         image2d_t image, upright;
         unsigned long const turns = scene.load(image, dir.file(scene.file));

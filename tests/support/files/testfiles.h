@@ -69,7 +69,7 @@ inline std::string read_file(std::string const& path) {
 }
 
 /// Captures std::cout, and std::cerr together with stderr, until the end of the block, and then
-/// restores their format flags.
+/// restores the format flags of the C++ streams.
 class capture_t {
   public:
     capture_t() { std::setvbuf(stderr, nullptr, _IONBF, 0); }

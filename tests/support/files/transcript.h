@@ -37,8 +37,8 @@ inline std::string context_of(std::vector<std::string> const& lines, std::size_t
 }  // namespace transcript
 
 /// Succeeds if the file at `path` has exactly this text. A failure shows the first line that
-/// differs with three lines around it, from both. If the environment variable ZV_ACCEPT is set,
-/// writes the text to the file instead.
+/// differs, with up to three lines before and after it, from both. If the environment variable
+/// ZV_ACCEPT is set, writes the text to the file instead.
 inline testing::AssertionResult matches_file(std::string const& text, std::string const& path) {
     if (std::getenv("ZV_ACCEPT") != nullptr) {
         write_file(path, text);
