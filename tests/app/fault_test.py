@@ -174,8 +174,10 @@ class Machine(FaultTest):
             viewer = Viewer(self.path("a.bmp"))
             self.addCleanup(viewer.close)
             viewer.key("w")
-            wait_for("the view file", lambda: VIEW.fullmatch(self.files()["a.zvw"]))
-            self.old["a.zvw"] = self.files()["a.zvw"]
+            # files() would fail if the new file were renamed while it lists them.
+            view = pathlib.Path(self.path("a.zvw"))
+            wait_for("the view file", lambda: VIEW.fullmatch(view.read_bytes()))
+            self.old["a.zvw"] = view.read_bytes()
             end(viewer.process)
             self.assertRegex(viewer.end()[1], errors)
             self.assertEqual(viewer.process.returncode, status)
